@@ -1,0 +1,16 @@
+#pragma once
+#include <QString>
+#include <exception>
+
+/// A run-time error with the text that a person is shown. The store, the file system, the platform and the
+/// conversions of values throw it; a routine's Trap shows it and lets the caller go on.
+class Failure : public std::exception {
+ public:
+  explicit Failure(QString text) : text_(std::move(text)), utf8_(text_.toUtf8()) {}
+  const QString& Text() const { return text_; }
+  const char* what() const noexcept override { return utf8_.constData(); }
+
+ private:
+  QString text_;
+  QByteArray utf8_;
+};
