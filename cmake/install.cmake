@@ -1,1 +1,15 @@
 install(TARGETS loftkeep RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_VENDOR "Loftkeep")
+set(CPACK_PACKAGE_CONTACT "The Loftkeep developers")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Loaded at run time, so no scan of the program finds them: Qt's SVG plugins, certificates, Arial's widths.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, ca-certificates, fonts-liberation")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
+include(CPack)

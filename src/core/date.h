@@ -1,6 +1,7 @@
 #pragma once
 #include <QDate>
 #include <QDateTime>
+
 #include <compare>
 
 /// A date value: whole days since 30 December 1899 and a fraction for the time of day. 0 means no date.

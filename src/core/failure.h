@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+
 #include <exception>
 
 /// A run-time error with the text that a person is shown. The store, the file system, the platform and the

@@ -4,8 +4,8 @@
 #include "core/date.h"
 #include "core/money.h"
 
-/// Writes a date by a pattern of the system: d dd ddd dddd, m mm mmm mmmm, yy yyyy, h hh n nn s ss AM/PM, the rest as it
-/// stands. "m" right after an "h" pattern counts as minutes. No date (0) is written as 30 December 1899 would be.
+/// Writes a date by a pattern of the system: d dd ddd dddd, m mm mmm mmmm, yy yyyy, h hh n nn s ss AM/PM, the rest as
+/// it stands. "m" right after an "h" pattern counts as minutes. No date (0) is written as 30 December 1899 would be.
 QString Format(Date date, const QString& pattern);
 
 /// Writes a number by a pattern of the system: 0 is a digit that always shows, # one that shows when needed, a comma

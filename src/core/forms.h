@@ -1,6 +1,7 @@
 #pragma once
 #include <QString>
 #include <QStringList>
+
 #include <functional>
 
 /// A screen as the rest of the program knows it: a name, and what can be asked of it without knowing its widgets.
@@ -9,8 +10,8 @@ class LoadedForm {
   virtual ~LoadedForm() = default;
   virtual QString FormName() const = 0;  ///< "frmJob"
   virtual bool FormIsShown() const = 0;
-  virtual void ReloadForm() = 0;         ///< read the data anew and show it
-  virtual void UnloadForm() = 0;         ///< close and forget; the next use makes a fresh one
+  virtual void ReloadForm() = 0;  ///< read the data anew and show it
+  virtual void UnloadForm() = 0;  ///< close and forget; the next use makes a fresh one
 };
 
 /// The forms collection: every screen that is loaded, in load order. Each is a single shared instance.

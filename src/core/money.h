@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+
 #include <compare>
 
 /// A fixed-point amount with four decimals, held as a 64-bit count of ten-thousandths.
@@ -21,7 +22,10 @@ class Money {
   friend constexpr bool operator==(Money, Money) = default;
   friend constexpr Money operator+(Money a, Money b) { return Money(a.units_ + b.units_); }
   friend constexpr Money operator-(Money a, Money b) { return Money(a.units_ - b.units_); }
-  constexpr Money& operator+=(Money other) { units_ += other.units_; return *this; }
+  constexpr Money& operator+=(Money other) {
+    units_ += other.units_;
+    return *this;
+  }
 
   static constexpr qint64 kScale = 10000;
 

@@ -1,6 +1,7 @@
 #pragma once
 #include <QString>
 #include <QStringList>
+
 #include <optional>
 
 /// The one seam between the routines and the boxes that a person answers. The program installs the boxes of the

@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+
 #include <exception>
 #include <utility>
 

@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+
 #include <variant>
 
 #include "core/date.h"
@@ -36,13 +37,13 @@ class Value {
   bool IsInteger() const { return std::holds_alternative<qint64>(data_); }
   bool IsDouble() const { return std::holds_alternative<double>(data_); }
 
-  int ToInt() const;          ///< 32-bit integer; fractions round half to even, true is -1
-  int ToInt16() const;        ///< the same, within -32768 to 32767
+  int ToInt() const;    ///< 32-bit integer; fractions round half to even, true is -1
+  int ToInt16() const;  ///< the same, within -32768 to 32767
   double ToDouble() const;
-  bool ToBool() const;        ///< any number but 0 is true
+  bool ToBool() const;  ///< any number but 0 is true
   Money ToMoney() const;
-  Date ToDate() const;        ///< numbers are serial days; texts go through the conversion of core/dates.h
-  QString ToText() const;     ///< numbers in their shortest form, dates "m/d/yyyy", booleans "True" and "False"
+  Date ToDate() const;     ///< numbers are serial days; texts go through the conversion of core/dates.h
+  QString ToText() const;  ///< numbers in their shortest form, dates "m/d/yyyy", booleans "True" and "False"
 
   friend bool operator==(const Value&, const Value&) = default;
 

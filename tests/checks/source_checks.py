@@ -1,0 +1,114 @@
+#!/usr/bin/env python3
+"""The rules of the source text that no compiler keeps: source_checks.py ROOT CLANG_FORMAT
+
+Prints a line for each fault, with file and line, and ends with 1 if there is one."""
+import re
+import subprocess
+import sys
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+FOLDERS = ("src", "tests", "bench", "support", "cmake", "docs", ".ci")
+CODE = r"^(src|tests|bench)/.*\.(cpp|h)$"
+FORM = r"^src/.*\.ui$"
+
+# The banned words stand here in two pieces, or this file would be its own first fault.
+# (files, files let off, what must not stand there, what to do instead)
+LINE_RULES = [
+    (r"^src/.*\.(cpp|h)$", r"^src/core/widgets/qt_prompts\.", r"\bQ(MessageBox|InputDialog|FileDialog)\b",
+     "boxes show through core/prompts.h"),
+    (r"^src/.*\.(cpp|h)$", r"/(screens|widgets)/|^src/main\.cpp$",
+     r"#\s*include\s*<Q(Widget|Application|Dialog|Table|Tree|Label|LineEdit|Push|Menu|Message)",
+     "widgets stand in screens/ and widgets/ only"),
+    (CODE, None, r"\b(SIGNAL|SLOT)\s*\(", "connect with pointers to members"),
+    (CODE, None, r"\bQ(SKIP|EXPECT_FAIL)\b", "a test tests, or it goes"),
+    (r"", None, r"\b(TO" r"DO|FIX" r"ME|XX" r"X)\b", "finish it"),
+    (r"", None, r"\bPart\s\d+\.\d|\bsp" r"ec\.md\b|\b[Ss]peci" r"fication",
+     "speak of the system itself"),
+]
+
+INPUTS = {"QLineEdit", "QTextEdit", "QPlainTextEdit", "QTextBrowser", "QComboBox", "QFontComboBox", "QSpinBox",
+          "QDoubleSpinBox", "QDateEdit", "QTimeEdit", "QDateTimeEdit", "QSlider", "QListWidget", "QListView",
+          "QTableWidget", "QTableView", "QTreeWidget", "QTreeView", "QCalendarWidget", "Grid"}
+BUTTONS = {"QPushButton", "QToolButton", "QCheckBox", "QRadioButton"}
+
+
+def texts(root):
+    """All text files of the tree: (path relative to the root, content)."""
+    paths = [path for path in root.iterdir() if path.is_file()]
+    for folder in FOLDERS:
+        paths += [path for path in (root / folder).rglob("*") if path.is_file() and "__pycache__" not in path.parts]
+    for path in sorted(paths):
+        try:
+            yield path.relative_to(root).as_posix(), path.read_bytes().decode("utf-8")
+        except UnicodeDecodeError:
+            pass  # a picture or another binary
+
+
+def line_faults(path, text):
+    for files, let_off, banned, advice in LINE_RULES:
+        if re.search(files, path) and not (let_off and re.search(let_off, path)):
+            for number, line in enumerate(text.splitlines(), 1):
+                if found := re.search(banned, line):
+                    yield f"{path}:{number}: {found.group().strip()}: {advice}"
+
+
+def include_faults(path, text):
+    """Only a subsystem's own screens include its screens' headers; the others go through its screens.h."""
+    if not re.search(r"^src/.*\.(cpp|h)$", path):
+        return
+    for number, line in enumerate(text.splitlines(), 1):
+        found = re.match(r'\s*#\s*include\s*"([\w/]*\bscreens/)', line)
+        if found and not path.startswith("src/" + found.group(1)):
+            yield f"{path}:{number}: {found.group(1)} is closed here: go through the doors in its screens.h"
+
+
+def property_of(widget, name):
+    value = widget.find(f"property[@name='{name}']")
+    return "".join(value.itertext()).strip() if value is not None else ""
+
+
+def form_faults(path, text):
+    """Labels show data as it is, and whoever cannot see the form hears what each control is for."""
+    if not re.search(FORM, path):
+        return
+    form = ElementTree.fromstring(text)
+    base = {custom.findtext("class"): custom.findtext("extends") for custom in form.iter("customwidget")}
+    widgets = list(form.iter("widget"))
+    buddies = {property_of(widget, "buddy") for widget in widgets}
+    for widget in widgets:
+        kind, name = widget.get("class"), widget.get("name")
+        kinds = {kind, base.get(kind)}
+        if "QLabel" in kinds and property_of(widget, "textFormat") != "Qt::PlainText":
+            yield f"{path}: {name}: a label has the textFormat Qt::PlainText"
+        if kinds & INPUTS and name not in buddies and not property_of(widget, "accessibleName"):
+            yield f"{path}: {name}: an input has a label that is its buddy, or an accessibleName"
+        if kinds & BUTTONS and not property_of(widget, "text") and not property_of(widget, "accessibleName"):
+            yield f"{path}: {name}: a button has a text or an accessibleName"
+
+
+def format_faults(root, paths, clang_format):
+    code = [str(root / path) for path in paths if re.search(CODE, path)]
+    if code:
+        style = f"--style=file:{Path(__file__).resolve().parents[2] / '.clang-format'}"
+        told = subprocess.run([clang_format, style, "--dry-run", "-Werror", *code], capture_output=True, text=True)
+        if told.returncode:
+            yield "clang-format -i would change:\n" + told.stderr
+
+
+def faults_of(root, clang_format):
+    paths = []
+    for path, text in texts(root):
+        paths.append(path)
+        yield from line_faults(path, text)
+        yield from include_faults(path, text)
+        yield from form_faults(path, text)
+    yield from format_faults(root, paths, clang_format)
+
+
+if __name__ == "__main__":
+    found = list(faults_of(Path(sys.argv[1]).resolve(), sys.argv[2]))
+    for fault in found:
+        print(fault)
+    print(f"source checks: {len(found)} faults")
+    sys.exit(1 if found else 0)
