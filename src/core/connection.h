@@ -1,0 +1,58 @@
+#pragma once
+#include <QString>
+
+class Database;
+
+/// The one shared connection to the database file, opened on demand and closed by the routine that opened it.
+///
+/// Every routine that touches the database follows one bracket: when the connection is closed it opens it, does its
+/// work, and closes it again if it was the one who opened it. So the connection is held for the length of the
+/// outermost routine. Beneath, that length is one transaction; a box or a dialog ends it early. The busy pointer
+/// shows while the connection is open.
+
+extern QString ConnectionString;  ///< "Provider=...;Data Source=<file>;..."
+extern bool ConnectionIsOpen;     ///< every routine tests this flag
+extern bool KeepConnectionOpen;   ///< while set, ConnectionClose does nothing
+extern int ConnectionCount;       ///< opens counted for the developer; -999 tells the start-up to stop at once
+extern bool CountDbAccess;        ///< the developer switch that counts
+extern void (*ShowConnectionCount)(int count);  ///< where the count shows
+
+/// The connection text for a database file.
+QString ConnectionStringFor(const QString& path);
+/// The file that the present connection text names.
+QString DatabasePath();
+
+/// Opens the connection. A failure shows its box, titled "Sub ConnectionStart", and leaves the connection closed.
+void ConnectionStart();
+
+/// Closes the connection and commits what its bracket wrote. Closed already: a box says so. A commit that fails takes
+/// the bracket's writes back and throws Failure, with the connection closed.
+void ConnectionClose();
+
+/// The open database; throws Failure when the connection is closed.
+Database& OpenDatabase();
+
+/// Closes the file's handle, which otherwise stays warm; whoever copies, deletes or replaces the file calls this first.
+/// The connection must be closed.
+void ReleaseDatabaseFile();
+
+/// Commits what has been written so far; a failure shows its box. Called before anything waits for the person.
+void SettleConnection();
+
+/// The bracket of a routine.
+class Bracket {
+ public:
+  Bracket();
+  /// Leaves the connection to the bracket outside, or closes it.
+  ~Bracket();
+  Bracket(const Bracket&) = delete;
+  Bracket& operator=(const Bracket&) = delete;
+  /// The regular end; a failing commit throws from here.
+  void Close();
+  /// A failure in this bracket leaves the connection open.
+  void LeaveOpenOnFailure() { leaveOpen_ = true; }
+
+ private:
+  bool opened_ = false;
+  bool leaveOpen_ = false;
+};
