@@ -121,9 +121,8 @@ Decimal Decimal::FromTenThousandths(qint64 units) {
 }
 
 double Decimal::ToDouble() const {
-  bool fits = false;
-  const double number = ToText().toDouble(&fits);
-  if (!fits) throw Failure(u"Overflow"_s);
+  const double number = ToText().toDouble();
+  if (std::isinf(number)) throw Failure(u"Overflow"_s);
   return number;
 }
 
