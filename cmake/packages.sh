@@ -23,7 +23,7 @@ packages=(
 
 Say() { printf '== %s\n' "$*"; }
 
-# Installs what is missing of the list; says nothing to do where nothing is.
+# Installs what is missing of the list.
 InstallPackages() {
   if ! command -v apt-get >/dev/null; then
     Say "No apt-get here: taking it that these are installed: ${packages[*]}"
@@ -53,6 +53,7 @@ Build() {
   local preset=$1
   shift
   Say "Building ($preset)"
+  mkdir -p build
   cmake --preset "$preset" >"build/$preset.log" 2>&1 || { cat "build/$preset.log"; return 1; }
   cmake --build --preset "$preset" "$@"
 }
