@@ -1,0 +1,18 @@
+#pragma once
+class QLineEdit;
+class QWidget;
+
+/// Lengths are given in twips where the trade's tables do; 15 are one pixel at 96 dpi.
+constexpr int FromTwips(int twips) { return twips / 15; }
+
+/// Selects all text of a box, from the start, and puts the cursor into it.
+void SelectAllInBox(QLineEdit* box);
+
+/// Enables or disables all controls of a form; labels keep their look.
+void EnableControls(QWidget* form, bool enabled);
+
+/// Shows the busy pointer and idles; the screens go on painting, but take no input.
+void WaitSeconds(double seconds);
+
+/// Places a form over the middle of its caller, or of the screen when there is no caller on show; never off the screen.
+void CentreForm(QWidget* form, const QWidget* caller = nullptr);
