@@ -18,9 +18,15 @@ void CellEditor::keyPressEvent(QKeyEvent* event) {
   }
   switch (event->key()) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: Q_EMIT Entered(); break;
-    case Qt::Key_Escape: Q_EMIT Abandoned(); break;
-    default: QLineEdit::keyPressEvent(event); return;
+    case Qt::Key_Enter:
+      Q_EMIT Entered();
+      break;
+    case Qt::Key_Escape:
+      Q_EMIT Abandoned();
+      break;
+    default:
+      QLineEdit::keyPressEvent(event);
+      return;
   }
   event->accept();
 }

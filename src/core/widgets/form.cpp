@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QWindow>
+
 #include <vector>
 
 #include "core/prompts.h"

@@ -5,9 +5,9 @@
 
 class QMenuBar;
 
-/// The base of every screen. A screen is one shared instance (SharedForm), in the forms collection from its making until
-/// it is unloaded. The caller sets its input, shows it, and after ShowModal reads its results and its tag. A derived
-/// class carries Q_OBJECT: its class name is the form's name ("frmJob").
+/// The base of every screen. A screen is one shared instance (SharedForm), in the forms collection from its making
+/// until it is unloaded. The caller sets its input, shows it, and after ShowModal reads its results and its tag. A
+/// derived class carries Q_OBJECT: its class name is the form's name ("frmJob").
 class Form : public QDialog, public LoadedForm {
   Q_OBJECT
  public:

@@ -205,9 +205,9 @@ void Grid::SelectRow(int row) {
 void Grid::SelectCell(int row, int column) {
   if (!model_.Has(row, column)) return;
   const QModelIndex index = model_.index(row, column);
-  selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
-                                               (selectionBehavior() == SelectRows ? QItemSelectionModel::Rows
-                                                                                  : QItemSelectionModel::NoUpdate));
+  selectionModel()->setCurrentIndex(
+      index, QItemSelectionModel::ClearAndSelect |
+                 (selectionBehavior() == SelectRows ? QItemSelectionModel::Rows : QItemSelectionModel::NoUpdate));
   scrollTo(index);
 }
 
@@ -244,7 +244,8 @@ void Grid::TellChange() {
 
 QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex& index, const QEvent* event) const {
   // Ctrl and a click has a meaning of its own; it must not take the selection away.
-  const bool mouse = event && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease);
+  const bool mouse =
+      event && (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease);
   if (mouse && selectionMode() == SingleSelection) {
     if (!index.isValid()) return QItemSelectionModel::NoUpdate;
     return QItemSelectionModel::ClearAndSelect |
@@ -264,11 +265,16 @@ bool Grid::SendKey(int key) {
   };
   switch (key) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: return send(&Grid::CellEnter);
-    case Qt::Key_F2: return send(&Grid::CellF2);
-    case Qt::Key_Space: return send(&Grid::CellSpace);
-    case Qt::Key_Delete: return send(&Grid::CellDelete);
-    default: return false;
+    case Qt::Key_Enter:
+      return send(&Grid::CellEnter);
+    case Qt::Key_F2:
+      return send(&Grid::CellF2);
+    case Qt::Key_Space:
+      return send(&Grid::CellSpace);
+    case Qt::Key_Delete:
+      return send(&Grid::CellDelete);
+    default:
+      return false;
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 #include <QPersistentModelIndex>
 #include <QTableView>
+
 #include <optional>
 
 #include "core/widgets/grid_model.h"

@@ -1,6 +1,7 @@
 #include "core/widgets/grid_model.h"
 
 #include <QFont>
+
 #include <algorithm>
 #include <numeric>
 
@@ -30,11 +31,23 @@ double DateKey(const QString& text) {
   return year * 10000.0 + parts[0] * 100.0 + parts[1];
 }
 
-/// The first four characters as one number: it decides most comparisons without touching the texts.
-quint64 Prefix(const QString& folded) {
+/// Four characters as one number: it decides most comparisons without touching the texts.
+quint64 Prefix(const QString& folded, qsizetype from) {
   quint64 key = 0;
-  for (qsizetype i = 0; i < 4; ++i) key = (key << 16) | (i < folded.size() ? folded[i].unicode() : 0);
+  for (qsizetype i = from; i < from + 4; ++i) key = (key << 16) | (i < folded.size() ? folded[i].unicode() : 0);
   return key;
+}
+
+/// How many characters all texts begin with in common.
+qsizetype CommonLength(const std::vector<QString>& texts) {
+  if (texts.empty()) return 0;
+  qsizetype common = texts.front().size();
+  for (const QString& text : texts) {
+    common = std::min(common, text.size());
+    const auto [end, other] = std::mismatch(text.cbegin(), text.cbegin() + common, texts.front().cbegin());
+    common = end - text.cbegin();
+  }
+  return common;
 }
 
 template <typename Entry, typename Less>
@@ -63,10 +76,9 @@ std::vector<int> SortedOrder(const std::vector<const QString*>& texts, GridSort 
     std::vector<Entry> entries;
     folded.reserve(texts.size());
     entries.reserve(texts.size());
-    for (int i = 0; i < count; ++i) {
-      folded.push_back(texts[static_cast<size_t>(i)]->toCaseFolded());
-      entries.push_back({Prefix(folded.back()), i});
-    }
+    for (const QString* text : texts) folded.push_back(text->toCaseFolded());
+    const qsizetype common = CommonLength(folded);
+    for (int i = 0; i < count; ++i) entries.push_back({Prefix(folded[static_cast<size_t>(i)], common), i});
     return OrderOf(entries, order, [&](const Entry& a, const Entry& b) {
       if (a.prefix != b.prefix) return a.prefix < b.prefix;
       return folded[static_cast<size_t>(a.index)] < folded[static_cast<size_t>(b.index)];
@@ -211,7 +223,8 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
   if (!Has(index.row(), index.column())) return {};
   switch (role) {
-    case Qt::DisplayRole: return Text(index.row(), index.column());
+    case Qt::DisplayRole:
+      return Text(index.row(), index.column());
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(columns_[static_cast<size_t>(index.column())].alignment | Qt::AlignVCenter);
     case Qt::BackgroundRole: {
@@ -229,7 +242,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         return bold;
       }
       return {};
-    default: return {};
+    default:
+      return {};
   }
 }
 
@@ -237,9 +251,13 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
   if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
   const GridColumn& column = columns_[static_cast<size_t>(section)];
   switch (role) {
-    case Qt::DisplayRole: return column.heading;
-    case Qt::AccessibleTextRole: return column.heading.isEmpty() ? column.name : column.heading;
-    case Qt::TextAlignmentRole: return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
-    default: return {};
+    case Qt::DisplayRole:
+      return column.heading;
+    case Qt::AccessibleTextRole:
+      return column.heading.isEmpty() ? column.name : column.heading;
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
+    default:
+      return {};
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include <QAbstractTableModel>
 #include <QColor>
+
 #include <functional>
 #include <map>
 #include <memory>
@@ -15,7 +16,7 @@ struct GridColumn {
   int width = 100;  ///< pixels (FromTwips helps); 0 hides the column for good
   Qt::Alignment alignment = Qt::AlignLeft;
   GridSort sort = GridSort::Text;
-  int sortKey = -1;  ///< the column whose numbers order the rows in this one's place, such as a hidden "yyyymmdd"
+  int sortKey = -1;   ///< the column whose numbers order the rows in this one's place, such as a hidden "yyyymmdd"
   QString name = {};  ///< for memory and screen readers, where the heading is empty
 };
 

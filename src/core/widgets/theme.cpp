@@ -52,12 +52,15 @@ class LoftStyle : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     switch (metric) {
       case PM_LayoutHorizontalSpacing:
-      case PM_LayoutVerticalSpacing: return kSpacing;
+      case PM_LayoutVerticalSpacing:
+        return kSpacing;
       case PM_LayoutLeftMargin:
       case PM_LayoutTopMargin:
       case PM_LayoutRightMargin:
-      case PM_LayoutBottomMargin: return kMargin;
-      default: return QProxyStyle::pixelMetric(metric, option, widget);
+      case PM_LayoutBottomMargin:
+        return kMargin;
+      default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
     }
   }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include <QPalette>
+
 #include <optional>
 
 class QApplication;
@@ -17,9 +18,9 @@ bool ThemeIsDark();
 QPalette ThemePalette(bool dark);
 
 /// Looks of single widgets. In a .ui file the dynamic properties `heading`, `hint` and `primary` (bool) do the same.
-void MakeHeading(QLabel* label);       ///< the title of a screen or of a part of it
-void MakeHint(QLabel* label);          ///< a quieter note
-void MakePrimary(QPushButton* button); ///< the button that does what the screen is for; default buttons are it anyway
+void MakeHeading(QLabel* label);        ///< the title of a screen or of a part of it
+void MakeHint(QLabel* label);           ///< a quieter note
+void MakePrimary(QPushButton* button);  ///< the button that does what the screen is for; default buttons are it anyway
 
 /// Text colour that can be read on a background.
 QColor ReadableOn(const QColor& background);

@@ -16,7 +16,7 @@ W& Control(QWidget& screen, const QString& name) {
   NoSuchControl(screen, name);
 }
 
-void Click(QWidget& screen, const QString& button);             ///< by the mouse; a disabled button stays unpressed
+void Click(QWidget& screen, const QString& button);  ///< by the mouse; a disabled button stays unpressed
 void TypeInto(QWidget& screen, const QString& box, const QString& text);  ///< in the place of what stands there
 void PressKey(QWidget& screen, const QString& control, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {});

@@ -1,5 +1,6 @@
 #pragma once
 #include <QObject>
+
 #include <functional>
 #include <list>
 #include <source_location>
