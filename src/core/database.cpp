@@ -332,8 +332,14 @@ const std::vector<Field>& Database::FieldsOf(const QString& table) {
   return *fields_.insert(key, std::move(fields));
 }
 
-void Database::ForgetSchema() {
+void Database::ChangeSchema(const QByteArray& sql) {
   FreezeRecordsets();
+  ForgetPrepared();
+  BeginIfNeeded();
+  ExecuteRaw(sql);
+}
+
+void Database::ForgetPrepared() {
   for (const auto& pool : std::as_const(prepared_)) qDeleteAll(pool);
   prepared_.clear();
   fields_.clear();

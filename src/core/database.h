@@ -58,8 +58,8 @@ class Database {
 
   /// Runs an action statement.
   void Execute(const QString& statement);
-  /// SQLite's own dialect, for the schema.
-  void ExecuteRaw(const QByteArray& sql);
+  /// Creates or alters, in SQLite's own dialect; what was prepared before is forgotten.
+  void ChangeSchema(const QByteArray& sql);
 
   /// What is wanted of a query: its rows, or only how many there are.
   enum class Want { Rows, Count };
@@ -73,7 +73,6 @@ class Database {
 
   /// Fields of a table, empty when there is no such table.
   const std::vector<Field>& FieldsOf(const QString& table);
-  void ForgetSchema();
   int CountIndexes();
 
   /// The open transaction: begun by the first statement after Settle, ended by Settle. A commit that fails (a full
@@ -89,6 +88,8 @@ class Database {
   qint64 LastInsertId() const;
 
  private:
+  void ExecuteRaw(const QByteArray& sql);
+  void ForgetPrepared();
   void BeginIfNeeded();
   std::unique_ptr<Prepared> Prepare(const QString& statement, Want want);
   void BindLiterals(Prepared& prepared, const std::vector<jet::Literal>& literals);

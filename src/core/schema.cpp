@@ -255,10 +255,7 @@ void CreateTable(const QString& table, const QString& field, int type, bool auto
         Bracket bracket;
         const QByteArray column =
             autoIncrement ? '[' + field.toUtf8() + "] INTEGER PRIMARY KEY AUTOINCREMENT" : ColumnText(field, type, 0);
-        Database& database = OpenDatabase();
-        database.Settle();
-        database.ExecuteRaw("CREATE TABLE [" + table.toUtf8() + "] (" + column + ')');
-        database.ForgetSchema();
+        OpenDatabase().ChangeSchema("CREATE TABLE [" + table.toUtf8() + "] (" + column + ')');
         bracket.Close();
       },
       [&] {
@@ -268,10 +265,7 @@ void CreateTable(const QString& table, const QString& field, int type, bool auto
 
 void AppendField(const QString& table, const QString& field, int type, int size) {
   Bracket bracket;
-  Database& database = OpenDatabase();
-  database.Settle();
-  database.ExecuteRaw("ALTER TABLE [" + table.toUtf8() + "] ADD COLUMN " + ColumnText(field, type, size));
-  database.ForgetSchema();
+  OpenDatabase().ChangeSchema("ALTER TABLE [" + table.toUtf8() + "] ADD COLUMN " + ColumnText(field, type, size));
   bracket.Close();
 }
 
@@ -282,11 +276,9 @@ void CreateIndexes() {
     bracket.Close();
     return;
   }
-  database.Settle();
   for (const Index& index : kIndexes) {
     const QByteArray name = QByteArray("idx_") + index.table + '_' + index.field;
-    database.ExecuteRaw("CREATE INDEX IF NOT EXISTS [" + name + "] ON [" + index.table + "] ([" + index.field + "])");
+    database.ChangeSchema("CREATE INDEX IF NOT EXISTS [" + name + "] ON [" + index.table + "] ([" + index.field + "])");
   }
-  database.ForgetSchema();
   bracket.Close();
 }
