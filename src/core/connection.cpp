@@ -80,6 +80,7 @@ void SettleConnection() {
 }
 
 Bracket::Bracket() {
+  ++standing_;
   if (ConnectionIsOpen) return;
   ConnectionStart();
   opened_ = true;
@@ -91,6 +92,7 @@ void Bracket::Close() {
 }
 
 Bracket::~Bracket() {
+  --standing_;
   if (!opened_ || !ConnectionIsOpen) return;
   if (leaveOpen_ && std::uncaught_exceptions() > 0) return;
   try {
@@ -98,4 +100,8 @@ Bracket::~Bracket() {
   } catch (const std::exception& error) {
     MsgBox(FailureText(error), u"Sub ConnectionClose"_s, Icon::Exclamation);
   }
+}
+
+void CloseLeftOpenConnection() {
+  if (ConnectionIsOpen && !Bracket::Stands()) Trap(u"Sub ConnectionClose"_s, [] { ConnectionClose(); });
 }

@@ -51,8 +51,14 @@ class Bracket {
   void Close();
   /// A failure in this bracket leaves the connection open.
   void LeaveOpenOnFailure() { leaveOpen_ = true; }
+  /// True while some routine stands inside its bracket.
+  static bool Stands() { return standing_ > 0; }
 
  private:
   bool opened_ = false;
   bool leaveOpen_ = false;
+  static inline int standing_ = 0;
 };
+
+/// Closes a connection that was left open by a routine that failed; one in use by a routine stays.
+void CloseLeftOpenConnection();

@@ -1,0 +1,52 @@
+#include "core/splash_info.h"
+
+#include <QStringList>
+
+#include "core/access.h"
+#include "core/clock.h"
+#include "core/default_rows.h"
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/trap.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Counted(int count, const QString& what) { return QString::number(count) + what; }
+
+/// What falls due up to a day; the windows overlap, so what is overdue counts in each.
+QString DueLine(Date day, const QString& what) {
+  const int count =
+      GetNumberRecordsComplex(u"Select * from tblSchedules where DateDue <= #"_s + Format(day, u"mm/dd/yyyy"_s) + u'#')
+          .ToInt();
+  return (count == 1 ? u"There is 1 task"_s : u"There are "_s + QString::number(count) + u" tasks"_s) + what;
+}
+
+}  // namespace
+
+QString GetSplashInfo() {
+  QStringList lines;
+  Trap(u"Function GetSplashInfo"_s, [&] {
+    Bracket bracket;
+    lines << Counted(GetNumberRecordsInTable(u"tblPeople"_s), u" customers "_s)
+          << Counted(GetNumberRecordsInTable(u"tblRig"_s), u" rigs"_s) << QString()
+          << Counted(GetNumberRecordsInTable(u"tblJobs"_s), u" invoices"_s)
+          << Counted(GetNumberRecordsInTable(u"tblTasks"_s), u" tasks"_s)
+          << Counted(GetNumberRecords(u"tblTasks"_s, u"TaskLibID"_s, RepackTaskLibID), u" reserve pack jobs"_s)
+          << Counted(GetNumberRecordsInTable(u"tblManufacturers"_s), u" manufactures"_s)
+          << Counted(GetNumberRecordsInTable(u"tblModels"_s), u" models"_s) << QString()
+          << Counted(GetNumberRecordsInTable(u"tblSchedules"_s), u" scheduled tasks"_s);
+    const int riggers = GetNumberRecordsComplex(u"Select * from tblPeople where rigger = true"_s).ToInt();
+    lines << (riggers == 1 ? u"1 rigger"_s : Counted(riggers, u" riggers"_s)) << QString()
+          << DueLine(Today() - 1, u" overdue"_s) << DueLine(Today() + 30, u" due within 30 days"_s)
+          << DueLine(Today() + 60, u" due within 60 days"_s) << DueLine(Today() + 90, u" due within 90 days"_s);
+    bracket.Close();
+  });
+  return Lines(lines);
+}
+
+QString LastBackupText() {
+  const Date date = GetValueFromTableBySQL(u"tblMisc"_s, u"LastBackupDate"_s).ToDate();
+  return u"Last database backup was performed on "_s + (date.IsNone() ? u"(never!)"_s : Format(date, u"mm/dd/yyyy"_s));
+}

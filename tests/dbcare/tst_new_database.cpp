@@ -1,0 +1,145 @@
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include "core/access.h"
+#include "core/data_folder.h"
+#include "core/files.h"
+#include "dbcare/check_fields.h"
+#include "dbcare/new_database.h"
+#include "support/scripted_prompts.h"
+#include "support/temp_folder.h"
+
+using namespace Qt::StringLiterals;
+
+class NewDatabaseTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void init() {
+    folder_ = std::make_unique<TempFolder>();
+    before_ = QDir::currentPath();
+    QDir::setCurrent(folder_->MakeFolder(u"program"_s));
+    qputenv("XDG_DATA_HOME", folder_->MakeFolder(u"home"_s).toUtf8());
+    SetDataFolder();
+    CreateSubFolders();
+  }
+  void cleanup() {
+    if (ConnectionIsOpen) ConnectionClose();
+    ReleaseDatabaseFile();
+    QDir::setCurrent(before_);
+    folder_.reset();
+  }
+
+  void WithoutAnEmptyDatabaseTheSchemaMakesOne() {
+    ScriptedPrompts prompts;
+    prompts.ExpectBox(u"Create new database"_s,
+                      u"Preparing to create new database.\n\nThis should take just a few seconds .........."_s);
+    prompts.ExpectBox(u"Creating new database file"_s,
+                      u"The file 'blank.mdb' could not be found.\n\nA database file will now be created."_s);
+    CreateNewDatabase();
+    QCOMPARE(DatabasePath(), DatabaseFile());
+    QCOMPARE(GetNumberRecordsInTable(u"tblTaskLibRigType"_s), 0);
+    QVERIFY(IsValidDatabase(DatabaseFile()));
+  }
+
+  void AnEmptyDatabaseIsCopied() {
+    ScriptedPrompts prompts;
+    MakeDatabase(SupportFile(u"blank.mdb"_s), u"Copied"_s);
+    prompts.ExpectBox(u"Create new database"_s,
+                      u"Preparing to create new database.\n\nThis should take just a few seconds .........."_s);
+    CreateNewDatabase();
+    QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"ID"_s, 1, u"LastName"_s).ToText(), u"Copied"_s);
+  }
+
+  void TellsAValidDatabase() {
+    ScriptedPrompts prompts;
+    const QString good = *folder_ / u"good.mdb"_s;
+    MakeDatabase(good, u"Lee"_s);
+    QVERIFY(IsValidDatabase(good));
+    ConnectionString = ConnectionStringFor(good);
+    UpdateTableBySQL(u"delete * from tblPeople"_s);
+    {
+      Bracket bracket;
+      OpenDatabase().ChangeSchema("DROP TABLE tblSchedules");
+    }
+    QVERIFY(!IsValidDatabase(good));
+    QCOMPARE(DatabasePath(), good);
+    QVERIFY(!IsValidDatabase(folder_->Write(u"words.mdb"_s, "no database at all")));
+    QVERIFY(!IsValidDatabase(*folder_ / u"missing.mdb"_s));
+  }
+
+  void BackupsAreNumberedAboveTheHighest() {
+    ScriptedPrompts prompts;
+    QCOMPARE(NextDBfile(), u"db00001.mdb"_s);
+    for (const char* name : {"db00001.mdb", "db00007.mdb", "db000099.mdb", "db0009.mdb", "xx00050.mdb", "db00060.txt"})
+      folder_->Write(u"home/loftkeep/backup/"_s + QString::fromLatin1(name), "x");
+    QCOMPARE(NextDBfile(), u"db00008.mdb"_s);
+  }
+
+  void ABackupIsTheWholeFile() {
+    ScriptedPrompts prompts;
+    MakeDatabase(DatabaseFile(), u"Lee"_s);
+    QString name;
+    MakeBackupCopy(false, name);
+    QCOMPARE(name, u"db00001.mdb"_s);
+    QCOMPARE(folder_->Read(u"home/loftkeep/backup/db00001.mdb"_s), folder_->Read(u"home/loftkeep/loftkeep.mdb"_s));
+    MakeBackupCopy(true, name);
+    QCOMPARE(name, u"db00002.mdb"_s);
+    QVERIFY(!ExistFile(DatabaseFile()));
+    QVERIFY(IsValidDatabase(DataPath + u"backup/db00002.mdb"_s));
+  }
+
+  void AFileIsInstalledAfterABackup() {
+    ScriptedPrompts prompts;
+    MakeDatabase(DatabaseFile(), u"Old"_s);
+    const QString other = *folder_ / u"other.mdb"_s;
+    MakeDatabase(other, u"New"_s);
+    ConnectionString = ConnectionStringFor(other);
+    {
+      Bracket bracket;
+      OpenDatabase().ChangeSchema("ALTER TABLE tblTasks DROP COLUMN LocationID");
+    }
+    ReleaseDatabaseFile();
+    ConnectionString = ConnectionStringFor(DatabaseFile());
+    prompts.ExpectBox(
+        u"Back up created"_s,
+        u"A backup copy of your current database file\nnamed 'db00001.mdb' has been created and placed  \n"
+        "in the Loftkeep backup folder"_s);
+    prompts.ExpectBox(u"Done"_s, u"Database installation complete"_s);
+    QVERIFY(InstallDatabaseFile(other));
+    QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"ID"_s, 1, u"LastName"_s).ToText(), u"New"_s);
+    Bracket bracket;
+    const Recordset tasks(u"tblTasks"_s);
+    QVERIFY(tasks.ColumnOf(u"LocationID") > 0);
+  }
+
+  void AnInvalidOrMissingFileChangesNothing() {
+    ScriptedPrompts prompts;
+    MakeDatabase(DatabaseFile(), u"Old"_s);
+    const QByteArray before = folder_->Read(u"home/loftkeep/loftkeep.mdb"_s);
+    const QString words = folder_->Write(u"words.mdb"_s, "no database at all");
+    prompts.ExpectBox(u"Invalid file"_s, words + u" is NOT a valid Loftkeep database file"_s);
+    QVERIFY(!InstallDatabaseFile(words));
+    prompts.ExpectBox(u"File doesn't exist"_s, words + u"x"_s);
+    QVERIFY(!InstallDatabaseFile(words + u"x"_s));
+    QCOMPARE(folder_->Read(u"home/loftkeep/loftkeep.mdb"_s), before);
+    QCOMPARE(NextDBfile(), u"db00001.mdb"_s);
+  }
+
+ private:
+  static void MakeDatabase(const QString& path, const QString& lastName) {
+    const QString before = std::exchange(ConnectionString, ConnectionStringFor(path));
+    Database::CreateFile(path);
+    CheckAllFields(false);
+    UpdateTableBySQL(u"insert into tblPeople (LastName) values ('%1')"_s.arg(lastName));
+    ReleaseDatabaseFile();
+    ConnectionString = before.isEmpty() ? ConnectionStringFor(path) : before;
+  }
+
+  std::unique_ptr<TempFolder> folder_;
+  QString before_;
+};
+
+QTEST_GUILESS_MAIN(NewDatabaseTest)
+#include "tst_new_database.moc"
