@@ -1,0 +1,86 @@
+#include "schedule/completions.h"
+
+#include "core/access.h"
+#include "core/default_rows.h"
+#include "core/prompts.h"
+#include "core/trap.h"
+#include "gear/rigs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool TaskTouched(int taskID, int componentID) {
+  return GetNumberRecordsComplex(
+             u"Select * from tblTaskComponents where TaskID = %1 and CompID = %2"_s.arg(taskID).arg(componentID))
+             .ToInt() > 0;
+}
+
+}  // namespace
+
+bool TaskMatchesRig(int taskID, int rigID, int taskLibID) {
+  if (rigID == 0) MsgBox(u"rigID = 0. this shouldn't be"_s);
+  bool matches = true;
+  Trap(u"Function TaskMatchesRig"_s, [&] {
+    Bracket bracket;
+    const int count = GetNumberRecords(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, taskLibID);
+    if (count == 0 || count == 2) {
+      if (taskID == 0) MsgBox(u"taskid = 0"_s);
+      if (taskLibID == RepackTaskLibID)
+        matches = TaskTouched(taskID, ComponentOfTypeInRig(rigID, kContainer)) &&
+                  TaskTouched(taskID, ComponentOfTypeInRig(rigID, kReserveCanopy));
+    } else if (count != 1) {
+      MsgBox(QString::number(count));
+    }
+    bracket.Close();
+  });
+  return matches;
+}
+
+Date LastCompletionForRig(int rigID, int taskLibID, int& taskID) {
+  Date date;
+  taskID = 0;
+  Trap(u"Function LastCompletionForRig"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset tasks(
+          u"Select * from tblTasks where SystemID = %1 and TaskLibID = %2 and status = -1 "
+          u"order by DateTaskCompleted"_s.arg(rigID)
+              .arg(taskLibID));
+      if (RecordsetHasRows(tasks)) {
+        for (tasks.MoveLast(); !tasks.Bof(); tasks.MovePrevious()) {
+          const int id = tasks[u"ID"].ToInt();
+          if (!TaskMatchesRig(id, rigID, taskLibID)) continue;
+          date = tasks[u"DateTaskCompleted"].ToDate();
+          taskID = id;
+          break;
+        }
+      }
+    }
+    bracket.Close();
+  });
+  return date;
+}
+
+Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
+  Date date;
+  taskID = 0;
+  Trap(u"Function LastCompletionForComponent"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset rows(u"Select * from tblTaskComponents where CompID = %1 and Complete = true"_s.arg(componentID));
+      if (RecordsetHasRows(rows)) {
+        for (; !rows.Eof(); rows.MoveNext()) {
+          const int id = rows[u"TaskID"].ToInt();
+          if (GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"TaskLibID"_s).ToInt() != taskLibID) continue;
+          const Date done = GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"DateTaskCompleted"_s).ToDate();
+          if (done <= date) continue;
+          date = done;
+          taskID = id;
+        }
+      }
+    }
+    bracket.Close();
+  });
+  return date;
+}

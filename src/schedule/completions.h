@@ -1,0 +1,15 @@
+#pragma once
+#include "core/date.h"
+
+/// Which completed line of work counts for a rig or a component.
+
+/// The latest completion of a library entry that counts for the rig, with its line; no date and 0 when there is none.
+/// A completion counts when it was done on the gear that the rig wears now, see TaskMatchesRig.
+Date LastCompletionForRig(int rigID, int taskLibID, int& taskID);
+
+/// The latest completion of a library entry on a component, with its line; no date and 0 when there is none.
+Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID);
+
+/// Was this completion done on the gear that the rig wears now? A repack binds container and reserve together: both of
+/// the rig's present ones must have been touched by it. Other entries always match.
+bool TaskMatchesRig(int taskID, int rigID, int taskLibID);

@@ -1,0 +1,82 @@
+#include "schedule/reconstruct.h"
+
+#include "core/access.h"
+#include "core/default_rows.h"
+#include "core/prompts.h"
+#include "core/trap.h"
+#include "schedule/completions.h"
+#include "schedule/schedule.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Entry {
+  int taskLibID;
+  bool oneComponent;  // its row belongs to the component; otherwise to the rig alone
+};
+
+QList<Entry> ScheduledEntries() {
+  QList<Entry> entries;
+  Recordset tasks(u"Select * from tblTaskLib where IntervalType <> 0 order by ID"_s);
+  if (!RecordsetHasRows(tasks)) return entries;
+  for (; !tasks.Eof(); tasks.MoveNext()) {
+    const int id = tasks[u"ID"].ToInt();
+    entries.append({id, GetNumberRecords(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, id) == 1});
+  }
+  return entries;
+}
+
+void AddRowsOf(const Recordset& component, const QList<Entry>& entries) {
+  const int id = component[u"ID"].ToInt();
+  const bool isReserve = component[u"TypeID"].ToInt() == kReserveCanopy;
+  for (const Entry& entry : entries) {
+    if (isReserve && entry.taskLibID == RepackTaskLibID) continue;  // the container gives the rig's one row
+    int taskID = 0;
+    const Date done = LastCompletionForComponent(id, entry.taskLibID, taskID);
+    if (done.IsNone()) continue;
+    int scheduleID = 0;
+    AddSchedule(component[u"RigID"].ToInt(), entry.taskLibID, taskID, done, entry.oneComponent ? id : 0, scheduleID);
+  }
+}
+
+}  // namespace
+
+void ReconstructSchedules() {
+  Trap(u"Sub ReconstructSchedules"_s, [] {
+    Bracket bracket;
+    const QList<Entry> entries = ScheduledEntries();
+    DeleteAllRecords(u"tblSchedules"_s, false);
+    {
+      Recordset components(u"Select * from tblComponents order by TypeID"_s);
+      if (RecordsetHasRows(components)) {
+        for (; !components.Eof(); components.MoveNext()) AddRowsOf(components, entries);
+      }
+    }
+    bracket.Close();
+  });
+}
+
+void AuditScheduleTaskLib() {
+  Trap(u"Sub AuditScheduleTaskLib"_s, [] {
+    int updates = 0;
+    Bracket bracket;
+    {
+      Recordset rows(u"Select * from tblSchedules"_s);
+      if (RecordsetHasRows(rows)) {
+        for (; !rows.Eof(); rows.MoveNext()) {
+          const Value entry = GetValueFromTable(u"tblTasks"_s, u"ID"_s, rows[u"TaskID"].ToInt(), u"TaskLibID"_s);
+          if (entry.IsEmpty() || entry.ToInt() == rows[u"TaskLibID"].ToInt()) continue;
+          rows.Set(u"TaskLibID", entry.ToInt());
+          rows.Update();
+          ++updates;
+        }
+      }
+    }
+    bracket.Close();
+    QString message = u"%1 updates were performed"_s.arg(updates);
+    if (updates == 0) message = u"No changes were needed"_s;
+    if (updates == 1) message = u"1 update was performed"_s;
+    MsgBox(message, u"Audit complete"_s);
+  });
+}

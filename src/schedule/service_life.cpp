@@ -1,0 +1,79 @@
+#include "schedule/service_life.h"
+
+#include <algorithm>
+
+#include "core/access.h"
+#include "core/clock.h"
+#include "core/dates.h"
+#include "core/trap.h"
+#include "gear/components.h"
+#include "gear/rigs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Date Cutoff(bool inDays, int number) {
+  if (inDays) return Today() + number;
+  return LastDayOfMonth(AddMonthsToDate(Today(), static_cast<qint16>(number)));
+}
+
+bool HasWorkDue(int customerID, Date cutoff) {
+  Recordset rows(u"Select * from tblSCHEDULES"_s);
+  if (!RecordsetHasRows(rows)) return false;
+  for (; !rows.Eof(); rows.MoveNext()) {
+    if (rows[u"DateDue"].ToDate() > cutoff) continue;
+    if (RigOwner(rows[u"rigID"].ToInt()) == customerID || ComponentOwner(rows[u"ComponentID"].ToInt()) == customerID)
+      return true;
+  }
+  return false;
+}
+
+bool HasLifeEnding(int customerID, Date cutoff) {
+  QList<int> components;
+  GetArrayOfCompIDWithServiceLifeThisCustomer(components, customerID);
+  return std::any_of(components.cbegin(), components.cend(), [&](int component) {
+    const Date expiry = ServiceLifeExpiry(component);
+    return !expiry.IsNone() && expiry < cutoff;
+  });
+}
+
+}  // namespace
+
+Date ServiceLifeExpiry(int componentID) { return ComponentExpiry(componentID); }
+
+void GetArrayOfModelsWithServiceLife(QList<int>& models) {
+  QList<Value> ids;
+  GetRecordsFromTableBySQL(u"Select * from tblModels where Servicelife <> 0"_s, u"ID"_s, ids);
+  models.clear();
+  for (const Value& id : ids) models.append(id.ToInt());
+}
+
+void GetArrayOfCompIDWithServiceLifeThisCustomer(QList<int>& components, int customerID) {
+  components.clear();
+  Trap(u"Sub GetArrayOfCompIDWithServiceLifeThisCustomer"_s, [&] {
+    Bracket bracket;
+    QList<int> models;
+    GetArrayOfModelsWithServiceLife(models);
+    for (int model : models) {
+      Recordset rows(u"Select * from tblcomponents where Modelid = %1"_s.arg(model));
+      if (model == 0 || !RecordsetHasRows(rows)) continue;
+      for (; !rows.Eof(); rows.MoveNext()) {
+        if (rows[u"OwnerID"].ToInt() == customerID) components.append(rows[u"ID"].ToInt());
+      }
+    }
+    bracket.Close();
+  });
+}
+
+bool WithinCorrectTimeFrame(int customerID, bool limitOn, bool limitInDays, int number) {
+  if (!limitOn) return true;
+  bool within = false;
+  Trap(u"Function WithinCorrectTimeFrame"_s, [&] {
+    Bracket bracket;
+    const Date cutoff = Cutoff(limitInDays, number);
+    within = HasWorkDue(customerID, cutoff) || HasLifeEnding(customerID, cutoff);
+    bracket.Close();
+  });
+  return within;
+}

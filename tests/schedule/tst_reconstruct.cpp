@@ -1,0 +1,97 @@
+#include <QtTest>
+
+#include "schedule/reconstruct.h"
+#include "schedule/sample_rig.h"
+
+using namespace Qt::StringLiterals;
+
+class TestReconstruct : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void GivesARigOneRepackRowThroughItsContainer() {
+    SampleRig shop;
+    const int line = shop.AddRepack(Day(3, 1, 2026));
+    const int check = shop.AddDone(shop.aadCheck, Day(2, 10, 2026), {shop.aad}, shop.rig);
+    shop.AddSchedule(shop.rig, 9, Day(1, 1, 2026), 77, 78);
+    ReconstructSchedules();
+    QCOMPARE(shop.Schedules(),
+             (QStringList{
+                 SampleRig::ScheduleRow(shop.rig, 1, Day(3, 1, 2026), Day(8, 28, 2026), line, 0),
+                 SampleRig::ScheduleRow(shop.rig, shop.aadCheck, Day(2, 10, 2026), Day(8, 10, 2026), check, shop.aad),
+             }));
+  }
+
+  void DoesNotLookAtTheRigsPresentGear() {
+    SampleRig shop;
+    const int line = shop.AddRepack(Day(3, 1, 2026));
+    shop.loft.Run(u"update tblComponents set RigID = 0 where ID = %1"_s.arg(shop.reserve));
+    ReconstructSchedules();
+    QCOMPARE(shop.Schedules(),
+             QStringList(SampleRig::ScheduleRow(shop.rig, 1, Day(3, 1, 2026), Day(8, 28, 2026), line, 0)));
+  }
+
+  void AnEntryOfTwoTypesGivesARowToEachComponent() {
+    SampleRig shop;
+    const int entry = shop.AddEntry("Assemble", 1, 3, {kContainer, kMainCanopy});
+    const int line = shop.AddDone(entry, Day(3, 1, 2026), {shop.container, shop.mainCanopy}, shop.rig);
+    const int loose = shop.AddComponent("Stiletto", kMainCanopy, 0);
+    const int other = shop.AddDone(entry, Day(2, 1, 2026), {loose}, 0);
+    ReconstructSchedules();
+    const QString row = SampleRig::ScheduleRow(shop.rig, entry, Day(3, 1, 2026), Day(3, 1, 2027), line, 0);
+    QCOMPARE(shop.Schedules(),
+             (QStringList{row, row, SampleRig::ScheduleRow(0, entry, Day(2, 1, 2026), Day(2, 1, 2027), other, 0)}));
+  }
+
+  void AComponentInNoRigHasARowOfItsOwn() {
+    SampleRig shop;
+    const int loose = shop.AddComponent("Vigil", kAad, 0);
+    const int line = shop.AddDone(shop.aadCheck, Day(2, 1, 2026), {loose}, 0);
+    ReconstructSchedules();
+    QCOMPARE(shop.Schedules(),
+             QStringList(SampleRig::ScheduleRow(0, shop.aadCheck, Day(2, 1, 2026), Day(8, 1, 2026), line, loose)));
+  }
+
+  void ADateThatCantBeBuiltCostsOneRowAndABox() {
+    SampleRig shop;
+    shop.AddRepack(Day(3, 1, 2026));
+    shop.AddDone(shop.aadCheck, Day(8, 31, 2025), {shop.aad}, shop.rig);
+    shop.prompts.ExpectBox(u"Sub AddSchedule"_s, u"Type mismatch"_s);
+    ReconstructSchedules();
+    QCOMPARE(shop.Schedules().size(), 1);
+  }
+
+  void AnEntryWithoutAnIntervalIsLeftOut() {
+    SampleRig shop;
+    shop.AddRepack(Day(3, 1, 2026));
+    shop.loft.Run(u"update tblTaskLib set IntervalNumber = 0 where ID = 1"_s);
+    ReconstructSchedules();
+    QCOMPARE(shop.Schedules(), QStringList());
+  }
+
+  void TheAuditTakesTheEntryOfTheLine_data() {
+    QTest::addColumn<int>("wrong");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("none") << 0 << u"No changes were needed"_s;
+    QTest::newRow("one") << 1 << u"1 update was performed"_s;
+    QTest::newRow("two") << 2 << u"2 updates were performed"_s;
+  }
+  void TheAuditTakesTheEntryOfTheLine() {
+    QFETCH(int, wrong);
+    QFETCH(QString, message);
+    SampleRig shop;
+    for (int i = 0; i < 3; ++i) {
+      const int line = shop.AddDone(shop.aadCheck, Day(2, 1, 2026), {shop.aad}, shop.rig);
+      shop.AddSchedule(shop.rig, i < wrong ? 1 : shop.aadCheck, Day(8, 1, 2026), line, shop.aad);
+    }
+    shop.AddSchedule(shop.rig, 7, Day(8, 1, 2026), 999, shop.aad);
+    shop.prompts.ExpectBox(u"Audit complete"_s, message);
+    AuditScheduleTaskLib();
+    const QString entry = QString::number(shop.aadCheck);
+    QCOMPARE(shop.loft.Rows(u"select TaskLibID from tblSchedules order by ID"_s),
+             (QStringList{entry, entry, entry, u"7"_s}));
+  }
+};
+
+QTEST_GUILESS_MAIN(TestReconstruct)
+#include "tst_reconstruct.moc"
