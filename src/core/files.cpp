@@ -51,7 +51,7 @@ QStringList Entries(const QString& folder, QDir::Filters filters) {
   const QDir dir(PlatformPath(folder));
   if (folder.isEmpty() || !dir.exists()) return {};
   std::error_code error;
-  std::filesystem::directory_iterator(dir.filesystemPath(), error);
+  const std::filesystem::directory_iterator readable(dir.filesystemPath(), error);
   if (error) throw Failure(QString::fromStdString(error.message()));
   return dir.entryList(filters | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
 }
@@ -155,7 +155,7 @@ bool MyFileCopy(const QString& source, const QString& destination) {
 QByteArray ReadFile(const QString& path) {
   QFile file(PlatformPath(path));
   OpenToRead(file);
-  const QByteArray content = file.readAll();
+  QByteArray content = file.readAll();
   CheckThat(file.error() == QFile::NoError, file);
   return content;
 }

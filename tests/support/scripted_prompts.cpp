@@ -121,9 +121,9 @@ ScriptStep& ScriptedPrompts::ExpectSaveFile(const QString& title, const QString&
   return step;
 }
 
-ScriptStep& ScriptedPrompts::ExpectFont(std::optional<FontChoice> reply, Place place) {
+ScriptStep& ScriptedPrompts::ExpectFont(const std::optional<FontChoice>& reply, Place place) {
   ScriptStep& step = Add(Kind::Font, QString(), QString(), place);
-  step.font = std::move(reply);
+  step.font = reply;
   return step;
 }
 
@@ -131,7 +131,7 @@ void ScriptedPrompts::Fail(const QString& message, const Place& place) {
   if (failures_ != nullptr) {
     failures_->append(message);
   } else {
-    QTest::qFail(message.toUtf8().constData(), place.file_name(), static_cast<int>(place.line()));
+    QTest::qFail(message.toUtf8().constData(), place.file, place.line);
   }
 }
 
@@ -145,7 +145,7 @@ void ScriptedPrompts::Finish() {
 std::optional<ScriptStep> ScriptedPrompts::Next(const ShownPrompt& shown) {
   transcript_.append(shown);
   if (steps_.empty()) {
-    if (shown.kind != Kind::Box || !rest_) Fail(u"Not expected: "_s + shown.Describe(), Place::current());
+    if (shown.kind != Kind::Box || !rest_) Fail(u"Not expected: "_s + shown.Describe(), Place::Here());
     return std::nullopt;
   }
   const ScriptStep step = steps_.front();

@@ -5,9 +5,15 @@
 #include <functional>
 #include <list>
 #include <optional>
-#include <source_location>
 
 #include "core/prompts.h"
+
+/// A line of a test; as a default argument, the line of the call.
+struct Place {
+  const char* file = "";
+  int line = 0;
+  static constexpr Place Here(const char* file = __builtin_FILE(), int line = __builtin_LINE()) { return {file, line}; }
+};
 
 /// A box, an input line or a dialog as a person meets it.
 struct ShownPrompt {
@@ -49,7 +55,7 @@ class ScriptStep {
   Answer answer = Answer::Ok;
   QString reply;
   std::optional<FontChoice> font;
-  std::source_location place;
+  Place place;
 };
 
 /// Stands in for the person: a test says in order which prompts come and how each is answered. A prompt that was not
@@ -60,21 +66,18 @@ class ScriptStep {
 ///     prompts.ExpectBox("Saved", "The name was saved");
 class ScriptedPrompts : public Prompts {
  public:
-  using Place = std::source_location;
-
   ScriptedPrompts();
   ~ScriptedPrompts() override;
   ScriptedPrompts(const ScriptedPrompts&) = delete;
   ScriptedPrompts& operator=(const ScriptedPrompts&) = delete;
 
-  ScriptStep& Expect(const QString& title, const QString& text, Answer answer, Place place = Place::current());
+  ScriptStep& Expect(const QString& title, const QString& text, Answer answer, Place place = Place::Here());
   /// A box with OK alone.
-  ScriptStep& ExpectBox(const QString& title, const QString& text, Place place = Place::current());
-  ScriptStep& ExpectInput(const QString& title, const QString& text, const QString& reply,
-                          Place place = Place::current());
-  ScriptStep& ExpectOpenFile(const QString& title, const QString& reply, Place place = Place::current());
-  ScriptStep& ExpectSaveFile(const QString& title, const QString& reply, Place place = Place::current());
-  ScriptStep& ExpectFont(std::optional<FontChoice> reply, Place place = Place::current());
+  ScriptStep& ExpectBox(const QString& title, const QString& text, Place place = Place::Here());
+  ScriptStep& ExpectInput(const QString& title, const QString& text, const QString& reply, Place place = Place::Here());
+  ScriptStep& ExpectOpenFile(const QString& title, const QString& reply, Place place = Place::Here());
+  ScriptStep& ExpectSaveFile(const QString& title, const QString& reply, Place place = Place::Here());
+  ScriptStep& ExpectFont(const std::optional<FontChoice>& reply, Place place = Place::Here());
 
   /// Answers every box that comes while no step is waiting; for long flows that read the transcript afterwards.
   void AnswerRestWith(std::function<Answer(const ShownPrompt&)> answer) { rest_ = std::move(answer); }
