@@ -27,13 +27,14 @@ void EmptyGraves() {
   buried.clear();
 }
 
-QWidget* Caller(const QWidget* form) {
+}  // namespace
+
+QWidget* Form::Caller() const {
+  if (caller_ && caller_->isVisible()) return caller_;
   QWidget* caller = QApplication::activeModalWidget();
   if (!caller) caller = QApplication::activeWindow();
-  return caller == form ? nullptr : caller;
+  return caller == this ? nullptr : caller;
 }
-
-}  // namespace
 
 Form::Form() : QDialog(nullptr, Qt::Window) {
   setAttribute(Qt::WA_QuitOnClose, false);
@@ -75,7 +76,7 @@ void Form::ShowModal() {
   const PointerAside aside;
   if (isVisible()) hide();
   tag_.clear();
-  QWidget* caller = Caller(this);
+  QWidget* caller = Caller();
   Place();
   winId();  // makes the window, which a caller's window is set to stay below
   if (caller && caller->windowHandle()) windowHandle()->setTransientParent(caller->windowHandle());
@@ -161,7 +162,7 @@ void Form::Place() {
   if (!testAttribute(Qt::WA_Resized)) adjustSize();
   const QByteArray remembered =
       remembersPlace_ ? QSettings().value("forms/"_L1 + FormName()).toByteArray() : QByteArray();
-  if (remembered.isEmpty() || !restoreGeometry(remembered)) CentreForm(this, Caller(this));
+  if (remembered.isEmpty() || !restoreGeometry(remembered)) CentreForm(this, Caller());
   placed_ = remembersPlace_;
 }
 

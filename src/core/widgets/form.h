@@ -1,5 +1,6 @@
 #pragma once
 #include <QDialog>
+#include <QPointer>
 
 #include "core/forms.h"
 
@@ -27,6 +28,9 @@ class Form : public QDialog, public LoadedForm {
   QString Tag() const { return tag_; }
   void SetTag(const QString& tag) { tag_ = tag; }
 
+  /// The screen that this one is placed over, where that is not the active one.
+  void SetCaller(QWidget* caller) { caller_ = caller; }
+
   QMenuBar* MenuBar();  ///< the form's menu bar, made on first use above the form's layout
 
   void reject() override;  ///< Esc and the window's close button: Cancel
@@ -43,11 +47,13 @@ class Form : public QDialog, public LoadedForm {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  QWidget* Caller() const;
   void Place();
   void RememberPlace() const;
   void Bury();
 
   QString tag_;
+  QPointer<QWidget> caller_;
   bool remembersPlace_ = true;
   bool placed_ = false;
   bool modal_ = false;

@@ -1,0 +1,16 @@
+#pragma once
+#include <QString>
+
+/// The wait notice that long work shows; rules ask for it without knowing its screen.
+inline const QString kPleaseWait = QStringLiteral("Please wait...................");
+
+/// Shows the notice, or changes its text, and paints it before it returns.
+void ShowStandBy(const QString& text = kPleaseWait);
+void UnloadStandBy();
+
+/// The screen behind it. Without one nothing shows.
+struct StandByNotice {
+  void (*show)(const QString& text) = nullptr;
+  void (*unload)() = nullptr;
+};
+void SetStandByNotice(StandByNotice notice);
