@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "core/widgets/theme.h"
+
 namespace {
 
 void Fail(const QString& message, const std::source_location& place) {
@@ -61,6 +63,11 @@ void ScreenScript::Handle(Form& form) {
 
 void IsolateSettings() {
   static const QTemporaryDir folder;
+  static const bool dressed = [] {
+    InstallTheme(*qApp, qEnvironmentVariableIsSet("LOFTKEEP_TOUR_DARK"));
+    return true;
+  }();
+  Q_UNUSED(dressed);
   QSettings::setDefaultFormat(QSettings::IniFormat);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
   QCoreApplication::setOrganizationName(QStringLiteral("Loftkeep"));

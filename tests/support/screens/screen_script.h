@@ -47,7 +47,8 @@ class ScreenScript : public QObject {
   std::list<Step> steps_;
 };
 
-/// Keeps the settings of a test run in a folder of its own; ScreenScript does so by itself.
+/// Keeps the settings of a test run in a folder of its own and gives the screens the program's look, the dark one when
+/// LOFTKEEP_TOUR_DARK is set. ScreenScript does so by itself.
 void IsolateSettings();
 
 /// Unloads every screen and deletes it.
