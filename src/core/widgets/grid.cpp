@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QColor kMarked(255, 255, 0);
+constexpr int kRoomInRow = 8;
 
 class CellPainter : public QStyledItemDelegate {
  public:
@@ -54,6 +55,7 @@ Grid::Grid(QWidget* parent) : QTableView(parent), model_(this) {
   setHorizontalScrollMode(ScrollPerPixel);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRoomInRow);
   QHeaderView* heading = horizontalHeader();
   heading->setHighlightSections(false);
   heading->setSectionsMovable(true);
@@ -369,7 +371,7 @@ QString Grid::Name(int column) const {
 void Grid::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRoomInRow);
   }
 }
 

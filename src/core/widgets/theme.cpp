@@ -17,8 +17,8 @@ struct Colours {
 };
 constexpr Colours kLight{0xfff4f5f7, 0xffffffff, 0xfff7f8fa, 0xff1f2730, 0xfffbfbfc,
                          0xffb9c0c8, 0xff2b6a94, 0xffffffff, 0xff1f5f8b, 0xffffffff};
-constexpr Colours kDark{0xff23272c, 0xff1a1d21, 0xff20242a, 0xffe4e7ea, 0xff31373e,
-                        0xff4b535c, 0xff3d83b3, 0xffffffff, 0xff7cbcea, 0xff31373e};
+constexpr Colours kDark{0xff2b3036, 0xff1c2024, 0xff22272c, 0xffe4e7ea, 0xff3a4149,
+                        0xff59626c, 0xff33739f, 0xffffffff, 0xff7cbcea, 0xff3a4149};
 
 constexpr int kSpacing = 8;
 constexpr int kMargin = 12;
@@ -37,9 +37,11 @@ void Polish(QLabel* label) {
 
 void Polish(QPushButton* button) {
   if (!button->property("primary").toBool() && !button->isDefault()) return;
+  // The style lightens a button's colour; white text has to be read on it all the same.
+  const QColor colour = QApplication::palette().color(QPalette::Highlight).darker(150);
   QPalette palette = button->palette();
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-    palette.setColor(group, QPalette::Button, QApplication::palette().color(QPalette::Highlight));
+    palette.setColor(group, QPalette::Button, colour);
     palette.setColor(group, QPalette::ButtonText, QApplication::palette().color(QPalette::HighlightedText));
   }
   button->setPalette(palette);
@@ -68,6 +70,7 @@ class LoftStyle : public QProxyStyle {
                          const QWidget* widget) const override {
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_PushButton) result = result.grownBy({4, 2, 4, 2});
+    if (type == CT_ItemViewItem || type == CT_HeaderSection) result.rheight() += 6;
     return result;
   }
 

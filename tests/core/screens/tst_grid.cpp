@@ -361,6 +361,7 @@ class TestGrid : public QObject {
     grid.SelectCell(1, 1);
     QCOMPARE(PaintedColour(grid, 1, 1), QColor(255, 0, 0));
     QCOMPARE(PaintedColour(grid, 0, 1), qApp->palette().color(QPalette::Base));
+    Picture(grid, dark ? u"grid_dark"_s : u"grid"_s);
     QCOMPARE(ReadableOn(QColor(255, 255, 0)), QColor(Qt::black));
     QCOMPARE(ReadableOn(QColor(255, 0, 0)), QColor(Qt::white));
   }
