@@ -125,3 +125,10 @@ QStringList ThrowAwayLoft::ChangesSince(const QStringList& snapshot) const {
   for (const QString& row : gone) changes << u'-' + row;
   return changes + added;
 }
+
+QStringList ThrowAwayLoft::TouchedSince(const QStringList& snapshot) const {
+  QStringList touched;
+  for (const QString& change : ChangesSince(snapshot)) touched << change.section(u'|', 0, 1);
+  touched.sort();
+  return touched;
+}

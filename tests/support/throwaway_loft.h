@@ -39,6 +39,8 @@ class ThrowAwayLoft {
   QStringList Snapshot() const;
   /// The rows that are new ("+tblRig|...") or gone ("-tblRig|...") since a snapshot; a changed row is both.
   QStringList ChangesSince(const QStringList& snapshot) const;
+  /// The same with the first field alone, sorted: "+tblRig|3".
+  QStringList TouchedSince(const QStringList& snapshot) const;
 
  private:
   TempFolder folder_;

@@ -1,0 +1,229 @@
+#include "gear/catalogue.h"
+
+#include "core/access.h"
+#include "core/trap.h"
+#include "gear/models.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void LoadNames(const QString& source, QStringList& names, QList<int>& ids) {
+  names.clear();
+  ids.clear();
+  Trap(u"Sub LoadNames"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset rows(source);
+      if (RecordsetHasRows(rows)) {
+        for (; !rows.Eof(); rows.MoveNext()) {
+          names << rows[u"Name"].ToText();
+          ids << rows[u"ID"].ToInt();
+        }
+      }
+    }
+    bracket.Close();
+  });
+}
+
+bool SameName(const QString& a, const QString& b) { return a.trimmed().toLower() == b.trimmed().toLower(); }
+
+QString ModelsOfType(int type) { return u"Select * from tblModels where Typeid = "_s + QString::number(type); }
+
+/// Asks until the name fits.
+QString AskModelName(int type, int manufacturer) {
+  const QString typeName = ComponentTypeName(type);
+  QStringList text;
+  if (manufacturer > 0) text << u"Manufacturer: "_s + ManufacturerName(manufacturer);
+  text << u"Enter "_s + typeName + u" model"_s;
+  for (;;) {
+    const QString name = InputBox(Lines(text), u"Add new "_s + typeName.toLower() + u" model"_s).trimmed();
+    if (name.size() <= kLongestModelName) return name;
+    MsgBox(u"Name is too long"_s, u"50 characters max"_s);
+  }
+}
+
+QString AskOtherName(const QString& name, const QString& title) {
+  const QString answer = InputBox(u"Enter new name:"_s, title, name).trimmed();
+  return answer == name.trimmed() ? QString() : answer;
+}
+
+}  // namespace
+
+void LoadModelsOfType(int type, QStringList& names, QList<int>& ids) {
+  LoadNames(ModelsOfType(type) + u" order by name"_s, names, ids);
+}
+
+void LoadModels(int type, QStringList& names, QList<int>& ids, int manufacturer) {
+  QString source = ModelsOfType(type);
+  if (manufacturer != kNoManufacturerSelected) source += u" and manfid = "_s + QString::number(manufacturer);
+  LoadNames(source, names, ids);
+}
+
+void LoadManufacturers(QStringList& names, QList<int>& ids) {
+  LoadNames(u"Select * from tblManufacturers"_s, names, ids);
+  names << u"(not specified)"_s;
+  ids << 0;
+}
+
+int FindModelByName(const QString& name, int type) {
+  QStringList names;
+  QList<int> ids;
+  LoadNames(ModelsOfType(type), names, ids);
+  for (qsizetype i = 0; i < names.size(); ++i)
+    if (SameName(names.at(i), name)) return ids.at(i);
+  return 0;
+}
+
+int RepairModelManufacturer(int model) {
+  const int manufacturer = ModelManufacturer(model);
+  if (manufacturer == 0 || !ManufacturerName(manufacturer).trimmed().isEmpty()) return manufacturer;
+  UpdateTable(u"tblModels"_s, u"ManfID"_s, 0, u"ID"_s, model);
+  return 0;
+}
+
+bool RefuseDuplicateModel(const QString& name, int type, int& existing) {
+  existing = FindModelByName(name, type);
+  if (existing == 0) return false;
+  const QString maker = ManufacturerName(ModelManufacturer(existing));
+  MsgBox(Lines({u"There is already a "_s + ComponentTypeName(type) + u" named "_s + name,
+                maker.trimmed().isEmpty() ? u"(Manufacturer not specified)"_s : u"Manufactured by "_s + maker}),
+         u"Duplicate Name"_s);
+  return true;
+}
+
+NewModel AddModelByAsking(int type, int manufacturer, const QString& buttonCaption) {
+  if (manufacturer == kNoManufacturerSelected &&
+      AskYes(u"Do you want to specify a manufacturer?"_s, u"Add new model"_s)) {
+    MsgBox(u"Select a manufacturer, then click "_s + buttonCaption.toUpper(), u"Select manufacturer"_s);
+    return {};
+  }
+  const QString name = AskModelName(type, manufacturer);
+  if (name.isEmpty()) return {};
+  int existing = 0;
+  if (RefuseDuplicateModel(name, type, existing)) return {existing, false};
+  return {AddModelOfManufacturer(name, type, qMax(manufacturer, 0)), true};
+}
+
+int AddModelFromPicker(int type) {
+  const QString typeName = ComponentTypeName(type);
+  const QString name = InputBox(u"Enter name of new "_s + typeName, u"New "_s + typeName).trimmed();
+  if (name.isEmpty()) return 0;
+  if (FindModelByName(name, type) != 0) {
+    MsgBox(u"The name '"_s + name + u"' already exists in the "_s + typeName + u" database"_s, u"Duplicate name"_s);
+    return 0;
+  }
+  const int id = AddModel(name, type);
+  if (id != 0)
+    MsgBox(u'\'' + name + u"' has been added to the "_s + typeName + u" database"_s,
+           u"New "_s + typeName + u" added"_s);
+  return id;
+}
+
+bool RenameModel(int id) {
+  const QString current = ModelName(id);
+  const QString name = AskOtherName(current, u"Rename "_s + current);
+  if (name.isEmpty()) return false;
+  UpdateTable(u"tblModels"_s, u"Name"_s, name, u"id"_s, id);
+  return true;
+}
+
+ModelDeletion DeleteModel(int id) {
+  const QString name = ModelName(id);
+  const int count =
+      GetNumberRecordsComplex(u"Select * from tblComponents where Modelid = "_s + QString::number(id)).ToInt();
+  if (count != 0) {
+    const bool one = count == 1;
+    const QString text =
+        Lines({(one ? u"There is 1 "_s + name : u"There are "_s + QString::number(count) + u' ' + name + u"'s"_s) +
+                   u" in your gear database."_s,
+               u"If you delete this model, you will also delete "_s +
+                   (one ? u"this "_s + name : u" these "_s + name + u"'s"_s),
+               QString(), u"Would you like to see a list?"_s});
+    if (AskYes(text, u"Deleting model "_s + name)) return ModelDeletion::ShowList;
+  }
+  if (!AskYes(u"Are you sure you wish to delete "_s + name, u"Delete "_s + name)) return ModelDeletion::Kept;
+  Trap(u"Sub DeleteModel"_s, [&] {
+    Bracket bracket;
+    DeleteRecordsFromTableBySQL(u"Delete * from tblModels where id = "_s + QString::number(id));
+    DeleteRecordsFromTableBySQL(u"Delete * from tblComponents where Modelid = "_s + QString::number(id));
+    bracket.Close();
+  });
+  return ModelDeletion::Deleted;
+}
+
+bool LinkModelToManufacturer(int model, int manufacturer) {
+  if (manufacturer <= 0) {
+    MsgBox(u"Please select a manufacturer"_s, u"No manufacturer selected"_s);
+    return false;
+  }
+  const QString maker = ManufacturerName(manufacturer);
+  if (ModelManufacturer(model) == manufacturer) {
+    MsgBox(maker + u" and "_s + ModelName(model) + u" are already linked"_s, u"Link Model and Manufacturer"_s);
+    return false;
+  }
+  if (!AskYes(Lines({u"Do you want to link the following:"_s, QString(), u"   Manufacturer:  "_s + maker, QString(),
+                     u"     "_s + ComponentTypeName(ModelType(model)) + u": "_s + ModelName(model)}),
+              u"Link?"_s))
+    return false;
+  UpdateTableBySQL(u"Update tblModels set manfid = %1 where ID = %2"_s.arg(manufacturer).arg(model));
+  return true;
+}
+
+int AddManufacturer() {
+  const QString name = InputBox(u"Enter name of new manufacturer"_s, u"New Manufacturer"_s);
+  if (name.trimmed().isEmpty()) return 0;
+  int id = 0;
+  Trap(u"Function AddManufacturer"_s, [&] {
+    Bracket bracket;
+    int next = 1;
+    bool taken = false;
+    Recordset manufacturers(u"Select * from tblManufacturers order by ID"_s);
+    if (RecordsetHasRows(manufacturers)) {
+      for (; !manufacturers.Eof(); manufacturers.MoveNext()) {
+        next = manufacturers[u"ID"].ToInt() + 1;
+        if (SameName(manufacturers[u"Name"].ToText(), name)) taken = true;
+      }
+    }
+    if (taken) {
+      MsgBox(name + u" already exists"_s, u"Please note:"_s);
+    } else {
+      manufacturers.AddNew();
+      manufacturers.Set(u"ID", next);
+      manufacturers.Set(u"Name", name);
+      manufacturers.Update();
+      id = next;
+    }
+    manufacturers.Close();
+    bracket.Close();
+  });
+  return id;
+}
+
+bool RenameManufacturer(int id) {
+  const QString name = AskOtherName(ManufacturerName(id), u"Rename manufacturer"_s);
+  if (name.isEmpty()) return false;
+  return Trap(u"Sub RenameManufacturer"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset manufacturer(u"Select * from tblManufacturers where id = "_s + QString::number(id));
+      if (RecordsetHasRows(manufacturer)) {
+        manufacturer.Set(u"Name", name);
+        manufacturer.Update();
+      }
+    }
+    bracket.Close();
+  });
+}
+
+bool DeleteManufacturer(int id) {
+  if (!AskYes(u"Are you you want to delete manufacturer "_s + ManufacturerName(id) + u'?', u"Delete Manufacturer?"_s))
+    return false;
+  Trap(u"Sub DeleteManufacturer"_s, [&] {
+    Bracket bracket;
+    DeleteRecordsFromTableBySQL(u"delete * from tblManufacturers where id = "_s + QString::number(id));
+    UpdateTableBySQL(u"update tblModels set manfID = 0 where Manfid = "_s + QString::number(id));
+    bracket.Close();
+  });
+  return true;
+}

@@ -1,0 +1,198 @@
+#include "gear/component_rules.h"
+
+#include "core/access.h"
+#include "core/trap.h"
+#include "gear/components.h"
+#include "gear/models.h"
+#include "gear/people.h"
+#include "gear/rig_types.h"
+#include "gear/rigs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int LivingOwner(int owner) { return owner > 0 && PersonExists(owner) ? owner : 0; }
+
+QStringList UsesOf(int component) {
+  QStringList uses;
+  Trap(u"Function UsesOf"_s, [&] {
+    Bracket bracket;
+    if (ComponentRig(component) != 0) uses << u"    as part of a rig"_s;
+    if (GetNumberRecords(u"tblJobComponents"_s, u"ComponentID"_s, component) > 0)
+      uses << u"    is used in one or more jobs"_s;
+    if (GetNumberRecords(u"tblTaskComponents"_s, u"CompID"_s, component) > 0)
+      uses << u"    is used in one or more tasks"_s;
+    if (GetNumberRecords(u"tblSchedules"_s, u"ComponentID"_s, component) > 0)
+      uses << u"    is used in one or more schedules"_s;
+    bracket.Close();
+  });
+  return uses;
+}
+
+int ComponentOfTypeInJob(int job, int type) {
+  QList<int> components;
+  GetRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, job, u"ComponentID"_s, components);
+  for (int component : components)
+    if (component != 0 && ComponentTypeOf(component) == type) return component;
+  return 0;
+}
+
+void PutIntoRig(int component, int type, int rig) {
+  Trap(u"Sub PutIntoRig"_s, [&] {
+    Bracket bracket;
+    UpdateTableBySQL(u"Update tblComponents set rigid = 0 where typeid = %1 and rigid = %2"_s.arg(type).arg(rig));
+    UpdateTableBySQL(
+        u"Update Tblcomponents set rigid = %1 where typeid = %2 and id = %3"_s.arg(rig).arg(type).arg(component));
+    bracket.Close();
+  });
+}
+
+Answer AskTakeFromOtherRig(int component, int type, int otherRig) {
+  return Ask(
+      Lines({u"Records indicate that he "_s + ComponentTypeName(type) + u' ' + ComponentDescription(component) +
+                 u" listed above is"_s,
+             u"installed in "_s + RigName(otherRig) + u" owned by "_s + PersonDisplayName(RigOwner(otherRig)),
+             QString(), u"If you proceed, that rig will have the component removed and installed in the current rig"_s,
+             u"Do you want to do this?"_s}),
+      u"Remove component from "_s + RigName(otherRig), Buttons::YesNoCancel, Answer::No);
+}
+
+}  // namespace
+
+QString CommandForSerial(const QString& serial, int type) {
+  const QString typed = serial.trimmed();
+  if (typed.isEmpty()) return {};
+  const QString typeName = ComponentTypeName(type);
+  int id = 0;
+  const int count = FindBySerial(typed, type, id);
+  if (count == 1) return u"load component:"_s + QString::number(id);
+  if (count == 0) {
+    const bool create =
+        AskYes(Lines({u"Serial number "_s + typed + u" is not found in the "_s + typeName + u" database"_s,
+                      u"Would you like to create a new "_s + typeName + u" using that serial number?"_s}),
+               u"Add new "_s + typeName + u'?');
+    return create ? u"new with s/n:"_s + typed : QString();
+  }
+  const bool show = AskYes(Lines({u"The "_s + typeName + u" database shows "_s + QString::number(count) +
+                                      u" components with that serial number"_s,
+                                  u"Would you like to see them?"_s}),
+                           u"Serial number "_s + typed + u" has "_s + QString::number(count) + u" matches"_s);
+  return show ? u"s/n "_s + typed.toUpper() : u"cancel"_s;
+}
+
+bool AskAddToRig(int type, int rig, int component) {
+  const QString typeName = ComponentTypeName(type);
+  if (!AskYes(Lines({u"The "_s + typeName + u" you selected:"_s, u"     "_s + ComponentDescription(component),
+                     u"is not part of the rig: "_s + RigName(rig),
+                     u"Do you want to add this "_s + typeName + u" to this rig?"_s}),
+              u"Add "_s + typeName + u'?'))
+    return false;
+  Trap(u"Sub AskAddToRig"_s, [&] {
+    Bracket bracket;
+    FreePlace(rig, type);
+    InstallComponent(rig, component, ComponentOwner(component));
+    bracket.Close();
+  });
+  return true;
+}
+
+bool ChangeComponentOwner(int component, int newOwner) {
+  const int rig = ComponentRig(component);
+  const int rigOwner = RigOwner(rig);
+  if (RigExists(rig) && rigOwner != newOwner &&
+      !AskYes(
+          Lines({u"This component is part of a rig ("_s + RigName(rig) + u") which is "_s,
+                 u"owner by "_s + PersonDisplayName(rigOwner), QString(),
+                 u"Are you sure you want to change the component's owner to "_s + PersonDisplayName(newOwner) + u'?'}),
+          u"Change component owner?"_s))
+    return false;
+  SetComponentOwner(component, newOwner);
+  return true;
+}
+
+bool RemoveFromItsRig(int component) {
+  const int rig = ComponentRig(component);
+  const int type = ComponentTypeOf(component);
+  if (!AskYes(u"Remove "_s + ComponentDescription(component) + u" from "_s + RigName(rig) + u'?',
+              u"Remove "_s + ComponentTypeName(type) + u'?'))
+    return false;
+  Trap(u"Sub RemoveFromItsRig"_s, [&] {
+    Bracket bracket;
+    DetachComponent(rig, component, type);
+    InstallComponent(0, component, ComponentOwner(component));
+    UpdateTable(u"tblPhotos"_s, u"rigid"_s, 0, u"componentid"_s, component);
+    bracket.Close();
+  });
+  return true;
+}
+
+void RepairComponentOwner(int component) {
+  const int rigOwner = LivingOwner(RigOwner(ComponentRig(component)));
+  if (rigOwner != 0 && LivingOwner(ComponentOwner(component)) == 0) SetComponentOwner(component, rigOwner);
+}
+
+void TellLostComponentType(int component) {
+  MsgBox(
+      Lines({u"This component has lost its component type"_s, QString(), u"     "_s + ComponentDescription(component),
+             QString(), u"Please select a component type on the next screen"_s}));
+}
+
+bool SetLostComponentType(int component, int type) {
+  if (type <= 0) {
+    MsgBox(u"You must select a component type"_s);
+    return false;
+  }
+  if (!AskYes(
+          Lines({ComponentDescription(component) + u" = "_s + ComponentTypeName(type) + u'?', u"Is this correct?"_s}),
+          kProgramTitle))
+    return false;
+  SetComponentType(component, type);
+  return true;
+}
+
+bool DeleteComponent(int component) {
+  if (component == 0) {
+    MsgBox(u"Please select a component"_s, u"Nothing selected"_s);
+    return false;
+  }
+  const QString name = ComponentDescription(component);
+  const QStringList uses = UsesOf(component);
+  if (uses.isEmpty()) {
+    if (!AskYes(u"Are you sure you want to delete "_s + name + u'?',
+                u"Delete "_s + ComponentTypeName(ComponentTypeOf(component))))
+      return false;
+  } else if (!AskYes(Lines(QStringList(u"This item, "_s + name + u", is being used:"_s) + uses +
+                           QStringList{u"Deleting this component will affect the above items"_s,
+                                       u"(You can see a list of these from the REPORTS menu)"_s,
+                                       u"Are you sure you want to delete this component?"_s, u"(not recommended)"_s}),
+                     u"Deleting NOT recommended"_s)) {
+    return false;
+  }
+  Trap(u"Sub DeleteComponent"_s, [&] {
+    Bracket bracket;
+    DeleteRecordsFromTable(u"tblComponents"_s, u"ID"_s, component);
+    if (!uses.isEmpty()) {
+      DeleteRecordsFromTable(u"tblJobComponents"_s, u"ComponentID"_s, component);
+      DeleteRecordsFromTable(u"tblSchedules"_s, u"ComponentID"_s, component);
+      DeleteRecordsFromTable(u"tblTaskComponents"_s, u"CompID"_s, component);
+    }
+    bracket.Close();
+  });
+  return true;
+}
+
+bool SyncJobWithRig(int job, int rig) {
+  for (int type : ComponentTypesOfRigType(RigType(rig))) {
+    const int component = ComponentOfTypeInJob(job, type);
+    if (component == 0 || component == ComponentOfTypeInRig(rig, type)) continue;
+    const int otherRig = ComponentRig(component);
+    if (otherRig != 0 && RigOwner(otherRig) != RigOwner(rig)) {
+      const Answer answer = AskTakeFromOtherRig(component, type, otherRig);
+      if (answer == Answer::Cancel) return false;
+      if (answer == Answer::No) continue;
+    }
+    PutIntoRig(component, type, rig);
+  }
+  return true;
+}

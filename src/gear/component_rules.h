@@ -1,0 +1,30 @@
+#pragma once
+#include <QString>
+
+/// The questions around a component that is chosen, owned, removed or deleted.
+
+/// The answer to a serial number typed for a new component of a rig: "new with s/n:<serial>", "load component:<id>",
+/// "s/n <serial>" or "cancel", and empty when the person wants to type another.
+QString CommandForSerial(const QString& serial, int type);
+
+/// Asks whether a component in no rig goes into this rig, and puts it there; true when it did.
+bool AskAddToRig(int type, int rig, int component);
+
+/// Asks before a component gets another owner than its rig; true when the owner was written.
+bool ChangeComponentOwner(int component, int newOwner);
+
+/// Takes a component out of its rig after a question, its photos with it; true when it was taken out.
+bool RemoveFromItsRig(int component);
+
+/// A component in a rig whose own owner is unknown gets the rig's owner.
+void RepairComponentOwner(int component);
+/// Tells that the component has lost its type, before one is picked.
+void TellLostComponentType(int component);
+/// What was picked for it: 0 is told, anything else asked about and written. True when it was written.
+bool SetLostComponentType(int component, int type);
+
+/// Deletes a component after telling what it is used by; 0 is no selection. True when it is gone.
+bool DeleteComponent(int component);
+
+/// Brings the components of a job into the job's rig, type by type; true unless the person cancelled.
+bool SyncJobWithRig(int job, int rig);

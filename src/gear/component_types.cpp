@@ -1,0 +1,127 @@
+#include "gear/component_types.h"
+
+#include "core/access.h"
+#include "core/default_rows.h"
+#include "core/trap.h"
+#include "gear/models.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int NextTypeId() {
+  int next = 1;
+  Trap(u"Function NextTypeId"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset types(u"Select * from tblComponentTypes order by ID"_s);
+      if (RecordsetHasRows(types)) {
+        types.MoveLast();
+        next = types[u"ID"].ToInt() + 1;
+      } else {
+        MsgBox(u"you shouldn't be here"_s);
+      }
+    }
+    bracket.Close();
+  });
+  return next;
+}
+
+}  // namespace
+
+void LoadComponentTypes(QStringList& names, QList<int>& ids) {
+  names.clear();
+  ids.clear();
+  Trap(u"Sub LoadComponentTypes"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset types(u"Select * from tblComponentTypes order by ID"_s);
+      if (RecordsetHasRows(types)) {
+        for (; !types.Eof(); types.MoveNext()) {
+          const int id = types[u"ID"].ToInt();
+          if (id == kMisc) continue;
+          names << types[u"Name"].ToText();
+          ids << id;
+        }
+      }
+    }
+    bracket.Close();
+  });
+}
+
+QString TypeInSentence(int type) {
+  const QString name = ComponentTypeName(type);
+  return name == u"AAD"_s ? name : name.toLower();
+}
+
+int AddNewComponentType() {
+  const int id = NextTypeId();
+  const QString name = InputBox(u"Enter name of new component"_s);
+  if (name.isEmpty()) return 0;
+  bool added = false;
+  Trap(u"Function AddNewComponentType"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset types(u"tblComponentTypes"_s);
+      types.AddNew();
+      types.Set(u"Name", name);
+      types.Set(u"ID", id);
+      types.Update();
+      added = true;
+    }
+    bracket.Close();
+  });
+  return added ? id : 0;
+}
+
+bool RenameComponentType(int id) {
+  const QString name = InputBox(u"Enter component type name"_s, u"Rename"_s, ComponentTypeName(id));
+  if (name.trimmed().isEmpty()) return false;
+  return Trap(u"Sub RenameComponentType"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset type(u"Select * from tblComponentTypes where id = "_s + QString::number(id));
+      if (RecordsetHasRows(type)) {
+        type.Set(u"Name", name);
+        type.Update();
+      }
+    }
+    bracket.Close();
+  });
+}
+
+bool DeleteComponentType(int id) {
+  if (id == 0) {
+    MsgBox(u"Please select a component to delete"_s);
+    return false;
+  }
+  if (id < kFirstUserType) {
+    MsgBox(Lines({u"This is a fixed component type."_s, u"It cannot be deleted."_s}),
+           u"Cannot delete this component type"_s);
+    return false;
+  }
+  const QString where = u" where TypeID = "_s + QString::number(id);
+  const int used = GetNumberRecordsComplex(u"Select * from tblModels"_s + where).ToInt() +
+                   GetNumberRecordsComplex(u"Select * from tblComponents"_s + where).ToInt();
+  if (used != 0) {
+    MsgBox(
+        Lines({u"There are either models or actual components of this type."_s,
+               u"This component type cannot be deleted until those"_s, u"components and models have been deleted"_s}),
+        u"Component type is being used"_s);
+    return false;
+  }
+  if (!AskYes(u"Delete "_s + ComponentTypeName(id) + u'?', u"Are you sure?"_s)) return false;
+  DeleteRecordsFromTable(u"tblComponentTypes"_s, u"ID"_s, id);
+  return true;
+}
+
+void ShowComponentTypeHelp() {
+  MsgBox(Lines({u"Major components have a serial number and a date of manufacture."_s,
+                u"Other items, such as risers, pilot chutes and toggles, are misc items."_s,
+                u"The main difference is that misc items have no serial number."_s, QString(),
+                u"Component types are general categories.  The name of a design is a"_s,
+                u"model under the container type, not a component type."_s, QString(),
+                u"The predefined component types are Containers, Main Canopies,"_s,
+                u"Reserve Canopies, AAD's and Tandem Passenger Harness."_s}),
+         u"Component Types"_s);
+}

@@ -1,0 +1,132 @@
+#include "gear/models_file.h"
+
+#include <QDir>
+
+#include "core/access.h"
+#include "core/files.h"
+#include "core/format.h"
+#include "core/platform.h"
+#include "core/text.h"
+#include "core/text_files.h"
+#include "core/trap.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kStart = u"<mfg>"_s;
+const QString kEnd = u"<end mfg>"_s;
+
+QString SupportFile(const QString& dataPath) { return PlatformPath(dataPath + u"support\\models.txt"_s); }
+
+QString LocalFile() { return QDir::current().filePath(u"models.txt"_s); }
+
+/// Lines read one by one; behind the end they are empty.
+class Reader {
+ public:
+  explicit Reader(const QStringList& lines) : lines_(lines) {}
+  bool AtEnd() const { return at_ >= lines_.size(); }
+  QString Next() { return lines_.value(at_++); }
+  int NextNumber() { return Value(Val(Next())).ToInt(); }
+
+ private:
+  const QStringList& lines_;
+  qsizetype at_ = 0;
+};
+
+void ReadManufacturers(Reader& reader) {
+  Recordset manufacturers(u"tblManufacturers"_s);
+  if (reader.Next() != kStart) return;
+  while (!reader.AtEnd()) {
+    const QString name = reader.Next();
+    if (name == kEnd) return;
+    manufacturers.AddNew();
+    manufacturers.Set(u"ID", reader.NextNumber());
+    manufacturers.Set(u"Name", name);
+    manufacturers.Update();
+  }
+}
+
+void ReadModels(Reader& reader) {
+  Recordset models(u"tblModels"_s);
+  while (!reader.AtEnd()) {
+    models.AddNew();
+    models.Set(u"Name", reader.Next());
+    models.Set(u"ManfID", reader.NextNumber());
+    models.Set(u"TypeID", reader.NextNumber());
+    reader.Next();  // the price of whoever wrote the file is not this shop's
+    models.Set(u"Price", Money());
+    models.Set(u"servicelife", 0);
+    models.Update();
+  }
+}
+
+bool HasModels() { return GetNumberRecordsInTable(u"tblModels"_s) > 0; }
+
+}  // namespace
+
+bool IsModelsFile(const QStringList& lines) { return lines.contains(kStart) && lines.contains(kEnd); }
+
+void ExportModels() {
+  if (!AskYes(u"ready to export to file?"_s, kProgramTitle)) return;
+  Trap(u"Sub ExportModels"_s, [] {
+    QStringList lines(kStart);
+    Bracket bracket;
+    const auto add = [&lines](const QString& table, const QList<QStringView>& fields) {
+      Recordset rows(table);
+      if (!RecordsetHasRows(rows)) return;
+      for (; !rows.Eof(); rows.MoveNext())
+        for (QStringView field : fields) lines << rows[field].ToText();
+    };
+    add(u"tblManufacturers"_s, {u"Name", u"ID"});
+    lines << kEnd;
+    add(u"tblModels"_s, {u"Name", u"ManfID", u"TypeID", u"Price"});
+    WriteLines(LocalFile(), lines);
+    bracket.Close();
+    MsgBox(u"models.txt created in local directory"_s);
+  });
+}
+
+void ImportModels(bool silent, const QString& dataPath) {
+  if (HasModels()) {
+    MsgBox(u"tblModels isn't empty"_s, u"cancelling"_s);
+    return;
+  }
+  QString file = SupportFile(dataPath);
+  if (silent && !ExistFile(file)) {
+    MsgBox(u"The file 'models.txt' is missing.  Manufacturers and models will not be loaded"_s,
+           u"Can't find 'models.txt')"_s);
+    return;
+  }
+  if (!silent) {
+    if (!AskYes(u"Import models and manufacturers?"_s, kProgramTitle)) return;
+    file = GetModelfileforImport();
+    if (file.isEmpty()) return;
+  }
+  Trap(u"Sub ImportModels"_s, [&] {
+    const QStringList lines = ReadLines(file);
+    if (!silent) {
+      if (!IsModelsFile(lines)) {
+        MsgBox(u"that isn't a valid models text file"_s, u"wrong file"_s);
+        return;
+      }
+      if (!AskYes(u"Valid file.  Ready to import?"_s, kProgramTitle)) return;
+    }
+    Bracket bracket;
+    Reader reader(lines);
+    ReadManufacturers(reader);
+    ReadModels(reader);
+    bracket.Close();
+    if (!silent) MsgBox(u"Manufacturers and models updated"_s, u"Done"_s);
+  });
+}
+
+QString GetModelfileforImport() {
+  return OpenFileDialog({u"Find file 'models.txt"_s, u"models.txt"_s, u"all files (*.*)|*.*"_s});
+}
+
+void LoadModelsAtStart(const QString& dataPath) {
+  const QString support = SupportFile(dataPath);
+  if (!ExistFile(support) && ExistFile(LocalFile())) MyFileCopy(LocalFile(), support);
+  if (!HasModels()) ImportModels(true, dataPath);
+}

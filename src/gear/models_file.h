@@ -1,0 +1,21 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+
+/// models.txt: manufacturers with their ids, then models, one value to a line. Prices and service lives do not travel.
+
+/// A file is valid when one line is "<mfg>" and one line is "<end mfg>".
+bool IsModelsFile(const QStringList& lines);
+
+/// Asks, then writes models.txt into the current folder.
+void ExportModels();
+
+/// Reads models and manufacturers into a database that has no models. `silent` takes support\models.txt of the data
+/// folder without a question; otherwise the person chooses the file. `dataPath` ends with a separator.
+void ImportModels(bool silent, const QString& dataPath);
+/// The file that the person chooses, empty when cancelled.
+QString GetModelfileforImport();
+
+/// The step of each start: a models.txt in the current folder is copied to the support folder that lacks one, and a
+/// database without models takes them in.
+void LoadModelsAtStart(const QString& dataPath);

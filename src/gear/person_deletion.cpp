@@ -1,0 +1,95 @@
+#include "gear/person_deletion.h"
+
+#include "core/access.h"
+#include "core/trap.h"
+#include "gear/people.h"
+#include "gear/person_record.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Tie {
+  QString table;
+  QString field;
+  QString text;
+};
+
+const QList<Tie>& Ties() {
+  static const QList<Tie> ties = {{u"tblRig"_s, u"OwnerID"_s, u" rig"_s},
+                                  {u"tblComponents"_s, u"OwnerID"_s, u" rig component"_s},
+                                  {u"tblJobs"_s, u"CustomerID"_s, u" job"_s},
+                                  {u"tblTasks"_s, u"CustomerID"_s, u" task"_s},
+                                  {u"tblMoney"_s, u"CustomerID"_s, u" money transaction"_s}};
+  return ties;
+}
+
+}  // namespace
+
+bool RefuseProgramOwner(int id) {
+  if (id != ProgramOwner()) return false;
+  MsgBox(Lines({PersonDisplayName(id) + u" is the Loftkeep program owner."_s, QString(),
+                u"You cannot delete the program owner."_s}),
+         u"Can't delete program owner"_s);
+  return true;
+}
+
+DeletionReport ReportPersonDeletion(int id) {
+  QStringList lines;
+  Trap(u"Function ReportPersonDeletion"_s, [&] {
+    Bracket bracket;
+    for (const Tie& tie : Ties()) {
+      const int count = GetNumberRecords(tie.table, tie.field, id);
+      if (count > 0) lines << u"      "_s + QString::number(count) + tie.text + (count > 1 ? u"s"_s : QString());
+    }
+    bracket.Close();
+  });
+  if (lines.isEmpty()) return DeletionReport::NothingTied;
+  lines.prepend(u"Customer "_s + PersonDisplayName(id) + u" is associated with the following: "_s);
+  lines << u"It is recommended that you NOT delete this"_s << u"customer."_s << QString()
+        << u"Do you want to delete this customer anyway?"_s
+        << u"(rigs, components, jobs, and tasks will not be deleted)"_s;
+  return AskYes(Lines(lines), u"Deletion NOT recommended"_s) ? DeletionReport::GoOn : DeletionReport::Stop;
+}
+
+int NeighbourAfterDeletion(int id) {
+  int neighbour = NextPerson(id);
+  if (neighbour == id) neighbour = PreviousPerson(id);
+  if (neighbour == id) MsgBox(u"This is the only customer in the database"_s, u"Customer database will be empty"_s);
+  return neighbour;
+}
+
+void DeletePerson(int id) {
+  Trap(u"Sub DeletePerson"_s, [&] {
+    Bracket bracket;
+    DeleteRecordsFromTable(u"tblPeople"_s, u"ID"_s, id);
+    for (const Tie& tie : Ties()) UpdateTable(tie.table, tie.field, 0, tie.field, id);
+    bracket.Close();
+  });
+}
+
+bool DeleteCustomer(int id, int& neighbour) {
+  if (RefuseProgramOwner(id)) return false;
+  if (!AskYes(u"Are you sure you want to delete this customer?"_s, u"Delete "_s + PersonDisplayName(id))) return false;
+  if (ReportPersonDeletion(id) == DeletionReport::Stop) return false;
+  neighbour = NeighbourAfterDeletion(id);
+  if (neighbour == id) neighbour = 0;
+  DeletePerson(id);
+  return true;
+}
+
+bool DeleteCustomerFromRigScreen(int id) {
+  if (RefuseProgramOwner(id)) return false;
+  switch (ReportPersonDeletion(id)) {
+    case DeletionReport::Stop:
+      return false;
+    case DeletionReport::NothingTied:
+      if (!AskYes(u"Are you sure you want to delete "_s + PersonDisplayName(id), u"Delete customer?"_s)) return false;
+      break;
+    case DeletionReport::GoOn:
+      break;
+  }
+  NeighbourAfterDeletion(id);
+  DeletePerson(id);
+  return true;
+}

@@ -1,0 +1,62 @@
+#include "gear/person_due.h"
+
+#include "core/access.h"
+#include "core/clock.h"
+#include "core/format.h"
+#include "core/trap.h"
+#include "gear/rigs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Entries come in the order of their due date, so the first of each rig or component is its earliest.
+void FindEarliest(const QString& table, const QString& field, int person, std::optional<Date>& earliest) {
+  Recordset owned(u"Select * from "_s + table + u" where OwnerID = "_s + QString::number(person));
+  if (!RecordsetHasRows(owned)) return;
+  for (; !owned.Eof(); owned.MoveNext()) {
+    Recordset entries(u"Select * from tblSchedules where "_s + field + u" = "_s + owned[u"ID"].ToText() +
+                      u" Order by DateDue"_s);
+    if (!RecordsetHasRows(entries)) continue;
+    const Date due = entries[u"DateDue"].ToDate();
+    if (!earliest || due < *earliest) earliest = due;
+  }
+}
+
+}  // namespace
+
+QString DueIntervalWords(Date date) {
+  const int days = DaysBetween(Today(), date);
+  if (days >= 1464) return Format(days / 365.0, u"######0"_s) + u" years"_s;
+  if (days >= 367) return Format(days / 30.5, u"######0"_s) + u" months"_s;
+  if (days > 1) return QString::number(days) + u" days"_s;
+  if (days == 1) return u"1 day"_s;
+  return days == 0 ? u"Due today!"_s : u"Overdue!"_s;
+}
+
+QString RigCountText(int person) {
+  const int rigs = NumberOfRigs(person);
+  if (rigs == 0) return u"No rigs"_s;
+  return rigs == 1 ? u"1 rig"_s : QString::number(rigs) + u" rigs"_s;
+}
+
+std::optional<int> DaysToSoonestDue(int person) {
+  std::optional<Date> earliest;
+  Trap(u"Function DaysToSoonestDue"_s, [&] {
+    Bracket bracket;
+    FindEarliest(u"tblComponents"_s, u"ComponentID"_s, person, earliest);
+    FindEarliest(u"tblRig"_s, u"rigID"_s, person, earliest);
+    bracket.Close();
+  });
+  if (!earliest) return std::nullopt;
+  return DaysBetween(Today(), *earliest);
+}
+
+QString DueLine(int person) {
+  const std::optional<int> days = DaysToSoonestDue(person);
+  if (!days) return u"(no scheduled tasks)"_s;
+  if (*days < 0) return u"Has overdue tasks!"_s;
+  if (*days == 0) return u"Has tasks due today!"_s;
+  if (*days == 1) return u"Has tasks due tomorrow!"_s;
+  return u"Has tasks due in "_s + DueIntervalWords(Today() + *days);
+}

@@ -1,0 +1,106 @@
+#include "gear/person_names.h"
+
+#include "core/access.h"
+#include "core/text.h"
+#include "core/trap.h"
+#include "gear/people.h"
+#include "gear/person_record.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString ListText(const QString& last, const QString& first, const QString& organization) {
+  if (!last.isEmpty() && !first.isEmpty()) return last + u", "_s + first;
+  const QString one = last + first;
+  return one.isEmpty() ? organization : one;
+}
+
+}  // namespace
+
+void SplitTypedName(const QString& name, QString& last, QString& first) {
+  const QString text = RemoveDoubleSpaces(name);
+  first.clear();
+  last = text;
+  const auto halves = [&](qsizetype at, qsizetype length) { return std::pair(text.left(at), text.mid(at + length)); };
+  if (text.count(u", "_s) == 1)
+    std::tie(last, first) = halves(text.indexOf(u", "_s), 2);
+  else if (text.count(u',') == 1)
+    std::tie(last, first) = halves(text.indexOf(u','), 1);
+  else if (text.contains(u' '))
+    std::tie(first, last) = halves(text.lastIndexOf(u' '), 1);
+  else
+    return;
+  last = ProperCase(last);
+  first = ProperCase(first);
+}
+
+bool DuplicateNameCheck(const QString& name, int& id) {
+  id = 0;
+  QString last;
+  QString first;
+  SplitTypedName(name, last, first);
+  last = last.trimmed().toLower();
+  first = first.trimmed().toLower();
+  QStringList close;
+  Trap(u"Function DuplicateNameCheck"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset people(u"tblPeople"_s);
+      if (RecordsetHasRows(people)) {
+        for (; id == 0 && !people.Eof(); people.MoveNext()) {
+          const QString otherLast = people[u"LastName"].ToText();
+          const QString otherFirst = people[u"FirstName"].ToText();
+          if (otherLast.trimmed().toLower() != last) continue;
+          if (otherFirst.trimmed().toLower() == first)
+            id = people[u"ID"].ToInt();
+          else
+            close << otherFirst + u' ' + otherLast;
+        }
+      }
+    }
+    bracket.Close();
+  });
+  if (id != 0) return true;
+  if (close.isEmpty()) return false;
+  return AskYes(Lines(QStringList{u"Matching last names:"_s, QString()} + close +
+                      QStringList{QString(), u"Is the customer listed above?"_s}),
+                kProgramTitle);
+}
+
+void AddPersonByName(const QString& name, int& id) {
+  Person person;
+  SplitTypedName(name, person.lastName, person.firstName);
+  id = InsertPerson(person);
+}
+
+int AddCustomer() {
+  const QString name = InputBox(u"Enter name of new customer"_s).trimmed();
+  if (name.isEmpty()) return 0;
+  int id = 0;
+  if (DuplicateNameCheck(name, id)) {
+    if (id != 0) MsgBox(name + u" already exists"_s);
+    return id;
+  }
+  AddPersonByName(name, id);
+  return id;
+}
+
+void GetArrayOfPeopleExpanded(QStringList& myArray, QList<int>& Array2) {
+  myArray.clear();
+  Array2.clear();
+  Trap(u"Sub GetArrayOfPeopleExpanded"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset people(u"Select * from tblPeople order by lastName, firstname, orgname"_s);
+      if (RecordsetHasRows(people)) {
+        for (; !people.Eof(); people.MoveNext()) {
+          myArray << ListText(people[u"LastName"].ToText().trimmed(), people[u"FirstName"].ToText().trimmed(),
+                              people[u"OrgName"].ToText().trimmed());
+          Array2 << people[u"ID"].ToInt();
+        }
+      }
+    }
+    bracket.Close();
+  });
+}

@@ -1,0 +1,24 @@
+#pragma once
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// People by a name as it was typed.
+
+/// "Last, First", "Last,First" and "First Last" come apart, several words at the last blank, each half with its
+/// first letters in upper case. A single word is the last name, left as it was typed.
+void SplitTypedName(const QString& name, QString& last, QString& first);
+
+/// True when the person is known: `id` is theirs where first and last name both match (case and outer blanks aside),
+/// or 0 when the person recognised the name in the list of equal last names that was shown.
+bool DuplicateNameCheck(const QString& name, int& id);
+
+/// Adds a person with nothing but a name.
+void AddPersonByName(const QString& name, int& id);
+
+/// The frame of "Enter name of new customer": asks for a name, refuses one that exists, adds it otherwise. The id of
+/// the new or the existing person; 0 when nothing was typed or the person is known without an id.
+int AddCustomer();
+
+/// Every person for a list: the texts by last name, first name and organization, and the ids beside them.
+void GetArrayOfPeopleExpanded(QStringList& myArray, QList<int>& Array2);

@@ -1,0 +1,137 @@
+#include "gear/person_record.h"
+
+#include "core/access.h"
+#include "core/text.h"
+#include "core/trap.h"
+#include "gear/person_names.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct TextField {
+  QStringView name;
+  QString Person::*text;
+};
+const TextField kTextFields[] = {{u"OrgName", &Person::organization},
+                                 {u"LastName", &Person::lastName},
+                                 {u"FirstName", &Person::firstName},
+                                 {u"PhoneHome", &Person::phoneHome},
+                                 {u"PhoneCell", &Person::phoneCell},
+                                 {u"phoneOther", &Person::phoneOther},
+                                 {u"email1", &Person::email1},
+                                 {u"email2", &Person::email2},
+                                 {u"Address1", &Person::address1},
+                                 {u"Address2", &Person::address2},
+                                 {u"City", &Person::city},
+                                 {u"State", &Person::state},
+                                 {u"Zip", &Person::zip},
+                                 {u"Country", &Person::country}};
+
+void WriteFields(Recordset& row, const Person& person) {
+  for (const TextField& field : kTextFields) row.Set(field.name, person.*field.text);
+  row.Set(u"Comment", person.comment.trimmed().isEmpty() ? u" "_s : person.comment);
+  row.Set(u"rigger", person.rigger);
+}
+
+QString RowStatement(int id) { return u"Select * from tblPeople where id = "_s + QString::number(id); }
+
+}  // namespace
+
+bool LoadPerson(int id, Person& person) {
+  person = {};
+  bool exists = false;
+  Trap(u"Function LoadPerson"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset row(RowStatement(id));
+      exists = RecordsetHasRows(row);
+      if (exists) {
+        for (const TextField& field : kTextFields) person.*field.text = row[field.name].ToText();
+        person.comment = row[u"Comment"].ToText();
+        person.rigger = row[u"rigger"].ToBool();
+      }
+    }
+    bracket.Close();
+  });
+  return exists;
+}
+
+int InsertPerson(const Person& person) {
+  int id = 0;
+  Trap(u"Function InsertPerson"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset row(u"tblPeople"_s);
+      row.AddNew();
+      WriteFields(row, person);
+      row.Set(u"PhotoName", QString());
+      row.Update();
+      id = row[u"ID"].ToInt();
+    }
+    bracket.Close();
+  });
+  return id;
+}
+
+int SaveNewOwner(const Person& person, bool isProgramOwner) {
+  const int id = InsertPerson(person);
+  if (isProgramOwner && id != 0) UpdateTableBySQL(u"update tblMisc set UserID = "_s + QString::number(id));
+  return id;
+}
+
+void UpdateOwner(int id, const Person& person) {
+  Trap(u"Sub UpdateOwner"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset row(RowStatement(id));
+      if (RecordsetHasRows(row)) {
+        WriteFields(row, person);
+        row.Update();
+      }
+    }
+    bracket.Close();
+  });
+}
+
+void SetRiggerFlag(int id, bool rigger) {
+  Trap(u"Sub SetRiggerFlag"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset row(RowStatement(id));
+      if (RecordsetHasRows(row)) {
+        row.Set(u"rigger", rigger);
+        row.Update();
+      }
+    }
+    bracket.Close();
+  });
+}
+
+bool CheckPersonEntries(Person& person, bool isNew) {
+  if (person.state.size() == 2) person.state = person.state.toUpper();
+  if ((person.lastName.trimmed() + person.firstName.trimmed() + person.organization.trimmed()).isEmpty()) {
+    MsgBox(u"You must enter at least a first name, last name, or organization"_s, u"Ooops"_s);
+    return false;
+  }
+  if (isNew) {
+    const QString name = (person.firstName + u' ' + person.lastName).trimmed();
+    int id = 0;
+    // Organizations have no name to compare: each would look like the other.
+    if (!name.isEmpty() && DuplicateNameCheck(name, id) &&
+        !AskYes(Lines({u"The name "_s + person.firstName + u' ' + person.lastName +
+                           u" already exists in the customer database"_s,
+                       QString(), u"Are you sure you want to add another customer with this name?"_s, QString()}),
+                u"Duplicate name"_s))
+      return false;
+  }
+  person.lastName = ProperCase(person.lastName);
+  person.firstName = ProperCase(person.firstName);
+  return true;
+}
+
+int ProgramOwner() { return GetValueFromTableBySQL(u"tblMisc"_s, u"UserID"_s).ToInt(); }
+
+int LastCustomerID() { return GetValueFromTableBySQL(u"tblMisc"_s, u"LastCustomerID"_s).ToInt(); }
+
+void SetLastCustomerID(int id) { UpdateTableBySQL(u"update tblMisc set LastCustomerID = "_s + QString::number(id)); }

@@ -1,0 +1,213 @@
+#include "gear/rig_rules.h"
+
+#include "core/access.h"
+#include "core/default_rows.h"
+#include "core/format.h"
+#include "core/trap.h"
+#include "gear/components.h"
+#include "gear/models.h"
+#include "gear/people.h"
+#include "gear/rig_types.h"
+#include "gear/rigs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void TellDoubledTypes(int rig) {
+  QList<int> types;
+  {
+    Recordset rows(u"tblComponentTypes"_s);
+    if (!RecordsetHasRows(rows)) return;
+    for (; !rows.Eof(); rows.MoveNext()) types << rows[u"ID"].ToInt();
+  }
+  for (int type : types) {
+    const int count =
+        GetNumberRecordsComplex(u"Select * from tblComponents where rigID = %1 and TypeID = %2"_s.arg(rig).arg(type))
+            .ToInt();
+    if (count > 1)
+      MsgBox(RigName(rig) + u" has "_s + QString::number(count) + u' ' + ComponentTypeName(type), u"uh oh!"_s,
+             Icon::Exclamation);
+  }
+}
+
+RigComponentRow ReadRow(int rig, int type) {
+  RigComponentRow row{type, ComponentOfTypeInRig(rig, type), ComponentTypeName(type), {}, {}, {}};
+  if (row.component == 0) return row;
+  row.name = ComponentDescription(row.component);
+  row.serial = ComponentSerial(row.component);
+  const Date dom = ComponentDom(row.component);
+  if (!dom.IsNone()) row.dom = Format(dom, u"mm/dd/yyyy"_s);
+  return row;
+}
+
+/// False, after the box, when the owner has a rig of that name already.
+bool NameIsFree(const QString& name, int owner, Icon icon) {
+  if (!RigNameIsTaken(name, owner)) return true;
+  MsgBox(PersonDisplayName(owner) + u" already has a rig named "_s + name, u"Duplicate rig name"_s, icon);
+  return false;
+}
+
+}  // namespace
+
+void LoadRigs(int owner, int type, QStringList& names, QList<int>& ids) {
+  names.clear();
+  ids.clear();
+  Trap(u"Sub LoadRigs"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset rigs(owner == 0 ? u"select * from tblRig"_s
+                                : u"select * from tblRig where Ownerid = "_s + QString::number(owner));
+      if (RecordsetHasRows(rigs)) {
+        for (; !rigs.Eof(); rigs.MoveNext()) {
+          if (type != 0 && rigs[u"TypeID"].ToInt() != type) continue;
+          names << rigs[u"rigAlias"].ToText();
+          ids << rigs[u"ID"].ToInt();
+        }
+      }
+    }
+    bracket.Close();
+  });
+}
+
+QString RigCountSuffix(int owner) {
+  const int rigs = NumberOfRigs(owner);
+  if (rigs == 0) return u"(no rigs)"_s;
+  return rigs == 1 ? u"(1 rig)"_s : u'(' + QString::number(rigs) + u" rigs)"_s;
+}
+
+QList<RigComponentRow> LoadRigComponents(int rig) {
+  QList<RigComponentRow> rows;
+  Trap(u"Sub LoadRigComponents"_s, [&] {
+    Bracket bracket;
+    SetLastSystemID(rig);
+    TellDoubledTypes(rig);
+    for (int type : ComponentTypesOfRigType(RigType(rig))) rows << ReadRow(rig, type);
+    bracket.Close();
+  });
+  return rows;
+}
+
+QString AskNewRigName(int owner) {
+  const QString name = InputBox(u"What do you want to call this new rig?"_s).trimmed();
+  return !name.isEmpty() && NameIsFree(name, owner, Icon::Exclamation) ? name : QString();
+}
+
+bool RenameRig(int rig) {
+  const QString current = RigName(rig);
+  const QString name = InputBox(u"Enter Rig Name"_s, u"Change Rig Name"_s, current);
+  if (name == current || name.trimmed().isEmpty()) return false;
+  // The rig's own name in other capitals is no other rig's.
+  if (name.trimmed().toLower() != current.trimmed().toLower() && !NameIsFree(name, RigOwner(rig), Icon::None))
+    return false;
+  SetRigName(rig, name);
+  return true;
+}
+
+bool ChangeRigOwner(int rig, int newOwner) {
+  const int owner = RigOwner(rig);
+  if (newOwner < 1 || newOwner == owner) return false;
+  const QString newName = PersonDisplayName(newOwner);
+  const QString text = PersonExists(owner)
+                           ? u"Change rig owner from "_s + PersonDisplayName(owner) + u" to "_s + newName + u'?'
+                           : u"Assign rig to "_s + newName + u'?';
+  if (!AskYes(text, RigName(rig))) return false;
+  SetRigOwner(rig, newOwner);
+  return true;
+}
+
+bool AssignRig(int rig, int owner) {
+  if (!AskYes(u"Assign rig "_s + RigName(rig) + u" to "_s + PersonDisplayName(owner) + u'?', u"Assign Rig?"_s))
+    return false;
+  SetRigOwner(rig, owner);
+  return true;
+}
+
+bool ChangeRigType(int rig, int newType) {
+  const int type = RigType(rig);
+  if (newType < 1 || newType == type) return false;
+  // A rig of nobody's is asked about without words.
+  const QString text = PersonExists(RigOwner(rig))
+                           ? u"Change rig type from "_s + RigTypeName(type) + u" to "_s + RigTypeName(newType) + u'?'
+                           : QString();
+  if (!AskYes(text, RigName(rig))) return false;
+  SetRigType(rig, newType);
+  return true;
+}
+
+bool RemoveComponentFromRig(int rig, int component) {
+  const int type = ComponentTypeOf(component);
+  if (!AskYes(Lines({u"Remove "_s + ComponentDescription(component) + u" from "_s + RigName(rig) + u'?', QString(),
+                     u"(component will still be in the database)"_s}),
+              u"Remove "_s + ComponentTypeName(type) + u'?'))
+    return false;
+  Trap(u"Sub RemoveComponentFromRig"_s, [&] {
+    Bracket bracket;
+    DetachComponent(rig, component, type);
+    SetComponentRig(component, 0);
+    bracket.Close();
+  });
+  return true;
+}
+
+void DeleteRig(int rig) {
+  Trap(u"Sub DeleteRig"_s, [&] {
+    Bracket bracket;
+    DeleteRepackEntries(rig);
+    DeleteRigRow(rig);
+    bracket.Close();
+  });
+}
+
+QString RigComment(int rig) { return GetValueFromTable(u"tblRig"_s, u"id"_s, rig, u"comment"_s).ToText(); }
+
+void SetRigComment(int rig, const QString& comment) {
+  UpdateTable(u"tblRig"_s, u"comment"_s, comment.trimmed().isEmpty() ? u" "_s : comment, u"id"_s, rig);
+}
+
+bool InstallChosenComponent(int rig, int component, Date today) {
+  SetLastComponentID(component);
+  const int type = ComponentTypeOf(component);
+  if (!CheckMove(type, rig, component, false, today)) return false;
+  if (!CheckOwner(rig, component)) return false;
+  Trap(u"Sub InstallChosenComponent"_s, [&] {
+    Bracket bracket;
+    if (ComponentRig(component) != rig) FreePlace(rig, type);
+    SetComponentRig(component, rig);
+    UpdateTable(u"tblPhotos"_s, u"rigid"_s, rig, u"componentid"_s, component);
+    bracket.Close();
+  });
+  CheckComponentType(component);
+  return true;
+}
+
+int RepackPartnerInRig(int rig, int component) {
+  switch (ComponentTypeOf(component)) {
+    case kContainer:
+      return ComponentOfTypeInRig(rig, kReserveCanopy);
+    case kReserveCanopy:
+      return ComponentOfTypeInRig(rig, kContainer);
+    default:
+      return 0;
+  }
+}
+
+bool AskAddRepackToSchedule(Date repack) {
+  const QString pattern = u"mm/dd/yyyy"_s;
+  return AskYes(Lines({u"There is a reserve repack task found for this"_s, u"container and reserve.   "_s, QString(),
+                       u"Repack date: "_s + Format(repack, pattern),
+                       u"Expiration date: "_s + Format(repack + RepackCycle(), pattern), QString(),
+                       u"Would you like this to appear on the schedule?"_s}),
+                u"Add repack to schedule?"_s);
+}
+
+void ShowExpirationHelp() {
+  MsgBox(Lines({u"A component's expiration date is based on:"_s, QString(), u"      Component's date of manufacture"_s,
+                u"      Component model's service life"_s, QString(),
+                u"You cannot manually change the expiration date but you can"_s,
+                u"change the date of manufacture in the grid above."_s, QString(),
+                u"You can also change the model's service life using the GEAR menu"_s, u"on the main screen."_s,
+                u"(select Component Models)"_s}));
+}
+
+int RepackCycle() { return GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s).ToInt(); }
