@@ -1,0 +1,68 @@
+#include "core/access.h"
+#include "core/default_rows.h"
+#include "core/prompts.h"
+#include "core/trap.h"
+#include "jobs/job_records.h"
+#include "jobs/lines.h"
+#include "schedule/schedule.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Deleting such a line leaves the gear where it is.
+void TellWhatStays(int taskLibID) {
+  if (taskLibID == InstallTaskLibID) {
+    MsgBox(
+        Lines({u"You are deleting a component installation task."_s,
+               u"This will delete the task but it will not remove the actual"_s, u"component that was installed.  "_s,
+               u"To delete the component from this job, you must use REMOVE COMPONENT"_s}));
+  }
+  if (taskLibID == RemoveTaskLibID) {
+    MsgBox(Lines({u"You are deleting a component removal task."_s,
+                  u"This will delete the task but it will not restore the"_s, u"component that was removed.  "_s,
+                  u"To restore the component, you must use INSTALL COMPONENT"_s}));
+  }
+}
+
+}  // namespace
+
+void DeleteTask(int taskID) {
+  DeleteRecordsFromTable(u"tblTasks"_s, u"ID"_s, taskID);
+  DeleteRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID);
+}
+
+bool DeleteLine(int taskID, bool quiet, int rigID, int componentID) {
+  bool deleted = false;
+  Trap(u"Sub DeleteCurrentTask"_s, [&] {
+    const QString name = GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, u"TaskName"_s).ToText();
+    const int jobID = GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, u"JobID"_s).ToInt();
+    const int taskLibID = TaskLibIDOf(taskID);
+    if (!quiet && !AskYes(u"Are you sure you want to delete this entry?"_s, u"Delete "_s + name + u'?')) return;
+    TellWhatStays(taskLibID);
+    Bracket bracket;
+    DeleteTask(taskID);
+    UpdateSchedule(taskLibID, rigID, componentID);
+    if (LinesOfJob(jobID).isEmpty()) SetJobDateCompleted(jobID, Date());
+    bracket.Close();
+    deleted = true;
+  });
+  return deleted;
+}
+
+bool DeleteAllLines(int jobID, int rigID, int componentID) {
+  const QList<int> lines = LinesOfJob(jobID);
+  if (lines.isEmpty()) {
+    MsgBox(u"This jobs has no entries"_s, u"Nothing to delete"_s);
+    return false;
+  }
+  if (!AskYes(Lines({u"This will permanently delete all tasks and parts for this job."_s,
+                     u"Are you sure you want to do this?"_s}),
+              u"Delete all entries for this job?"_s))
+    return false;
+  return Trap(u"Sub DeleteAllTasks"_s, [&] {
+    Bracket bracket;
+    for (int taskID : lines) DeleteLine(taskID, true, rigID, componentID);
+    bracket.Close();
+  });
+}

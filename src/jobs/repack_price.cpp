@@ -1,0 +1,82 @@
+#include "jobs/repack_price.h"
+
+#include "core/access.h"
+#include "core/default_rows.h"
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/trap.h"
+#include "gear/components.h"
+#include "gear/rigs.h"
+#include "schedule/task_library.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Money PriceFrom(const QString& statement, int taskLibID) {
+  if (taskLibID != RepackTaskLibID && GetNumberRecordsComplex(statement).ToInt() > 0) {
+    MsgBox(u"you shouldn't be here"_s);
+    return {};
+  }
+  return GetValueFromTableBySQL(statement, u"Price"_s).ToMoney();
+}
+
+void SavePrice(const QString& table, const QString& key, int id, Money price) {
+  Trap(u"Sub SavePrice"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset rows(u"Select * from %1 where %2 = %3"_s.arg(table, key).arg(id));
+      if (!RecordsetHasRows(rows)) rows.AddNew();
+      rows.Set(key, id);
+      rows.Set(u"Price", price);
+      rows.Update();
+    }
+    bracket.Close();
+  });
+}
+
+bool HasOtherPrice(const QString& table, Money usual) {
+  Recordset rows(u"Select * from "_s + table);
+  if (!RecordsetHasRows(rows)) return false;
+  for (; !rows.Eof(); rows.MoveNext()) {
+    const Money price = rows[u"Price"].ToMoney();
+    if (!price.IsZero() && price != usual) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Money GetPriceByModel(int modelID, int taskLibID) {
+  return PriceFrom(u"Select * from tblRepackByModel where Modelid = %1"_s.arg(modelID), taskLibID);
+}
+
+Money GetPriceByType(int typeID, int taskLibID) {
+  return PriceFrom(u"Select * from tblRepackByType where Typeid = %1"_s.arg(typeID), taskLibID);
+}
+
+Money GetRepackPrice(int taskLibID, int rigID) {
+  Bracket bracket;
+  const int model = ComponentModel(ComponentOfTypeInRig(rigID, kContainer));
+  if (const Money price = GetPriceByModel(model, taskLibID); !price.IsZero()) return price;
+  if (const Money price = GetPriceByType(RigType(rigID), taskLibID); !price.IsZero()) return price;
+  if (taskLibID == RepackTaskLibID) return TaskLibFlatRate(RepackTaskLibID);
+  MsgBox(u"you shouldn't be here"_s);
+  return {};
+}
+
+void SaveByModel(int modelID, Money price) { SavePrice(u"tblRepackByModel"_s, u"ModelID"_s, modelID, price); }
+
+void SaveByType(int typeID, Money price) { SavePrice(u"tblRepackByType"_s, u"TypeID"_s, typeID, price); }
+
+QString RepackPriceLabel() {
+  QString label;
+  Trap(u"Function RepackPriceLabel"_s, [&] {
+    Bracket bracket;
+    const Money usual = TaskLibFlatRate(RepackTaskLibID);
+    const bool varies = HasOtherPrice(u"tblRepackByModel"_s, usual) || HasOtherPrice(u"tblRepackByType"_s, usual);
+    label = varies ? u"(cost varies)"_s : Format(usual, u"##0.00"_s);
+    bracket.Close();
+  });
+  return label;
+}
