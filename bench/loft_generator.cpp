@@ -1,6 +1,7 @@
 #include "bench/loft_generator.h"
 
 #include <QFile>
+
 #include <array>
 #include <random>
 #include <utility>
@@ -113,19 +114,21 @@ class Generator {
   int AddComponent(Recordset& components, int type, int owner, int rig) {
     const auto& models = models_[static_cast<size_t>(type)];
     ++componentsMade_;
-    return AddRow(components, {{u"ModelID", models[static_cast<size_t>(Draw(static_cast<int>(models.size())))]},
-                               {u"TypeID", type},
-                               {u"DOM", kFirstDay + Draw(kDays - 400)},
-                               {u"SubType", type == kMainCanopy || type == kReserveCanopy ? QString::number(90 + Draw(200)) : QString()},
-                               {u"Comment", u" "_s},
-                               {u"OwnerID", owner},
-                               {u"Color", u"black"_s},
-                               {u"Grounded", false},
-                               {u"NumJumps", 0},
-                               {u"SerialNumber", u"SN%1"_s.arg(componentsMade_, 6, 10, QChar(u'0'))},
-                               {u"RigID", rig},
-                               {u"Price", Money()},
-                               {u"PhotoName", QString()}});
+    return AddRow(
+        components,
+        {{u"ModelID", models[static_cast<size_t>(Draw(static_cast<int>(models.size())))]},
+         {u"TypeID", type},
+         {u"DOM", kFirstDay + Draw(kDays - 400)},
+         {u"SubType", type == kMainCanopy || type == kReserveCanopy ? QString::number(90 + Draw(200)) : QString()},
+         {u"Comment", u" "_s},
+         {u"OwnerID", owner},
+         {u"Color", u"black"_s},
+         {u"Grounded", false},
+         {u"NumJumps", 0},
+         {u"SerialNumber", u"SN%1"_s.arg(componentsMade_, 6, 10, QChar(u'0'))},
+         {u"RigID", rig},
+         {u"Price", Money()},
+         {u"PhotoName", QString()}});
   }
 
   void AddRigs() {
@@ -135,10 +138,9 @@ class Generator {
     for (int i = 1; i <= size_.rigs; ++i) {
       Rig rig;
       rig.owner = people_[static_cast<size_t>(Draw(size_.customers))];
-      rig.id = AddRow(rigs, {{u"OwnerID", rig.owner},
-                             {u"TypeID", kSportRig},
-                             {u"rigAlias", u"Rig %1"_s.arg(i)},
-                             {u"Comment", u" "_s}});
+      rig.id = AddRow(
+          rigs,
+          {{u"OwnerID", rig.owner}, {u"TypeID", kSportRig}, {u"rigAlias", u"Rig %1"_s.arg(i)}, {u"Comment", u" "_s}});
       for (int type : {kContainer, kMainCanopy, kReserveCanopy, kAad})
         rig.gear.push_back({AddComponent(components, type, rig.owner, rig.id), type});
       rigs_.push_back(std::move(rig));
@@ -151,8 +153,8 @@ class Generator {
       AddComponent(components, kMainCanopy, people_[static_cast<size_t>(Draw(size_.customers))], 0);
   }
 
-  int AddLine(Recordset& tasks, const Rig& rig, int job, int rigger, Date day, int taskLib, int part, const QString& name,
-              Money price) {
+  int AddLine(Recordset& tasks, const Rig& rig, int job, int rigger, Date day, int taskLib, int part,
+              const QString& name, Money price) {
     return AddRow(tasks, {{u"JobID", job},
                           {u"CustomerID", rig.owner},
                           {u"RiggerID", rigger},
@@ -199,7 +201,8 @@ class Generator {
                                     {u"RiggerID", rigger},
                                     {u"ComponentID", 0}});
       for (const Gear& piece : rig.gear) AddRow(gear, {{u"JobID", job}, {u"ComponentID", piece.id}});
-      const int repack = AddLine(tasks, rig, job, rigger, day, RepackTaskLibID, 0, u"Inspect and repack reserve"_s, Money::Whole(75));
+      const int repack =
+          AddLine(tasks, rig, job, rigger, day, RepackTaskLibID, 0, u"Inspect and repack reserve"_s, Money::Whole(75));
       for (const Gear& piece : rig.gear)
         if (piece.type == kContainer || piece.type == kReserveCanopy)
           AddRow(touched, {{u"TaskID", repack}, {u"CompID", piece.id}, {u"Complete", true}});
@@ -211,7 +214,8 @@ class Generator {
       const auto& parts = models_[static_cast<size_t>(kMisc)];
       for (; lines < wanted; ++lines) {
         const size_t which = static_cast<size_t>(Draw(static_cast<int>(parts.size())));
-        AddLine(tasks, rig, job, rigger, day, 0, parts[which], u"Part %1"_s.arg(which), Money::Whole(3 + static_cast<int>(which)));
+        AddLine(tasks, rig, job, rigger, day, 0, parts[which], u"Part %1"_s.arg(which),
+                Money::Whole(3 + static_cast<int>(which)));
       }
     }
     UpdateTableBySQL(u"update tblMisc set LastJobID = "_s + QString::number(size_.jobs));
@@ -250,6 +254,8 @@ void GenerateLoft(const QString& path, const LoftSize& size) {
 
 void UseBenchmarkLoft() {
   const QString path = QStringLiteral(BENCH_FOLDER "/benchmark-loft.mdb");
-  if (QFile::exists(path)) ConnectionString = ConnectionStringFor(path);
-  else GenerateLoft(path, LoftSize());
+  if (QFile::exists(path))
+    ConnectionString = ConnectionStringFor(path);
+  else
+    GenerateLoft(path, LoftSize());
 }

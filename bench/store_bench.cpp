@@ -86,7 +86,8 @@ BENCHMARK(GetterOutsideBracket);
 
 void TranslatorWarm(benchmark::State& state) {
   jet::Cut cut;
-  const QString statement = u"Select * from tblTasks where SystemID = 17 and TaskLibID = 1 and status = -1 order by DateTaskCompleted"_s;
+  const QString statement =
+      u"Select * from tblTasks where SystemID = 17 and TaskLibID = 1 and status = -1 order by DateTaskCompleted"_s;
   for (auto _ : state) {
     jet::CutStatement(statement, cut);
     benchmark::DoNotOptimize(cut.key.size());

@@ -3,12 +3,12 @@ add_library(loft_options INTERFACE)
 target_compile_features(loft_options INTERFACE cxx_std_20)
 target_compile_options(loft_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
-  -Wnull-dereference -Werror)
+  -Werror)
 target_compile_definitions(loft_options INTERFACE
   QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
   QT_STRICT_ITERATORS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(LOFTKEEP_SANITIZE)
   target_compile_options(loft_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
-                         -fno-sanitize-recover=undefined -Wno-null-dereference)
+                         -fno-sanitize-recover=undefined)
   target_link_options(loft_options INTERFACE -fsanitize=address,undefined)
 endif()

@@ -1,5 +1,7 @@
 #include "core/access.h"
 
+#include <QStringBuilder>
+
 #include <limits>
 
 #include "core/database.h"
@@ -14,7 +16,7 @@ constexpr int kBString = 8;  // ADO's number of a type that no field of the sche
 constexpr qsizetype kGrowth = 25;
 
 QString WhereStatement(const QString& tableName, const QString& keyField, const QString& key, const QString& what) {
-  return "Select "_L1 + what + " from "_L1 + tableName + " where "_L1 + keyField + " = "_L1 + key;
+  return QString("Select "_L1 % what % " from "_L1 % tableName % " where "_L1 % keyField % " = "_L1 % key);
 }
 
 /// Lines behind the description of an error, each ended by a line break.

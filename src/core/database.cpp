@@ -181,7 +181,7 @@ Database::~Database() {
   FreezeRecordsets();
   for (Recordset* recordset : recordsets_) recordset->database_ = nullptr;
   if (InTransaction()) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
-  for (const auto& pool : std::as_const(prepared_)) qDeleteAll(pool);
+  prepared_.clear();
   for (sqlite3_stmt* statement : std::as_const(plain_)) sqlite3_finalize(statement);
   sqlite3_close(handle_);
 }
@@ -219,13 +219,13 @@ void Database::Execute(const QString& statement) {
 Prepared* Database::Take(const QString& statement, Want want) {
   jet::CutStatement(statement, cut_);
   if (want == Want::Count) cut_.key += "count";
-  std::vector<Prepared*>& pool = prepared_[cut_.key];
+  std::vector<std::unique_ptr<Prepared>>& pool = prepared_[cut_.key];
   Prepared* free = nullptr;
-  for (Prepared* candidate : pool)
-    if (!candidate->inUse) free = candidate;
+  for (const std::unique_ptr<Prepared>& candidate : pool)
+    if (!candidate->inUse) free = candidate.get();
   if (!free) {
-    pool.push_back(Prepare(statement, want).release());
-    free = pool.back();
+    pool.push_back(Prepare(statement, want));
+    free = pool.back().get();
   }
   free->inUse = true;
   try {
@@ -274,16 +274,16 @@ std::unique_ptr<Prepared> Database::Prepare(const QString& statement, Want want)
 }
 
 void Database::BindLiterals(Prepared& prepared, const std::vector<jet::Literal>& literals) {
-  for (size_t i = 0; i < literals.size(); ++i) {
-    const jet::Literal& literal = literals[i];
-    const int parameter = static_cast<int>(i) + 1;
+  int parameter = 0;
+  for (const jet::Literal& literal : literals) {
+    const int type = prepared.literalTypes[static_cast<size_t>(parameter++)];
     if (literal.kind == jet::Literal::Kind::Date) {
-      sqlite3_bind_double(prepared.handle, parameter, literal.serial);
+      sqlite3_bind_double(prepared.handle, parameter, jet::ParseDateLiteral(literal.text).Serial());
     } else if (literal.kind == jet::Literal::Kind::Text) {
-      const QByteArray text = literal.text.toUtf8();
+      const QByteArray text = jet::TextOf(literal).toUtf8();
       sqlite3_bind_text(prepared.handle, parameter, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-    } else if (prepared.literalTypes[i] == jet::kMoney) {
-      sqlite3_bind_int64(prepared.handle, parameter, Money::FromText(literal.text).Units());
+    } else if (type == jet::kMoney) {
+      sqlite3_bind_int64(prepared.handle, parameter, Money::FromText(literal.text.toString()).Units());
     } else {
       bool whole = false;
       const qint64 number = literal.text.toLongLong(&whole);
@@ -340,7 +340,6 @@ void Database::ChangeSchema(const QByteArray& sql) {
 }
 
 void Database::ForgetPrepared() {
-  for (const auto& pool : std::as_const(prepared_)) qDeleteAll(pool);
   prepared_.clear();
   fields_.clear();
 }

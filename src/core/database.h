@@ -4,6 +4,8 @@
 #include <QStringList>
 
 #include <memory>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "core/jet.h"
@@ -98,7 +100,7 @@ class Database {
   QString path_;
   sqlite3* handle_ = nullptr;
   jet::Cut cut_;
-  QHash<QByteArray, std::vector<Prepared*>> prepared_;
+  std::unordered_map<std::string, std::vector<std::unique_ptr<Prepared>>> prepared_;
   QHash<QByteArray, sqlite3_stmt*> plain_;
   QHash<QString, std::vector<Field>> fields_;
   std::vector<Recordset*> recordsets_;

@@ -55,8 +55,14 @@ bool IsLiteral(const Token& token) {
   return token.kind == TokenKind::Number || token.kind == TokenKind::Text || token.kind == TokenKind::Date;
 }
 
-bool IsWordStart(QChar c) { return c.isLetter() || c == u'_'; }
-bool IsWordPart(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
+// Almost all that a statement holds is plain ASCII; the tables of Unicode are asked for the rest alone.
+bool IsDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+bool IsWordStart(QChar c) {
+  const char16_t lower = c.unicode() | 0x20;
+  return (lower >= 'a' && lower <= 'z') || c == u'_' || (c.unicode() > 127 && c.isLetter());
+}
+bool IsWordPart(QChar c) { return IsWordStart(c) || IsDigit(c) || (c.unicode() > 127 && c.isLetterOrNumber()); }
+bool IsBlank(QChar c) { return c == u' ' || (c >= u'\t' && c <= u'\r') || (c.unicode() > 127 && c.isSpace()); }
 
 [[noreturn]] void SyntaxError(QStringView statement) {
   throw Failure(u"Syntax error in query expression '%1'."_s.arg(statement));
@@ -67,11 +73,11 @@ class Scanner {
   explicit Scanner(QStringView statement) : statement_(statement) {}
 
   Token Next() {
-    while (at_ < statement_.size() && (statement_[at_].isSpace() || statement_[at_] == u';')) ++at_;
+    while (at_ < statement_.size() && (IsBlank(statement_[at_]) || statement_[at_] == u';')) ++at_;
     if (at_ >= statement_.size()) return {};
     const QChar c = statement_[at_];
     if (IsWordStart(c)) return Run(TokenKind::Word, [](QChar x) { return IsWordPart(x); });
-    if (c.isDigit() || (c == u'.' && at_ + 1 < statement_.size() && statement_[at_ + 1].isDigit())) return Number();
+    if (IsDigit(c) || (c == u'.' && at_ + 1 < statement_.size() && IsDigit(statement_[at_ + 1]))) return Number();
     if (c == u'\'' || c == u'"') return Quoted(c);
     if (c == u'#') return Enclosed(TokenKind::Date, u'#');
     if (c == u'[') return Enclosed(TokenKind::Bracketed, u']');
@@ -91,7 +97,7 @@ class Scanner {
     while (at_ < statement_.size()) {
       const QChar c = statement_[at_];
       const bool exponentSign = (c == u'+' || c == u'-') && at_ > start && statement_[at_ - 1].toLower() == u'e';
-      if (!c.isDigit() && c != u'.' && c.toLower() != u'e' && !exponentSign) break;
+      if (!IsDigit(c) && c != u'.' && c != u'e' && c != u'E' && !exponentSign) break;
       ++at_;
     }
     return {TokenKind::Number, statement_.mid(start, at_ - start)};
@@ -129,12 +135,6 @@ class Scanner {
   QStringView statement_;
   qsizetype at_ = 0;
 };
-
-/// Jet doubles a quote inside a text to mean the quote itself.
-QString Unquoted(QStringView text) {
-  QString plain = text.toString();
-  return plain.replace(u"''"_s, u"'"_s);
-}
 
 /// Where in a translated statement a literal belongs: the column named before the comparison in front of it.
 class ComparedColumn {
@@ -251,47 +251,44 @@ class Writer {
   Translation out_;
 };
 
-void AppendKey(QByteArray& key, QStringView text) {
+void AppendKey(std::string& key, QStringView text) {
   for (QChar c : text) {
     const char16_t u = c.unicode();
     if (u >= 'A' && u <= 'Z')
-      key += static_cast<char>(u + 32);
+      key.push_back(static_cast<char>(u + 32));
     else if (u < 128)
-      key += static_cast<char>(u);
+      key.push_back(static_cast<char>(u));
     else
-      key += QString(c).toLower().toUtf8();
+      key += QString(c).toLower().toStdString();
   }
 }
 
 }  // namespace
 
+QString TextOf(const Literal& literal) {
+  QString text = literal.text.toString();
+  if (literal.text.contains(u"''")) text.replace(u"''"_s, u"'"_s);
+  return text;
+}
+
 void CutStatement(QStringView statement, Cut& cut) {
-  cut.key.resize(0);
+  cut.key.clear();
   cut.literals.clear();
   Scanner scanner(statement);
   for (Token token = scanner.Next(); token.kind != TokenKind::End; token = scanner.Next()) {
-    switch (token.kind) {
-      case TokenKind::Number:
-        cut.key += '?';
-        cut.literals.push_back({Literal::Kind::Number, token.text.toString(), 0});
-        break;
-      case TokenKind::Text:
-        cut.key += '?';
-        cut.literals.push_back({Literal::Kind::Text, Unquoted(token.text), 0});
-        break;
-      case TokenKind::Date:
-        cut.key += '?';
-        cut.literals.push_back({Literal::Kind::Date, QString(), ParseDateLiteral(token.text).Serial()});
-        break;
-      case TokenKind::Bracketed:
-        cut.key += '[';
-        AppendKey(cut.key, token.text);
-        cut.key += ']';
-        break;
-      default:
-        AppendKey(cut.key, token.text);
+    if (IsLiteral(token)) {
+      const Literal::Kind kind = token.kind == TokenKind::Number ? Literal::Kind::Number
+                                 : token.kind == TokenKind::Text ? Literal::Kind::Text
+                                                                 : Literal::Kind::Date;
+      cut.key.push_back('?');
+      cut.literals.push_back({kind, token.text});
+    } else if (token.kind == TokenKind::Bracketed) {
+      cut.key.push_back('[');
+      AppendKey(cut.key, token.text);
+    } else {
+      AppendKey(cut.key, token.text);
     }
-    cut.key += ' ';
+    cut.key.push_back(' ');
   }
 }
 

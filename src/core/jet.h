@@ -1,10 +1,9 @@
 #pragma once
 #include <QByteArray>
-#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
-#include <functional>
+#include <string>
 #include <vector>
 
 #include "core/value.h"
@@ -27,17 +26,19 @@ enum FieldType : int {
   kMemo = 203,
 };
 
-/// One literal of a statement, in the order of the text. A number keeps its text, so that an amount never passes
-/// through a binary float.
+/// One literal of a statement, in the order of the text, without its signs. A number keeps its text, so that an amount
+/// never passes through a binary float. The text is that of the statement and lives no longer.
 struct Literal {
   enum class Kind { Number, Text, Date } kind = Kind::Number;
-  QString text;
-  double serial = 0;  ///< of a date
+  QStringView text;
 };
+
+/// What a text literal says: a doubled quote in it is one quote.
+QString TextOf(const Literal& literal);
 
 /// A statement cut into what is the same for all of its kind and what is its own. Reused from call to call.
 struct Cut {
-  QByteArray key;  ///< the statement in lower case, blanks folded, a mark in place of each literal
+  std::string key;  ///< the statement in lower case, blanks folded, a mark in place of each literal
   std::vector<Literal> literals;
 };
 
