@@ -84,7 +84,7 @@ void DoGearTable(Canvas& canvas, QStringList& html, const QList<GearRow>& rows) 
 void DoHTMLRigTable(Canvas& canvas, QStringList& html, int rigID) {
   const QString caption = RigTypeName(RigType(rigID)) + u"  (Rig name: "_s + RigName(rigID) + u')';
   PageCheck(canvas);
-  PrintJustified(canvas, kLeftMargin, caption);
+  PrintJustified(canvas, kLeftMargin, FitToWidth(canvas, caption, kRightMargin - kLeftMargin));
   html << caption.toHtmlEscaped() + u"<br>"_s;
   DoGearTable(canvas, html, GearRowsOfRig(rigID));
 }

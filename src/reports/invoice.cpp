@@ -29,7 +29,7 @@ constexpr double kTotalColumn = 0.5;
 constexpr double kMoneyColumn = 0.7;
 constexpr double kRuleEnd = 0.72;
 constexpr double kDateColumn = 0.3;
-constexpr double kCustomerBoxEnd = 0.5;
+constexpr double kCustomerBoxEnd = 0.42;
 constexpr double kCellGap = 0.01;
 constexpr double kPadding = 40;   // twips between a rule and a text
 constexpr double kRuleStep = 10;  // twips; three rules this close make one strong line
@@ -123,10 +123,11 @@ void DoAddress(InvoiceForm& form) {
     const BoldText bold(page);  // the first line is the name of the shop
     const double size = page.FontSize;
     page.FontSize = size * kNameScale;
-    PrintJustified(page, kLeftMargin, lines.first());
+    PrintJustified(page, kLeftMargin, FitToWidth(page, lines.first(), kRightMargin - kLeftMargin));
     page.FontSize = size;
   }
-  for (const QString& line : lines.mid(1)) PrintJustified(page, kLeftMargin, line);
+  for (const QString& line : lines.mid(1))
+    PrintJustified(page, kLeftMargin, FitToWidth(page, line, kRightMargin - kLeftMargin));
   page.Print({});
   form.html << u"<br>"_s;
 }
@@ -138,7 +139,8 @@ void DoHeader(InvoiceForm& form, int jobID, int rigID) {
                              u"Invoice #"_s + GetInvoiceNumber(jobID),
                              u"Invoice Date: "_s + (started.IsNone() ? QString() : Format(started, u"mm/dd/yyyy"_s))};
   for (const QString& line : lines) {
-    PrintJustified(form.page, kHeaderColumn, line, false, kJustifyRight);
+    PrintJustified(form.page, kHeaderColumn, FitToWidth(form.page, line, kHeaderColumn - kCustomerBoxEnd - kCellGap),
+                   false, kJustifyRight);
     form.html << line.toHtmlEscaped() + (line == lines.last() ? u" <br><br>"_s : u"  <br>"_s);
   }
 }

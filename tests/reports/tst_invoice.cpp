@@ -225,6 +225,25 @@ class TestInvoice : public QObject {
     QVERIFY(Html().contains(u"<tr><td>Total</td><td align=right>$17.00</td></tr>"_s));
   }
 
+  void NothingLongRunsOverItsNeighbourOrOffThePage() {
+    const QString wide(50, u'W');
+    HaveAddress(wide.toUtf8() + "\r\n" + wide.toUtf8() + wide.toUtf8() + "\r\n");
+    const int rig = Rig(wide + wide, RigTypeOf({1}, wide));
+    Component(rig, 1, Model(wide, 1, 12), wide, wide, Date::FromParts(2026, 1, 1));
+    const int job = Job(Person(wide, wide, wide), rig, wide);
+    Due(rig, Task(job, wide, 10), 1, Date::FromParts(2027, 1, 1));
+    QHash<int, QList<std::pair<double, double>>> lines;
+    for (const PageText& text : Texts(Print(job))) {
+      Canvas measure(PageOrientation::Portrait, text.font);
+      const std::pair piece(text.x, text.x + measure.TextWidth(text.text));
+      QVERIFY2(piece.first >= 0.05 * 12240 - 1 && piece.second <= 0.95 * 12240 + 1, qPrintable(text.text));
+      for (const auto& [from, to] : lines[qRound(text.y)])
+        QVERIFY2(piece.first >= to || piece.second <= from, qPrintable(text.text));
+      lines[qRound(text.y)] << piece;
+    }
+    QVERIFY(Html().contains(u"Job Title: "_s + wide + u"  <br>"_s));
+  }
+
   void LongNamesAreCutBeforeTheAmount() {
     HaveAddress();
     const int job = Job(0, 0);

@@ -1,11 +1,14 @@
+#include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QtTest>
 
 #include "reports/fonts.h"
@@ -176,6 +179,23 @@ class TestPrintPreview : public QObject {
     });
     DoReport(u"invoice"_s, Job(1));
     QVERIFY(!QFile::exists(Pdf()));
+  }
+
+  void ThePlatformsDialogOffersTheWholeReportOnly() {
+    SetPrinterQuestion(before_);
+    bool shown = false;
+    QTimer::singleShot(0, this, [&shown] {
+      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      QVERIFY(dialog);
+      shown = true;
+      QVERIFY(!dialog->testOption(QAbstractPrintDialog::PrintPageRange));
+      QVERIFY(!dialog->testOption(QAbstractPrintDialog::PrintSelection));
+      QVERIFY(!dialog->testOption(QAbstractPrintDialog::PrintCurrentPage));
+      QCOMPARE(dialog->printer()->pageLayout().pageSize().id(), QPageSize::Letter);
+      dialog->reject();
+    });
+    PrintPages(Canvas(PageOrientation::Portrait, {u"Arial"_s, 10, false, false}).Drawn(), nullptr);
+    QVERIFY(shown);
   }
 
   void APrinterThatFailsIsTold() {
