@@ -8,22 +8,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void LoadNames(const QString& source, QStringList& names, QList<int>& ids) {
-  names.clear();
-  ids.clear();
-  Trap(u"Sub LoadNames"_s, [&] {
+IdList LoadNames(const QString& source) {
+  IdList list;
+  Trap(u"Function LoadNames"_s, [&] {
     Bracket bracket;
     {
       Recordset rows(source);
-      if (RecordsetHasRows(rows)) {
-        for (; !rows.Eof(); rows.MoveNext()) {
-          names << rows[u"Name"].ToText();
-          ids << rows[u"ID"].ToInt();
-        }
-      }
+      if (RecordsetHasRows(rows))
+        for (; !rows.Eof(); rows.MoveNext()) list.Add(rows[u"Name"].ToText(), rows[u"ID"].ToInt());
     }
     bracket.Close();
   });
+  return list;
 }
 
 bool SameName(const QString& a, const QString& b) { return a.trimmed().toLower() == b.trimmed().toLower(); }
@@ -50,28 +46,22 @@ QString AskOtherName(const QString& name, const QString& title) {
 
 }  // namespace
 
-void LoadModelsOfType(int type, QStringList& names, QList<int>& ids) {
-  LoadNames(ModelsOfType(type) + u" order by name"_s, names, ids);
-}
-
-void LoadModels(int type, QStringList& names, QList<int>& ids, int manufacturer) {
+IdList LoadModels(int type, int manufacturer) {
   QString source = ModelsOfType(type);
   if (manufacturer != kNoManufacturerSelected) source += u" and manfid = "_s + QString::number(manufacturer);
-  LoadNames(source, names, ids);
+  return LoadNames(source);
 }
 
-void LoadManufacturers(QStringList& names, QList<int>& ids) {
-  LoadNames(u"Select * from tblManufacturers"_s, names, ids);
-  names << u"(not specified)"_s;
-  ids << 0;
+IdList LoadManufacturers() {
+  IdList list = LoadNames(u"Select * from tblManufacturers"_s);
+  list.Add(u"(not specified)"_s, 0);
+  return list;
 }
 
 int FindModelByName(const QString& name, int type) {
-  QStringList names;
-  QList<int> ids;
-  LoadNames(ModelsOfType(type), names, ids);
-  for (qsizetype i = 0; i < names.size(); ++i)
-    if (SameName(names.at(i), name)) return ids.at(i);
+  const IdList models = LoadModels(type);
+  for (qsizetype i = 0; i < models.Size(); ++i)
+    if (SameName(models.texts.at(i), name)) return models.ids.at(i);
   return 0;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
-#include <QList>
 #include <QString>
-#include <QStringList>
+
+#include "core/lists.h"
 
 /// Adding, renaming, linking and deleting models and manufacturers, with their questions.
 
@@ -9,12 +9,10 @@ constexpr int kLongestModelName = 50;
 /// A manufacturer list in which nothing is selected, not even "(not specified)", which is 0.
 constexpr int kNoManufacturerSelected = -1;
 
-/// Models of a type in the order of their names.
-void LoadModelsOfType(int type, QStringList& names, QList<int>& ids);
 /// Models of a type as the models screen shows them: all, or those of one maker (0 for none).
-void LoadModels(int type, QStringList& names, QList<int>& ids, int manufacturer = kNoManufacturerSelected);
+IdList LoadModels(int type, int manufacturer = kNoManufacturerSelected);
 /// All manufacturers in the table's order, and "(not specified)" with id 0 behind them.
-void LoadManufacturers(QStringList& names, QList<int>& ids);
+IdList LoadManufacturers();
 
 /// The model of this name in a type, outer blanks and case aside; 0 when the name is free.
 int FindModelByName(const QString& name, int type);

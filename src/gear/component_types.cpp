@@ -29,24 +29,12 @@ int NextTypeId() {
 
 }  // namespace
 
-void LoadComponentTypes(QStringList& names, QList<int>& ids) {
-  names.clear();
-  ids.clear();
-  Trap(u"Sub LoadComponentTypes"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset types(u"Select * from tblComponentTypes order by ID"_s);
-      if (RecordsetHasRows(types)) {
-        for (; !types.Eof(); types.MoveNext()) {
-          const int id = types[u"ID"].ToInt();
-          if (id == kMisc) continue;
-          names << types[u"Name"].ToText();
-          ids << id;
-        }
-      }
-    }
-    bracket.Close();
-  });
+IdList LoadMajorComponentTypes() {
+  const IdList all = LoadComponentTypes();
+  IdList major;
+  for (qsizetype i = 0; i < all.Size(); ++i)
+    if (all.ids.at(i) != kMisc) major.Add(all.texts.at(i), all.ids.at(i));
+  return major;
 }
 
 QString TypeInSentence(int type) {

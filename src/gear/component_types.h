@@ -1,7 +1,7 @@
 #pragma once
-#include <QList>
 #include <QString>
-#include <QStringList>
+
+#include "core/lists.h"
 
 /// The general categories of gear. Types 1 to 7 are fixed: they may be renamed, not deleted.
 
@@ -9,7 +9,7 @@
 constexpr int kFirstUserType = 8;
 
 /// The types of major gear for a list: all but Misc.
-void LoadComponentTypes(QStringList& names, QList<int>& ids);
+IdList LoadMajorComponentTypes();
 
 /// "container", "main canopy"; "AAD" stays as it is.
 QString TypeInSentence(int type);

@@ -3,9 +3,9 @@
 #include <QDir>
 
 #include "core/access.h"
+#include "core/data_folder.h"
 #include "core/files.h"
 #include "core/format.h"
-#include "core/platform.h"
 #include "core/text.h"
 #include "core/text_files.h"
 #include "core/trap.h"
@@ -17,9 +17,9 @@ namespace {
 const QString kStart = u"<mfg>"_s;
 const QString kEnd = u"<end mfg>"_s;
 
-QString SupportFile(const QString& dataPath) { return PlatformPath(dataPath + u"support\\models.txt"_s); }
+const QString kFile = u"models.txt"_s;
 
-QString LocalFile() { return QDir::current().filePath(u"models.txt"_s); }
+QString LocalFile() { return QDir::current().filePath(kFile); }
 
 /// Lines read one by one; behind the end they are empty.
 class Reader {
@@ -87,12 +87,12 @@ void ExportModels() {
   });
 }
 
-void ImportModels(bool silent, const QString& dataPath) {
+void ImportModels(bool silent) {
   if (HasModels()) {
     MsgBox(u"tblModels isn't empty"_s, u"cancelling"_s);
     return;
   }
-  QString file = SupportFile(dataPath);
+  QString file = SupportFile(kFile);
   if (silent && !ExistFile(file)) {
     MsgBox(u"The file 'models.txt' is missing.  Manufacturers and models will not be loaded"_s,
            u"Can't find 'models.txt')"_s);
@@ -122,11 +122,12 @@ void ImportModels(bool silent, const QString& dataPath) {
 }
 
 QString GetModelfileforImport() {
-  return OpenFileDialog({u"Find file 'models.txt"_s, u"models.txt"_s, u"all files (*.*)|*.*"_s});
+  return OpenFileDialog({u"Find file 'models.txt"_s, kFile, u"all files (*.*)|*.*"_s});
 }
 
-void LoadModelsAtStart(const QString& dataPath) {
-  const QString support = SupportFile(dataPath);
-  if (!ExistFile(support) && ExistFile(LocalFile())) MyFileCopy(LocalFile(), support);
-  if (!HasModels()) ImportModels(true, dataPath);
+void LoadModelsAtStart() {
+  const QString support = SupportFile(kFile);
+  const QString source = ProgramFile(kFile);
+  if (!ExistFile(support) && !source.isEmpty()) MyFileCopy(source, support);
+  if (!HasModels()) ImportModels(true);
 }

@@ -10,12 +10,12 @@ bool IsModelsFile(const QStringList& lines);
 /// Asks, then writes models.txt into the current folder.
 void ExportModels();
 
-/// Reads models and manufacturers into a database that has no models. `silent` takes support\models.txt of the data
-/// folder without a question; otherwise the person chooses the file. `dataPath` ends with a separator.
-void ImportModels(bool silent, const QString& dataPath);
+/// Reads models and manufacturers into a database that has no models. `silent` takes models.txt of the support folder
+/// without a question; otherwise the person chooses the file.
+void ImportModels(bool silent);
 /// The file that the person chooses, empty when cancelled.
 QString GetModelfileforImport();
 
-/// The step of each start: a models.txt in the current folder is copied to the support folder that lacks one, and a
-/// database without models takes them in.
-void LoadModelsAtStart(const QString& dataPath);
+/// The step of each start: the models.txt that comes with the program is copied to the support folder that lacks one,
+/// and a database without models takes them in.
+void LoadModelsAtStart();

@@ -8,16 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString ListText(const QString& last, const QString& first, const QString& organization) {
-  if (!last.isEmpty() && !first.isEmpty()) return last + u", "_s + first;
-  const QString one = last + first;
-  return one.isEmpty() ? organization : one;
-}
-
-}  // namespace
-
 void SplitTypedName(const QString& name, QString& last, QString& first) {
   const QString text = RemoveDoubleSpaces(name);
   first.clear();
@@ -84,23 +74,4 @@ int AddCustomer() {
   }
   AddPersonByName(name, id);
   return id;
-}
-
-void GetArrayOfPeopleExpanded(QStringList& myArray, QList<int>& Array2) {
-  myArray.clear();
-  Array2.clear();
-  Trap(u"Sub GetArrayOfPeopleExpanded"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset people(u"Select * from tblPeople order by lastName, firstname, orgname"_s);
-      if (RecordsetHasRows(people)) {
-        for (; !people.Eof(); people.MoveNext()) {
-          myArray << ListText(people[u"LastName"].ToText().trimmed(), people[u"FirstName"].ToText().trimmed(),
-                              people[u"OrgName"].ToText().trimmed());
-          Array2 << people[u"ID"].ToInt();
-        }
-      }
-    }
-    bracket.Close();
-  });
 }

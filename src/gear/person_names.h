@@ -1,7 +1,5 @@
 #pragma once
-#include <QList>
 #include <QString>
-#include <QStringList>
 
 /// People by a name as it was typed.
 
@@ -19,6 +17,3 @@ void AddPersonByName(const QString& name, int& id);
 /// The frame of "Enter name of new customer": asks for a name, refuses one that exists, adds it otherwise. The id of
 /// the new or the existing person; 0 when nothing was typed or the person is known without an id.
 int AddCustomer();
-
-/// Every person for a list: the texts by last name, first name and organization, and the ids beside them.
-void GetArrayOfPeopleExpanded(QStringList& myArray, QList<int>& Array2);

@@ -50,24 +50,21 @@ bool NameIsFree(const QString& name, int owner, Icon icon) {
 
 }  // namespace
 
-void LoadRigs(int owner, int type, QStringList& names, QList<int>& ids) {
-  names.clear();
-  ids.clear();
-  Trap(u"Sub LoadRigs"_s, [&] {
+IdList LoadRigs(int owner, int type) {
+  IdList list;
+  Trap(u"Function LoadRigs"_s, [&] {
     Bracket bracket;
     {
       Recordset rigs(owner == 0 ? u"select * from tblRig"_s
                                 : u"select * from tblRig where Ownerid = "_s + QString::number(owner));
       if (RecordsetHasRows(rigs)) {
-        for (; !rigs.Eof(); rigs.MoveNext()) {
-          if (type != 0 && rigs[u"TypeID"].ToInt() != type) continue;
-          names << rigs[u"rigAlias"].ToText();
-          ids << rigs[u"ID"].ToInt();
-        }
+        for (; !rigs.Eof(); rigs.MoveNext())
+          if (type == 0 || rigs[u"TypeID"].ToInt() == type) list.Add(rigs[u"rigAlias"].ToText(), rigs[u"ID"].ToInt());
       }
     }
     bracket.Close();
   });
+  return list;
 }
 
 QString RigCountSuffix(int owner) {

@@ -1,14 +1,14 @@
 #pragma once
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include "core/date.h"
+#include "core/lists.h"
 
 /// What the rig screens do to rigs, with their questions; and the rows that they show.
 
 /// Rigs in the table's order: of an owner or (0) of everyone, and of a type or (0) of all types.
-void LoadRigs(int owner, int type, QStringList& names, QList<int>& ids);
+IdList LoadRigs(int owner, int type);
 /// "(no rigs)", "(1 rig)", "(3 rigs)".
 QString RigCountSuffix(int owner);
 

@@ -28,28 +28,22 @@ bool WriteField(int id, QStringView field, const Value& value) {
 
 }  // namespace
 
-void LoadRigTypesById(QStringList& names, QList<int>& ids) {
-  names.clear();
-  ids.clear();
-  Trap(u"Sub LoadRigTypesById"_s, [&] {
+IdList LoadRigTypesById() {
+  IdList list;
+  Trap(u"Function LoadRigTypesById"_s, [&] {
     Bracket bracket;
     {
       Recordset types(u"Select * from tblRigTypes order by ID"_s);
-      if (RecordsetHasRows(types)) {
-        for (; !types.Eof(); types.MoveNext()) {
-          names << types[u"Name"].ToText();
-          ids << types[u"ID"].ToInt();
-        }
-      }
+      if (RecordsetHasRows(types))
+        for (; !types.Eof(); types.MoveNext()) list.Add(types[u"Name"].ToText(), types[u"ID"].ToInt());
     }
     bracket.Close();
   });
+  return list;
 }
 
 bool IsDuplicateRigType(const QString& NewType) {
-  QStringList names;
-  QList<int> ids;
-  LoadRigTypesById(names, ids);
+  const QStringList names = LoadRigTypesById().texts;
   const QString wanted = NewType.trimmed().toUpper();
   return std::any_of(names.cbegin(), names.cend(),
                      [&](const QString& name) { return name.trimmed().toUpper() == wanted; });

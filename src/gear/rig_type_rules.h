@@ -1,11 +1,12 @@
 #pragma once
 #include <QList>
 #include <QString>
-#include <QStringList>
+
+#include "core/lists.h"
 
 /// What the rig types screen does to its records. Every choice there is written at once.
 
-void LoadRigTypesById(QStringList& names, QList<int>& ids);
+IdList LoadRigTypesById();
 /// Compares upper-cased, without outer blanks.
 bool IsDuplicateRigType(const QString& NewType);
 /// Asks for a name and adds the rig type, with no components and no reserve location. Its id, 0 when nothing came of

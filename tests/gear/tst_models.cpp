@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "core/data_folder.h"
 #include "core/default_rows.h"
 #include "gear/catalogue.h"
 #include "gear/component_types.h"
@@ -42,18 +43,12 @@ class TestModels : public QObject {
     const int stiletto = AddModelOfManufacturer(u"Stiletto"_s, kMainCanopy, 4);
     const int pilot = AddModel(u"Pilot"_s, kMainCanopy);
     AddModel(u"Raven"_s, kReserveCanopy);
-    QStringList names;
-    QList<int> ids;
-    LoadModelsOfType(kMainCanopy, names, ids);
-    QCOMPARE(ids, QList<int>({pilot, stiletto}));
-    LoadModels(kMainCanopy, names, ids);
-    QCOMPARE(ids, QList<int>({stiletto, pilot}));
-    LoadModels(kMainCanopy, names, ids, 0);
-    QCOMPARE(names, QStringList(u"Pilot"_s));
+    QCOMPARE(LoadModels(kMainCanopy).ids, QList<int>({stiletto, pilot}));
+    QCOMPARE(LoadModels(kMainCanopy, 0).texts, QStringList(u"Pilot"_s));
+    QCOMPARE(LoadModels(kMainCanopy, 4).ids, QList<int>({stiletto}));
     Manufacturer(loft, 4, "PD");
-    LoadManufacturers(names, ids);
-    QCOMPARE(names, QStringList({u"PD"_s, u"(not specified)"_s}));
-    QCOMPARE(ids, QList<int>({4, 0}));
+    QCOMPARE(LoadManufacturers().texts, QStringList({u"PD"_s, u"(not specified)"_s}));
+    QCOMPARE(LoadManufacturers().ids, QList<int>({4, 0}));
   }
 
   void AMakerThatHasGoneIsPutRight() {
@@ -231,11 +226,8 @@ class TestModels : public QObject {
     QCOMPARE(AddNewComponentType(), 0);
     prompts.ExpectInput(kProgramTitle, u"Enter name of new component"_s, u"Helmet"_s);
     QCOMPARE(AddNewComponentType(), 8);
-    QStringList names;
-    QList<int> ids;
-    LoadComponentTypes(names, ids);
-    QCOMPARE(ids, QList<int>({1, 2, 3, 4, 5, 6, 8}));
-    QCOMPARE(names.last(), u"Helmet"_s);
+    QCOMPARE(LoadMajorComponentTypes().ids, QList<int>({1, 2, 3, 4, 5, 6, 8}));
+    QCOMPARE(LoadMajorComponentTypes().texts.last(), u"Helmet"_s);
     QCOMPARE(TypeInSentence(kMainCanopy), u"main canopy"_s);
     QCOMPARE(TypeInSentence(kAad), u"AAD"_s);
     prompts.ExpectInput(u"Rename"_s, u"Enter component type name"_s, u"Hat"_s).Proposing(u"Helmet"_s);
@@ -302,7 +294,7 @@ class TestModels : public QObject {
              "<mfg>\r\nPD\r\n4\r\nIcarus\r\n2\r\n<end mfg>\r\nStorm\r\n4\r\n2\r\n0\r\nLoop\r\n0\r\n7\r\n2.5\r\n"_ba);
 
     prompts.ExpectBox(u"cancelling"_s, u"tblModels isn't empty"_s);
-    ImportModels(false, QString());
+    ImportModels(false);
     loft.Run(u"delete * from tblModels"_s);
     loft.Run(u"delete * from tblManufacturers"_s);
     const QStringList before = loft.Snapshot();
@@ -312,7 +304,7 @@ class TestModels : public QObject {
         .Filtering(u"all files (*.*)|*.*"_s);
     prompts.Expect(kProgramTitle, u"Valid file.  Ready to import?"_s, Answer::Yes);
     prompts.ExpectBox(u"Done"_s, u"Manufacturers and models updated"_s);
-    ImportModels(false, QString());
+    ImportModels(false);
     QCOMPARE(loft.ChangesSince(before), QStringList({u"+tblManufacturers|4|PD"_s, u"+tblManufacturers|2|Icarus"_s,
                                                      u"+tblModels|3|4|2|0|Storm|0"_s, u"+tblModels|4|0|7|0|Loop|0"_s}));
   }
@@ -329,20 +321,20 @@ class TestModels : public QObject {
       prompts.ExpectOpenFile(u"Find file 'models.txt"_s, file);
     };
     prompts.Expect(kProgramTitle, u"Import models and manufacturers?"_s, Answer::No);
-    ImportModels(false, QString());
+    ImportModels(false);
     ask(QString());
-    ImportModels(false, QString());
+    ImportModels(false);
     ask(bad);
     prompts.ExpectBox(u"wrong file"_s, u"that isn't a valid models text file"_s);
-    ImportModels(false, QString());
+    ImportModels(false);
     ask(good);
     prompts.Expect(kProgramTitle, u"Valid file.  Ready to import?"_s, Answer::No);
-    ImportModels(false, QString());
+    ImportModels(false);
     QCOMPARE(loft.ChangesSince(before), QStringList());
     ask(good);
     prompts.Expect(kProgramTitle, u"Valid file.  Ready to import?"_s, Answer::Yes);
     prompts.ExpectBox(u"Done"_s, u"Manufacturers and models updated"_s);
-    ImportModels(false, QString());
+    ImportModels(false);
     QCOMPARE(loft.Rows(u"select Name, ManfID, TypeID, Price from tblModels"_s),
              QStringList({u"Storm|4|2|0"_s, u"Cut|0|0|0"_s}));
   }
@@ -352,18 +344,18 @@ class TestModels : public QObject {
     const TempFolder program;
     const TempFolder data;
     data.MakeFolder(u"support"_s);
-    const QString dataPath = data.Path() + u'/';
+    DataPath = data.Path() + u'/';
     const QString here = QDir::currentPath();
     QDir::setCurrent(program.Path());
     ScriptedPrompts prompts;
     prompts.ExpectBox(u"Can't find 'models.txt')"_s,
                       u"The file 'models.txt' is missing.  Manufacturers and models will not be loaded"_s);
-    LoadModelsAtStart(dataPath);
+    LoadModelsAtStart();
     program.Write(u"models.txt"_s, "<mfg>\r\nPD\r\n4\r\n<end mfg>\r\nStorm\r\n4\r\n2\r\n0\r\n");
-    LoadModelsAtStart(dataPath);
+    LoadModelsAtStart();
     QVERIFY(data.Has(u"support/models.txt"_s));
     QCOMPARE(loft.Rows(u"select Name from tblModels"_s), QStringList(u"Storm"_s));
-    LoadModelsAtStart(dataPath);
+    LoadModelsAtStart();
     QDir::setCurrent(here);
     QCOMPARE(loft.Rows(u"select Name from tblModels"_s), QStringList(u"Storm"_s));
   }

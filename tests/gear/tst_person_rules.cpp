@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "core/lists.h"
 #include "gear/people.h"
 #include "gear/person_deletion.h"
 #include "gear/person_due.h"
@@ -124,11 +125,9 @@ class TestPersonRules : public QObject {
     const int club = loft.Add(u"tblPeople"_s, {{u"OrgName"_s, "Sky Club"}, {u"LastName"_s, ""}, {u"FirstName"_s, ""}});
     const int bob = loft.Add(u"tblPeople"_s, {{u"OrgName"_s, "Loft"}, {u"LastName"_s, ""}, {u"FirstName"_s, "Bob"}});
     const int dee = Named(u"Dee"_s);
-    QStringList names;
-    QList<int> ids;
-    GetArrayOfPeopleExpanded(names, ids);
-    QCOMPARE(names, QStringList({u"Sky Club"_s, u"Bob"_s, u"Dee"_s, u"Jones, Ann"_s}));
-    QCOMPARE(ids, QList<int>({club, bob, dee, ann}));
+    const IdList people = GetArrayOfPeopleExpanded();
+    QCOMPARE(people.texts, QStringList({u"Sky Club"_s, u"Bob"_s, u"Dee"_s, u"Jones, Ann"_s}));
+    QCOMPARE(people.ids, QList<int>({club, bob, dee, ann}));
   }
 
   void TheEditorWantsAName() {

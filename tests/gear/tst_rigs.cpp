@@ -28,11 +28,8 @@ class TestRigs : public QObject {
  private Q_SLOTS:
   void TheDefaultRigTypesAreThere() {
     ThrowAwayLoft loft;
-    QStringList names;
-    QList<int> ids;
-    LoadRigTypesById(names, ids);
-    QCOMPARE(names, QStringList({u"Sport Rig"_s, u"Tandem Rig"_s, u"Pilot Emergency Rig (back)"_s,
-                                 u"Pilot Emergency Rig (seat)"_s}));
+    QCOMPARE(LoadRigTypesById().texts, QStringList({u"Sport Rig"_s, u"Tandem Rig"_s, u"Pilot Emergency Rig (back)"_s,
+                                                    u"Pilot Emergency Rig (seat)"_s}));
     QCOMPARE(ComponentTypesOfRigType(kTandem), QList<int>({1, 2, 3, 4, 6}));
     QCOMPARE(NumberOfComponentTypes(kTandem), 5);
     QCOMPARE(ReserveLocation(4), 2);
@@ -266,16 +263,10 @@ class TestRigs : public QObject {
     const int red = CreateRig(1, kTandem, u"Red"_s);
     const int blue = CreateRig(2, kSport, u"Blue"_s);
     const int green = CreateRig(1, kSport, u"Green"_s);
-    QStringList names;
-    QList<int> ids;
-    LoadRigs(0, 0, names, ids);
-    QCOMPARE(ids, QList<int>({red, blue, green}));
-    LoadRigs(1, 0, names, ids);
-    QCOMPARE(names, QStringList({u"Red"_s, u"Green"_s}));
-    LoadRigs(0, kSport, names, ids);
-    QCOMPARE(ids, QList<int>({blue, green}));
-    LoadRigs(2, kTandem, names, ids);
-    QVERIFY(ids.isEmpty());
+    QCOMPARE(LoadRigs(0, 0).ids, QList<int>({red, blue, green}));
+    QCOMPARE(LoadRigs(1, 0).texts, QStringList({u"Red"_s, u"Green"_s}));
+    QCOMPARE(LoadRigs(0, kSport).ids, QList<int>({blue, green}));
+    QCOMPARE(LoadRigs(2, kTandem).Size(), 0);
   }
 
   void RemovingAContainerTakesTheRepackOffTheSchedule() {
