@@ -81,6 +81,21 @@ QString CommandForSerial(const QString& serial, int type) {
   return show ? u"s/n "_s + typed.toUpper() : u"cancel"_s;
 }
 
+IdList LoadSerials(int type) {
+  IdList serials;
+  Trap(u"Function LoadSerials"_s, [&] {
+    Bracket bracket;
+    {
+      const QString ofType = type == 0 ? QString() : u"TypeID = %1 and "_s.arg(type);
+      Recordset rows(u"Select * from tblcomponents where "_s + ofType + u"SerialNumber <> '' order by serialnumber "_s);
+      if (RecordsetHasRows(rows))
+        for (; !rows.Eof(); rows.MoveNext()) serials.Add(rows[u"SerialNumber"].ToText(), rows[u"ID"].ToInt());
+    }
+    bracket.Close();
+  });
+  return serials;
+}
+
 bool AskAddToRig(int type, int rig, int component) {
   const QString typeName = ComponentTypeName(type);
   if (!AskYes(Lines({u"The "_s + typeName + u" you selected:"_s, u"     "_s + ComponentDescription(component),

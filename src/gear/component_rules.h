@@ -1,11 +1,16 @@
 #pragma once
 #include <QString>
 
+#include "core/lists.h"
+
 /// The questions around a component that is chosen, owned, removed or deleted.
 
 /// The answer to a serial number typed for a new component of a rig: "new with s/n:<serial>", "load component:<id>",
 /// "s/n <serial>" or "cancel", and empty when the person wants to type another.
 QString CommandForSerial(const QString& serial, int type);
+
+/// The serial numbers of a type's components (0 for all) in their order, with the components' ids.
+IdList LoadSerials(int type);
 
 /// Asks whether a component in no rig goes into this rig, and puts it there; true when it did.
 bool AskAddToRig(int type, int rig, int component);

@@ -105,6 +105,11 @@ int FirstPerson() {
   return ids.isEmpty() ? 0 : ids.first();
 }
 
+std::pair<int, int> EndsByLastName() {
+  const QList<int> ids = IdsInOrder(u"lastname"_s);
+  return ids.isEmpty() ? std::pair(0, 0) : std::pair(ids.first(), ids.last());
+}
+
 int NumberOfRiggers() { return GetNumberRecordsComplex(u"Select * from tblPeople where rigger = true"_s).ToInt(); }
 
 int DefaultRigger() {

@@ -1,6 +1,8 @@
 #pragma once
 #include <QString>
 
+#include <utility>
+
 /// Customers, riggers and the owner of the program are rows of one table. What every screen and report shows of a
 /// person is made here. An id without a row reads "(none)" or empty; nothing raises an error.
 
@@ -22,6 +24,9 @@ int NextPerson(int id);
 int PreviousPerson(int id);
 /// The first person in the order of last and first name, 0 when there is nobody.
 int FirstPerson();
+/// The first and the last person by last name alone, 0 when there is nobody. On a tie they may not be the ends of the
+/// walk.
+std::pair<int, int> EndsByLastName();
 
 int NumberOfRiggers();
 /// The rigger proposed for new jobs, 0 for none. One whose row has gone is read once more and cleared.

@@ -1,6 +1,9 @@
 #include "gear/rig_rules.h"
 
+#include <QHash>
+
 #include "core/access.h"
+#include "core/data_folder.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/trap.h"
@@ -13,6 +16,12 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QString WithId(const QString& text, int id) {
+  return DiagnosticMode ? text + u" ("_s + QString::number(id) + u')' : text;
+}
+
+QString RigText(const Recordset& rig) { return WithId(rig[u"rigAlias"].ToText(), rig[u"ID"].ToInt()); }
 
 void TellDoubledTypes(int rig) {
   QList<int> types;
@@ -32,13 +41,28 @@ void TellDoubledTypes(int rig) {
 }
 
 RigComponentRow ReadRow(int rig, int type) {
-  RigComponentRow row{type, ComponentOfTypeInRig(rig, type), ComponentTypeName(type), {}, {}, {}};
+  RigComponentRow row{type, ComponentOfTypeInRig(rig, type), WithId(ComponentTypeName(type), type), {}, {}, {}};
   if (row.component == 0) return row;
   row.name = ComponentDescription(row.component);
   row.serial = ComponentSerial(row.component);
   const Date dom = ComponentDom(row.component);
   if (!dom.IsNone()) row.dom = Format(dom, u"mm/dd/yyyy"_s);
   return row;
+}
+
+/// One walk over the rigs: a question to each of thousands of customers would be slow.
+QHash<int, int> CountRigs() {
+  QHash<int, int> counts;
+  Trap(u"Function CountRigs"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset rigs(u"select * from tblRig"_s);
+      if (RecordsetHasRows(rigs))
+        for (; !rigs.Eof(); rigs.MoveNext()) ++counts[rigs[u"OwnerID"].ToInt()];
+    }
+    bracket.Close();
+  });
+  return counts;
 }
 
 /// False, after the box, when the owner has a rig of that name already.
@@ -59,7 +83,7 @@ IdList LoadRigs(int owner, int type) {
                                 : u"select * from tblRig where Ownerid = "_s + QString::number(owner));
       if (RecordsetHasRows(rigs)) {
         for (; !rigs.Eof(); rigs.MoveNext())
-          if (type == 0 || rigs[u"TypeID"].ToInt() == type) list.Add(rigs[u"rigAlias"].ToText(), rigs[u"ID"].ToInt());
+          if (type == 0 || rigs[u"TypeID"].ToInt() == type) list.Add(RigText(rigs), rigs[u"ID"].ToInt());
       }
     }
     bracket.Close();
@@ -67,10 +91,29 @@ IdList LoadRigs(int owner, int type) {
   return list;
 }
 
-QString RigCountSuffix(int owner) {
-  const int rigs = NumberOfRigs(owner);
+QString RigCountSuffix(int rigs) {
   if (rigs == 0) return u"(no rigs)"_s;
   return rigs == 1 ? u"(1 rig)"_s : u'(' + QString::number(rigs) + u" rigs)"_s;
+}
+
+IdList LoadCustomers(bool withRigCounts) {
+  IdList customers = GetArrayOfPeopleExpanded();
+  if (withRigCounts) {
+    const QHash<int, int> counts = CountRigs();
+    for (qsizetype i = 0; i < customers.Size(); ++i)
+      customers.texts[i] += u"  "_s + RigCountSuffix(counts.value(customers.ids.at(i)));
+  }
+  for (qsizetype i = 0; i < customers.Size(); ++i)
+    customers.texts[i] = WithId(customers.texts.at(i), customers.ids.at(i));
+  return customers;
+}
+
+int FirstRigOf(int owner) { return LoadRigs(owner, 0).ids.value(0); }
+
+bool PhotosAreHidden() { return GetValueFromTableBySQL(u"tblMisc"_s, u"HidePhotos"_s).ToBool(); }
+
+void SetPhotosHidden(bool hidden) {
+  UpdateTableBySQL(u"update tblMisc set HidePhotos = "_s + (hidden ? u"true"_s : u"false"_s));
 }
 
 QList<RigComponentRow> LoadRigComponents(int rig) {

@@ -10,7 +10,15 @@
 /// Rigs in the table's order: of an owner or (0) of everyone, and of a type or (0) of all types.
 IdList LoadRigs(int owner, int type);
 /// "(no rigs)", "(1 rig)", "(3 rigs)".
-QString RigCountSuffix(int owner);
+QString RigCountSuffix(int rigs);
+
+/// Everyone as in lists of people, with the number of rigs behind each name where wanted.
+IdList LoadCustomers(bool withRigCounts);
+/// The person's first rig in the table's order, 0 if none.
+int FirstRigOf(int owner);
+/// Whether photos are left out, for speed.
+bool PhotosAreHidden();
+void SetPhotosHidden(bool hidden);
 
 /// One row of the component grid: a component type of the rig's type, and what the rig has of it.
 struct RigComponentRow {

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "core/data_folder.h"
 #include "core/default_rows.h"
 #include "gear/components.h"
 #include "gear/models.h"
@@ -136,9 +137,8 @@ class TestRigs : public QObject {
     QVERIFY(!RigExists(99));
     QCOMPARE(RigName(99), QString());
     QCOMPARE(NumberOfRigs(1), 2);
-    QCOMPARE(RigCountSuffix(1), u"(2 rigs)"_s);
-    QCOMPARE(RigCountSuffix(2), u"(1 rig)"_s);
-    QCOMPARE(RigCountSuffix(3), u"(no rigs)"_s);
+    QCOMPARE(FirstRigOf(1), red);
+    QCOMPARE(FirstRigOf(3), 0);
   }
 
   void ALongNameIsCut() {
@@ -267,6 +267,23 @@ class TestRigs : public QObject {
     QCOMPARE(LoadRigs(1, 0).texts, QStringList({u"Red"_s, u"Green"_s}));
     QCOMPARE(LoadRigs(0, kSport).ids, QList<int>({blue, green}));
     QCOMPARE(LoadRigs(2, kTandem).Size(), 0);
+  }
+
+  void CustomersCarryTheNumberOfTheirRigs() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    const int bob = Named(u"Bob Smith"_s);
+    Named(u"Cid Young"_s);
+    CreateRig(ann, kSport, u"Red"_s);
+    CreateRig(ann, kSport, u"Blue"_s);
+    CreateRig(bob, kSport, u"Green"_s);
+    QCOMPARE(LoadCustomers(false).texts, QStringList({u"Jones, Ann"_s, u"Smith, Bob"_s, u"Young, Cid"_s}));
+    QCOMPARE(LoadCustomers(true).texts,
+             QStringList({u"Jones, Ann  (2 rigs)"_s, u"Smith, Bob  (1 rig)"_s, u"Young, Cid  (no rigs)"_s}));
+    DiagnosticMode = true;
+    QCOMPARE(LoadCustomers(false).texts.first(), u"Jones, Ann (1)"_s);
+    QCOMPARE(LoadRigs(bob, 0).texts, QStringList(u"Green (3)"_s));
+    DiagnosticMode = false;
   }
 
   void RemovingAContainerTakesTheRepackOffTheSchedule() {

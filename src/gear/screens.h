@@ -1,0 +1,48 @@
+#pragma once
+#include <QString>
+
+/// The doors to the screens of people, rigs and components.
+
+/// How the customers screen starts, in the place of a person's id.
+constexpr int kPeopleAddNew = -99;
+constexpr int kPeoplePick = -88;
+constexpr int kPeopleNobody = -77;
+
+/// Shows the customers, modally; `start` is a person's id, 0 for the first one, or a mode above. The person shown last,
+/// 0 when there was none. With `ownerSetup` the next person who is saved becomes the owner of the program.
+int ShowPeople(int start = 0, bool ownerSetup = false);
+
+/// What the rig screen opens on.
+struct RigScreenStart {
+  int customer = 0;
+  int rig = 0;
+  int rigType = 0;           ///< only rigs of this type
+  bool hideButtons = false;  ///< a plain display for the caller: no Exit button, nothing to change
+  QString caption = {};      ///< in the place of "Rigs"
+};
+/// Shows the rigs, modally. False, after a notice, when the screen is open already.
+bool ShowRigs(const RigScreenStart& start = {});
+
+/// Lets a person choose a rig; false when cancelled. `rig` and `customer` are selected when the screen opens, `rigType`
+/// limits the list.
+bool PickRig(int& rig, int& customer, int rigType = 0);
+
+/// Shows a rig with its components and asks whether to delete it; with `showOnly` it is only shown. True for Yes.
+bool ConfirmRigDeletion(int rig, bool showOnly = false);
+
+/// Asks how the empty place of a component type is to be filled: "new", "select", "load component:<id>", "s/n
+/// <serial>", "new with s/n:<serial>" or "cancel".
+QString AskNewOrOld(int componentType);
+
+/// Edits a component; its id when it was saved, another id when the person went over to the component that has its
+/// serial number, 0 when cancelled.
+int EditComponent(int component);
+
+/// Shows a component with a question below; true for Yes. With `exitOnly` there is only a button that ends it.
+bool VerifyComponent(int component, const QString& caption = {}, bool exitOnly = false);
+
+/// Looks a component up by its serial number; 0 when none was chosen.
+int PickComponentBySerial(int componentType, const QString& serial);
+
+/// Tells the picker how people, rigs and gear are added and deleted.
+void RegisterGearPickers();

@@ -1,0 +1,22 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+
+namespace Ui {
+class frmComponentVerify;
+}
+
+/// Shows one component and asks whether it is the one; the tag is "yes" then.
+class frmComponentVerify : public Form {
+  Q_OBJECT
+ public:
+  frmComponentVerify();
+  ~frmComponentVerify() override;
+
+  /// With `exitOnly` there is nothing to decide. An empty caption leaves the screen's own.
+  void SetComponent(int component, const QString& caption, bool exitOnly);
+
+ private:
+  std::unique_ptr<Ui::frmComponentVerify> ui_;
+};

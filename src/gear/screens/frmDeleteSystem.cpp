@@ -1,0 +1,63 @@
+#include "gear/screens/frmDeleteSystem.h"
+
+#include <QKeyEvent>
+
+#include "core/prompts.h"
+#include "gear/rig_types.h"
+#include "gear/rigs.h"
+#include "gear/screens/rig_grid.h"
+
+#include "ui_frmDeleteSystem.h"
+
+using namespace Qt::StringLiterals;
+
+frmDeleteSystem::frmDeleteSystem() : ui_(std::make_unique<Ui::frmDeleteSystem>()) {
+  ui_->setupUi(this);
+  SetRemembersPlace(false);
+  RigGrid::SetUp(*ui_->grid);
+  connect(ui_->cmdYes, &QPushButton::clicked, this, [this] { Answer(u"yes"_s); });
+  connect(ui_->cmdNo, &QPushButton::clicked, this, [this] { Answer(u"no"_s); });
+  connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmDeleteSystem::Cancel);
+  connect(ui_->cmdExit, &QPushButton::clicked, this, &frmDeleteSystem::Cancel);
+  connect(ui_->cmdHelp, &QPushButton::clicked, this, &frmDeleteSystem::ShowHelp);
+}
+
+frmDeleteSystem::~frmDeleteSystem() = default;
+
+void frmDeleteSystem::SetRig(int rig, bool showOnly) {
+  showOnly_ = showOnly;
+  setWindowTitle(showOnly ? u"Show rig"_s : u"Delete System?"_s);
+  ui_->lblTitle->setText(RigName(rig));
+  ui_->lblRigType->setText(u"Rig Type: "_s + RigTypeName(RigType(rig)));
+  RigGrid::Fill(*ui_->grid, rig);
+  for (QPushButton* button : {ui_->cmdYes, ui_->cmdNo, ui_->cmdCancel, ui_->cmdHelp}) button->setVisible(!showOnly);
+  ui_->lblNote->setVisible(!showOnly);
+  ui_->cmdExit->setVisible(showOnly);
+}
+
+void frmDeleteSystem::keyPressEvent(QKeyEvent* event) {
+  if (!showOnly_ && event->modifiers() == Qt::NoModifier) {
+    switch (event->key()) {
+      case Qt::Key_Y:
+        return Answer(u"yes"_s);
+      case Qt::Key_N:
+        return Answer(u"no"_s);
+      case Qt::Key_C:
+        return Cancel();
+      default:
+        break;
+    }
+  }
+  Form::keyPressEvent(event);
+}
+
+void frmDeleteSystem::Answer(const QString& tag) {
+  SetTag(tag);
+  Leave();
+}
+
+void frmDeleteSystem::ShowHelp() {
+  MsgBox(Lines({u"When you delete a rig, its components stay in the database."_s, QString(),
+                u"The tasks performed on them still exist, and can be seen"_s, u"under Jobs and History."_s}),
+         u"Help:      Deleting a Rig"_s);
+}

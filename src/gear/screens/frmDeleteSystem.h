@@ -1,0 +1,28 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+
+namespace Ui {
+class frmDeleteSystem;
+}
+
+/// Shows a rig with its components and asks whether to delete it; the tag is "yes", "no" or "cancel".
+class frmDeleteSystem : public Form {
+  Q_OBJECT
+ public:
+  frmDeleteSystem();
+  ~frmDeleteSystem() override;
+
+  void SetRig(int rig, bool showOnly);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Answer(const QString& tag);
+  void ShowHelp();
+
+  std::unique_ptr<Ui::frmDeleteSystem> ui_;
+  bool showOnly_ = false;
+};

@@ -1,0 +1,53 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+#include "gear/screens.h"
+
+class QAction;
+
+namespace Ui {
+class frmGetRig;
+}
+
+/// The rigs of the loft: their names, owners and types, the components each is made of, and what falls due on it.
+class frmGetRig : public Form {
+  Q_OBJECT
+ public:
+  frmGetRig();
+  ~frmGetRig() override;
+
+  void SetStart(const RigScreenStart& start);
+  void ReloadForm() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void MakeMenu();
+  void ShowRig();
+  void LoadSchedule();
+  void ShowState();
+  void Search();
+  void AddCustomer();
+  void DeleteCustomer();
+  void AddRig();
+  int ChooseRigType(int present);
+  void RenameRig();
+  void ChangeOwner();
+  void ChangeType();
+  void DeleteRig();
+  void FilterByType();
+  void EditRigComments();
+  void EnterComponent();
+  void FillPlace(int type);
+  void CreateInPlace(int type, int model, const QString& serial);
+  void Install(int component);
+  void OfferRepack(int component);
+  void RemoveComponent();
+
+  std::unique_ptr<Ui::frmGetRig> ui_;
+  QList<QAction*> rigCommands_;  // wait for a rig
+  QList<QAction*> changes_;      // not for a plain display
+  bool hideButtons_ = false;
+};

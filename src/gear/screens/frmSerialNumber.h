@@ -1,0 +1,29 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+
+namespace Ui {
+class frmSerialNumber;
+}
+
+/// Looks a component up by its serial number. The tag is "select" when one was chosen.
+class frmSerialNumber : public Form {
+  Q_OBJECT
+ public:
+  frmSerialNumber();
+  ~frmSerialNumber() override;
+
+  void SetSearch(int componentType, const QString& serial);
+  int Component() const;
+
+ private:
+  void LoadSerials();
+  void FindTyped(const QString& typed);
+  void ShowComponent();
+  void Select();
+  void Edit();
+  void ShowRig();
+
+  std::unique_ptr<Ui::frmSerialNumber> ui_;
+};

@@ -1,0 +1,11 @@
+#pragma once
+class Grid;
+
+/// The component grid that several screens show: a row to each component type of the rig's type.
+namespace RigGrid {
+void SetUp(Grid& grid);
+/// Reads the rig's components; rig 0 leaves headings alone.
+void Fill(Grid& grid, int rig);
+int ComponentType(const Grid& grid, int row);
+int Component(const Grid& grid, int row);  ///< 0 on an empty row
+}  // namespace RigGrid

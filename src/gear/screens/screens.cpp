@@ -1,0 +1,101 @@
+#include "gear/screens.h"
+
+#include "core/prompts.h"
+#include "gear/screens/frmComponentEdit.h"
+#include "gear/screens/frmComponentVerify.h"
+#include "gear/screens/frmDeleteSystem.h"
+#include "gear/screens/frmGetRig.h"
+#include "gear/screens/frmNewOrOld.h"
+#include "gear/screens/frmPeople.h"
+#include "gear/screens/frmPickRig.h"
+#include "gear/screens/frmSerialNumber.h"
+
+using namespace Qt::StringLiterals;
+
+int ShowPeople(int start, bool ownerSetup) {
+  auto& form = SharedForm<frmPeople>();
+  if (form.FormIsShown()) {
+    form.Show();
+    return form.CurrentPerson();
+  }
+  form.SetStart(start);
+  form.SetOwnerSetup(ownerSetup);
+  form.ShowModal();
+  const int person = qMax(form.CurrentPerson(), 0);
+  form.UnloadForm();
+  return person;
+}
+
+bool ShowRigs(const RigScreenStart& start) {
+  auto& form = SharedForm<frmGetRig>();
+  if (form.FormIsShown()) {
+    MsgBox(u"Rig screen is already showing"_s);
+    return false;
+  }
+  form.SetStart(start);
+  form.ShowModal();
+  form.UnloadForm();
+  return true;
+}
+
+bool PickRig(int& rig, int& customer, int rigType) {
+  auto& form = SharedForm<frmPickRig>();
+  form.SetStart(customer, rig, rigType);
+  form.ShowModal();
+  const bool chosen = form.Tag() == "select"_L1;
+  rig = chosen ? form.Rig() : 0;
+  customer = chosen ? form.Customer() : 0;
+  form.UnloadForm();
+  return chosen;
+}
+
+bool ConfirmRigDeletion(int rig, bool showOnly) {
+  auto& form = SharedForm<frmDeleteSystem>();
+  if (form.FormIsShown()) {
+    MsgBox(u"frmDeleteSystem list already showing"_s);
+    return false;
+  }
+  form.SetRig(rig, showOnly);
+  form.ShowModal();
+  const bool yes = form.Tag() == "yes"_L1;
+  form.UnloadForm();
+  return yes;
+}
+
+QString AskNewOrOld(int componentType) {
+  auto& form = SharedForm<frmNewOrOld>();
+  form.SetComponentType(componentType);
+  form.ShowModal();
+  const QString command = form.Command();
+  form.UnloadForm();
+  return command;
+}
+
+int EditComponent(int component) {
+  ComponentEntry entry;
+  if (!LoadComponentEntry(component, entry)) return 0;
+  auto& form = SharedForm<frmComponentEdit>();
+  form.SetEntry(entry);
+  form.ShowModal();
+  const int result = form.Result();
+  form.UnloadForm();
+  return result;
+}
+
+bool VerifyComponent(int component, const QString& caption, bool exitOnly) {
+  auto& form = SharedForm<frmComponentVerify>();
+  form.SetComponent(component, caption, exitOnly);
+  form.ShowModal();
+  const bool yes = form.Tag() == "yes"_L1;
+  form.UnloadForm();
+  return yes;
+}
+
+int PickComponentBySerial(int componentType, const QString& serial) {
+  auto& form = SharedForm<frmSerialNumber>();
+  form.SetSearch(componentType, serial);
+  form.ShowModal();
+  const int component = form.Tag() == "select"_L1 ? form.Component() : 0;
+  form.UnloadForm();
+  return component;
+}
