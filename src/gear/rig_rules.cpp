@@ -234,11 +234,12 @@ int RepackPartnerInRig(int rig, int component) {
 
 bool AskAddRepackToSchedule(Date repack) {
   const QString pattern = u"mm/dd/yyyy"_s;
-  return AskYes(Lines({u"There is a reserve repack task found for this"_s, u"container and reserve.   "_s, QString(),
-                       u"Repack date: "_s + Format(repack, pattern),
-                       u"Expiration date: "_s + Format(repack + RepackCycle(), pattern), QString(),
-                       u"Would you like this to appear on the schedule?"_s}),
-                u"Add repack to schedule?"_s);
+  const int cycle = GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s).ToInt();
+  return AskYes(
+      Lines({u"There is a reserve repack task found for this"_s, u"container and reserve.   "_s, QString(),
+             u"Repack date: "_s + Format(repack, pattern), u"Expiration date: "_s + Format(repack + cycle, pattern),
+             QString(), u"Would you like this to appear on the schedule?"_s}),
+      u"Add repack to schedule?"_s);
 }
 
 void ShowExpirationHelp() {
@@ -249,5 +250,3 @@ void ShowExpirationHelp() {
                 u"You can also change the model's service life using the GEAR menu"_s, u"on the main screen."_s,
                 u"(select Component Models)"_s}));
 }
-
-int RepackCycle() { return GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s).ToInt(); }

@@ -60,5 +60,3 @@ int RepackPartnerInRig(int rig, int component);
 bool AskAddRepackToSchedule(Date repack);
 /// What is told when a person wants to change the date of a row of service life.
 void ShowExpirationHelp();
-/// Days between reserve repacks.
-int RepackCycle();

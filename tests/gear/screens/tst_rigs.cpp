@@ -505,6 +505,7 @@ class TestRigScreens : public QObject {
       QCOMPARE(form.windowTitle(), u"Select rig"_s);
       QCOMPARE(Selected(Rigs(form)), u"Blue"_s);
       ClickRow(Rigs(form), 0);
+      QTest::qWait(0);
       Picture(form, u"frmPickRig"_s);
       Click(form, u"cmdSelect"_s);
     });
