@@ -11,12 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-Value LineField(int taskID, const QString& field) { return GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, field); }
-
-}  // namespace
-
 void SetTaskStatus(int taskID, bool complete, Date date) {
   Trap(u"Sub SetTaskStatus"_s, [&] {
     Bracket bracket;

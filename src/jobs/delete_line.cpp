@@ -35,8 +35,8 @@ void DeleteTask(int taskID) {
 bool DeleteLine(int taskID, bool quiet, int rigID, int componentID) {
   bool deleted = false;
   Trap(u"Sub DeleteCurrentTask"_s, [&] {
-    const QString name = GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, u"TaskName"_s).ToText();
-    const int jobID = GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, u"JobID"_s).ToInt();
+    const QString name = LineField(taskID, u"TaskName"_s).ToText();
+    const int jobID = LineField(taskID, u"JobID"_s).ToInt();
     const int taskLibID = TaskLibIDOf(taskID);
     if (!quiet && !AskYes(u"Are you sure you want to delete this entry?"_s, u"Delete "_s + name + u'?')) return;
     TellWhatStays(taskLibID);

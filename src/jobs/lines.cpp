@@ -154,6 +154,12 @@ QList<int> LinesOfJob(int jobID) {
   return lines;
 }
 
-int TaskLibIDOf(int taskID) { return GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, u"TaskLibID"_s).ToInt(); }
+Value LineField(int taskID, const QString& field) { return GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, field); }
 
-bool TaskIsEvent(int taskID) { return GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, u"IsEvent"_s).ToBool(); }
+void SetLineField(int taskID, const QString& field, const Value& value) {
+  UpdateTable(u"tblTasks"_s, field, value, u"ID"_s, taskID);
+}
+
+int TaskLibIDOf(int taskID) { return LineField(taskID, u"TaskLibID"_s).ToInt(); }
+
+bool TaskIsEvent(int taskID) { return LineField(taskID, u"IsEvent"_s).ToBool(); }

@@ -4,6 +4,7 @@
 
 #include "core/date.h"
 #include "core/money.h"
+#include "core/value.h"
 
 /// The lines of a job: its tasks, events and parts, rows of tblTasks.
 
@@ -48,6 +49,9 @@ void AddTaskComponent(int taskID, int componentID, bool complete);
 
 /// The ids of a job's lines in the order they were entered; empty when there are none.
 QList<int> LinesOfJob(int jobID);
+/// One field of a line; empty when there is no such line.
+Value LineField(int taskID, const QString& field);
+void SetLineField(int taskID, const QString& field, const Value& value);
 int TaskLibIDOf(int taskID);
 /// Does the line record an event?
 bool TaskIsEvent(int taskID);

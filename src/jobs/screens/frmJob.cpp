@@ -1,0 +1,211 @@
+#include "jobs/screens/frmJob.h"
+
+#include <QKeyEvent>
+
+#include "core/access.h"
+#include "core/clock.h"
+#include "core/default_rows.h"
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/widgets/screen_routines.h"
+#include "gear/components.h"
+#include "gear/models.h"
+#include "gear/people.h"
+#include "gear/rigs.h"
+#include "jobs/delete_job.h"
+#include "jobs/job_components.h"
+#include "jobs/job_records.h"
+#include "jobs/screens.h"
+
+#include "ui_frmJob.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The list "Add to job", in its order. What a screen still lacks can't be chosen.
+enum JobItem { kReserveRepack, kFromLibrary, kTaskMenu, kCustomTask, kSelectPart, kCustomPartItem, kRule };
+
+const QStringList kJobItems = {u"Reserve Repack"_s,
+                               u"Select from library"_s,
+                               u"Task Menu"_s,
+                               u"Custom task"_s,
+                               u"Select part"_s,
+                               u"Custom part"_s,
+                               u"--------------------------------------------"_s,
+                               u"Install component"_s,
+                               u"Remove component"_s};
+
+bool IsBuilt(int item) { return item == kReserveRepack; }
+
+/// Remembers what is shown, for the screens that open on it.
+void RememberShown(const JobContext& job, int componentID) {
+  SetLastJobID(job.jobID);
+  UpdateTableBySQL(u"update tblMisc set LastCustomerID = %1"_s.arg(job.customerID));
+  if (job.rigID != 0) SetLastSystemID(job.rigID);
+  if (componentID != 0) SetLastComponentID(componentID);
+}
+
+}  // namespace
+
+frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(this)) {
+  ui_->setupUi(this);
+  ui_->grid->setObjectName(u"Grid"_s);  // its class already has that name
+  txtAny_->setObjectName(u"txtAny"_s);
+  txtAny_->hide();
+  BuildMenus();
+  SetUpLines();
+  ui_->grid->SetColumns({{.heading = QString(), .width = 0, .sort = GridSort::Number, .name = u"Type"_s},
+                         {.heading = u"Component"_s, .width = FromTwips(1500)},
+                         {.heading = u"Name"_s, .width = FromTwips(1500)},
+                         {.heading = u"Serial Number"_s, .width = FromTwips(1500)},
+                         {.heading = u"Date of mfg"_s, .width = FromTwips(1500), .sort = GridSort::Date},
+                         {.heading = QString(), .width = 0, .name = u"ID"_s}});
+  ui_->grid->SetSortable(false);
+  ui_->grid->SetSelectsRows(true);
+  ui_->grid->SetStretchColumn(2);
+  for (const QString& text : kJobItems) ui_->lstTasks->AddItem(text);
+  ConnectControls();
+  ConnectHeader();
+}
+
+frmJob::~frmJob() = default;
+
+void frmJob::ConnectControls() {
+  connect(ui_->cmdExit, &QPushButton::clicked, this, &frmJob::Cancel);
+  connect(ui_->cmdPrev, &QPushButton::clicked, this, [this] { Step(&PreviousJobID, false); });
+  connect(ui_->cmdNext, &QPushButton::clicked, this, [this] { Step(&NextJobID, true); });
+  connect(ui_->cmdGearChange, &QPushButton::clicked, this, &frmJob::ExplainGearChange);
+  ui_->cmdCurrentComp->setEnabled(false);
+  connect(ui_->cmdHelp, &QPushButton::clicked, this, [] {
+    MsgBox(u"When all tasks have status COMPLETED, the job status is updated to COMPLETED."_s, u"Jobs"_s);
+  });
+  connect(ui_->lstTasks, &List::ListChange, this,
+          [this](int row) { ui_->cmdTask->setEnabled(row < 0 || IsBuilt(row)); });
+  connect(ui_->lstTasks, &List::ItemDoubleClick, this, &frmJob::RunListItem);
+  connect(ui_->lstTasks, &List::ItemEnter, this, &frmJob::RunListItem);
+  connect(ui_->cmdTask, &QPushButton::clicked, this, &frmJob::RunListItem);
+}
+
+bool frmJob::LoadJob(int jobID) {
+  if (busy_) return true;
+  busy_ = true;
+  CloseLabelEditor();
+  AuditJobs();
+  const int shown = JobExists(jobID) ? jobID : GetNextValidJobID(jobID);
+  if (shown == 0) {
+    MsgBox(u"There are no jobs"_s);
+    job_ = {};
+    hide();
+    busy_ = false;
+    return false;
+  }
+  {
+    const Bracket bracket;
+    job_ = JobContextOf(shown);
+    componentID_ = JobComponentID(shown);
+    RememberShown(job_, componentID_);
+    LoadSystemInfo();
+    LoadWorkingDate();
+    LoadTasksGrid();
+  }
+  busy_ = false;
+  return true;
+}
+
+void frmJob::ReloadForm() {
+  if (job_.jobID != 0 && !busy_) LoadJob(job_.jobID);
+}
+
+void frmJob::Cancel() {
+  CloseLabelEditor();
+  SetTag(u"cancel"_s);
+  hide();
+}
+
+void frmJob::Activate() {
+  if (busy_ || job_.jobID == 0) return;
+  if (ui_->txtDate->text().trimmed().isEmpty()) ui_->txtDate->setText(HeaderDate(Today()));
+  if (!JobExists(job_.jobID)) {
+    LoadJob(job_.jobID);
+    return;
+  }
+  CheckRigChange();
+}
+
+void frmJob::changeEvent(QEvent* event) {
+  Form::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Activate();
+}
+
+void frmJob::LoadSystemInfo() {
+  std::vector<GridRow> rows;
+  for (const GearPlace& place : LoadJobGear(job_.jobID, RigExists(job_.rigID) ? job_.rigID : 0)) {
+    const int id = place.componentID;
+    const Date dom = id == 0 ? Date() : ComponentDom(id);
+    rows.push_back({{QString::number(place.componentType), ComponentTypeName(place.componentType),
+                     id == 0 ? QString() : ComponentDescription(id), id == 0 ? QString() : ComponentSerial(id),
+                     dom.IsNone() ? QString() : Format(dom, u"mm/dd/yyyy"_s), QString::number(id)},
+                    id});
+  }
+  ui_->grid->Fill(std::move(rows));
+  CheckRigChange();
+}
+
+void frmJob::CheckRigChange() {
+  const bool hasRig = job_.rigID != 0;
+  const bool rigExists = hasRig && RigExists(job_.rigID);
+  QString differences;
+  if (rigExists) rigComponentsCurrent_ = JobMatchesRig(job_.jobID, job_.rigID, differences);
+  const bool differs = hasRig && (!rigExists || !rigComponentsCurrent_);
+  ui_->cmdGearChange->setVisible(differs);
+  ui_->cmdCurrentComp->setVisible(differs);
+  ui_->lblSystem->setText(rigExists ? RigName(job_.rigID) : u"(n/a)"_s);
+}
+
+void frmJob::ExplainGearChange() {
+  if (job_.rigID == 0 || !RigExists(job_.rigID)) {
+    MsgBox(job_.rigID == 0 ? u"There is no rig for this job"_s : u"The rig for this job has been deleted"_s,
+           u"Can't show rig"_s);
+    return;
+  }
+  MsgBox(
+      Lines({u"Components in this rig have changed since this job was started"_s,
+             u"Any components installed or removed during this"_s, u"job will not affect the current rig components."_s,
+             u"These events will be displayed in the rig's history."_s,
+             u"Note:  If you would like the current rig to match these"_s, u"components, see the TOOLS menu above"_s}),
+      u"Rig components may have changed"_s);
+}
+
+void frmJob::Step(int (*neighbour)(int jobID, bool& noneLeft), bool forward) {
+  bool noneLeft = false;
+  const int id = neighbour(job_.jobID, noneLeft);
+  if (noneLeft)
+    (forward ? ui_->cmdNext : ui_->cmdPrev)->setEnabled(false);
+  else
+    LoadJob(id);
+}
+
+void frmJob::RunListItem() {
+  const int item = ui_->lstTasks->ListIndex();
+  if (item < 0) {
+    MsgBox(Lines({u"Please select an item from the ADD TO JOB list"_s, u"(on left of this form)"_s}),
+           u"Nothing selected"_s);
+    return;
+  }
+  if (item == kReserveRepack && RepackIsPossible(job_.rigID)) AddLine(RepackTaskLibID);
+}
+
+void frmJob::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F5)
+    ReloadForm();
+  else
+    Form::keyPressEvent(event);
+}
+
+void GotoJob(int jobID) {
+  auto& form = SharedForm<frmJob>();
+  if (form.LoadJob(jobID)) form.Show();
+}
+
+void ShowJob() { GotoJob(LastJobID()); }

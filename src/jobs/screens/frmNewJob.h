@@ -1,0 +1,36 @@
+#pragma once
+#include <memory>
+
+#include "core/date.h"
+#include "core/widgets/form.h"
+
+namespace Ui {
+class frmNewJob;
+}
+
+/// Names and dates a new job. The tag after OK is "ok", or "loadme" when the customer's job of that name is to be
+/// loaded in its place.
+class frmNewJob : public Form {
+  Q_OBJECT
+ public:
+  frmNewJob();
+  ~frmNewJob() override;
+
+  void SetJob(int customerID, const QString& name, Date date);
+  QString JobName() const;
+  Date DateStarted() const { return date_; }
+  int JobToLoad() const { return jobToLoad_; }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Accept();
+  bool OfferExistingJob();
+
+  std::unique_ptr<Ui::frmNewJob> ui_;
+  int customerID_ = 0;
+  int jobToLoad_ = 0;
+  Date date_;
+};

@@ -1,0 +1,128 @@
+#include "core/access.h"
+#include "core/clock.h"
+#include "core/forms.h"
+#include "core/prompts.h"
+#include "core/screens.h"
+#include "gear/components.h"
+#include "gear/locations.h"
+#include "gear/people.h"
+#include "gear/rigs.h"
+#include "jobs/delete_job.h"
+#include "jobs/job_records.h"
+#include "jobs/screens.h"
+#include "jobs/screens/frmJobTypeSelect.h"
+#include "jobs/screens/frmNewJob.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int ChooseLocation() {
+  if (const int location = DefaultLocation(); location != 0) return location;
+  if (GetNumberRecordsInTable(u"tblLocation"_s) == 0) return 0;
+  if (!AskYes(u"Would you like to select a location for this rigging job?"_s, u"Choose location?"_s)) return 0;
+  return qMax(0, PickItem(kPickLocation).id);
+}
+
+int ChooseRigger() {
+  const int usual = EffectiveRigger();
+  if (NumberOfRiggers() < 2) return usual;
+  const Picked picked = PickItemWithDefault(kPickRigger, 0, usual);
+  if (picked.id < 1) return ValidDefaultRigger();
+  if (picked.saveAsDefault) SetDefaultRigger(picked.id);
+  return picked.id;
+}
+
+QString TitleSeed(int rigID) {
+  const QString alias = rigID == 0 ? QString() : RigName(rigID);
+  return alias == "n/a"_L1 ? QString() : alias;
+}
+
+QString ProposedName(QString seed, int customerID, int componentID) {
+  if (seed.isEmpty()) seed = PersonLastName(customerID);
+  if (componentID != 0) seed = ComponentDescription(componentID) + u'-' + seed;
+  return seed + u' ' + Value(Today()).ToText();
+}
+
+int OnlyRigOf(int customerID) { return GetValueFromTable(u"tblRig"_s, u"OwnerID"_s, customerID, u"ID"_s).ToInt(); }
+
+QString RigOption(int rigID, int rigs) {
+  return rigID != 0 ? u"Rig (%1)"_s.arg(RigName(rigID)) : u"Rig (has %1, select from list)"_s.arg(rigs);
+}
+
+/// What the customer has, of which a job can be performed on one.
+struct Gear {
+  int rigs = 0;
+  int components = 0;
+};
+
+/// Asks what the job is performed on; false to leave with nothing done. Choosing among several rigs and choosing a
+/// component are off as long as the screens that do so are missing.
+bool ChooseGear(int customerID, const Gear& gear, int& rigID, int& componentID) {
+  auto& form = SharedForm<frmJobTypeSelect>();
+  form.SetCustomer(PersonDisplayName(customerID), RigOption(rigID, gear.rigs));
+  form.SetRigEnabled(rigID != 0);
+  form.SetComponentEnabled(false);
+  form.Choose(rigID != 0 ? frmJobTypeSelect::kRig : frmJobTypeSelect::kNeither);
+  form.ShowModal();
+  const bool chosen = form.Tag() != "cancel"_L1;
+  if (form.Chosen() == frmJobTypeSelect::kNeither) rigID = componentID = 0;
+  form.UnloadForm();
+  return chosen;
+}
+
+}  // namespace
+
+bool StartNewJob(int customerID, int rigID, int componentID, Date date) {
+  if (customerID == 0) {
+    MsgBox(Lines({u"This rig is not assigned to a customer.  You must assign this"_s,
+                  u"rig to a customer before starting a new job."_s}),
+           u"No customer for this rig"_s);
+    return false;
+  }
+  int jobID = 0;
+  if (rigID == 0) {
+    const Gear gear{
+        NumberOfRigs(customerID),
+        GetNumberRecordsComplex(u"Select * from tblComponents where OwnerID = %1"_s.arg(customerID)).ToInt()};
+    if (gear.rigs == 1) rigID = OnlyRigOf(customerID);
+    if (gear.rigs + gear.components > 0) {
+      if (!ChooseGear(customerID, gear, rigID, componentID)) return false;
+    } else if (!AskYes(Lines({u"This customer has no rigs or components."_s, u"Do you want to create a job anyway?"_s}),
+                       u"Create job for "_s + PersonDisplayName(customerID))) {
+      return false;
+    }
+    date = Today();
+  }
+  StartJobDialog(customerID, rigID, componentID, jobID, 0, 0, date);
+  return jobID != 0;
+}
+
+void StartJobDialog(int customerID, int rigID, int componentID, int& jobID, int riggerID, int locationID, Date date) {
+  jobID = 0;
+  const QString seed = TitleSeed(rigID);
+  if (locationID == 0) locationID = ChooseLocation();
+  if (riggerID == 0) riggerID = ChooseRigger();
+  int newJob = 0;
+  CreateNewJob(seed, customerID, rigID, componentID, newJob, riggerID, locationID, date);
+  if (newJob == 0) return;
+
+  auto& form = SharedForm<frmNewJob>();
+  form.SetJob(customerID, ProposedName(seed, customerID, componentID), Today());
+  form.ShowModal();
+  const QString name = form.Tag() == "cancel"_L1 ? QString() : form.JobName();
+  const int other = form.JobToLoad();
+  const Date started = form.DateStarted();
+  form.UnloadForm();
+
+  if (name.isEmpty() || other != 0) {
+    DeleteJobRow(newJob);
+    jobID = other;
+  } else {
+    SetJobTitle(newJob, name);
+    SetJobDateStarted(newJob, started);
+    Forms::ReloadIfLoaded(u"frmJobList"_s);
+    jobID = newJob;
+  }
+  if (jobID != 0) GotoJob(jobID);
+}
