@@ -9,6 +9,7 @@ ClickLabel::ClickLabel(QWidget* parent) : QLabel(parent) {
   setFrameShadow(QFrame::Plain);
   setLineWidth(0);
   setMargin(2);
+  setCursor(Qt::IBeamCursor);
 }
 
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {

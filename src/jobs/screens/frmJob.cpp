@@ -56,7 +56,7 @@ frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(th
   BuildMenus();
   SetUpLines();
   ui_->grid->SetColumns({{.heading = QString(), .width = 0, .sort = GridSort::Number, .name = u"Type"_s},
-                         {.heading = u"Component"_s, .width = FromTwips(1500)},
+                         {.heading = u"Component"_s, .width = FromTwips(1900)},
                          {.heading = u"Name"_s, .width = FromTwips(1500)},
                          {.heading = u"Serial Number"_s, .width = FromTwips(1500)},
                          {.heading = u"Date of mfg"_s, .width = FromTwips(1500), .sort = GridSort::Date},
@@ -158,8 +158,7 @@ void frmJob::CheckRigChange() {
   QString differences;
   if (rigExists) rigComponentsCurrent_ = JobMatchesRig(job_.jobID, job_.rigID, differences);
   const bool differs = hasRig && (!rigExists || !rigComponentsCurrent_);
-  ui_->cmdGearChange->setVisible(differs);
-  ui_->cmdCurrentComp->setVisible(differs);
+  ui_->gearButtons->setVisible(differs);
   ui_->lblSystem->setText(rigExists ? RigName(job_.rigID) : u"(n/a)"_s);
 }
 

@@ -80,6 +80,7 @@ class frmJob : public Form {
   void BuildMenus();
   void DeleteThisJob();
   void Locate(int pickerType);
+  void ShowInvoice();
 
   std::unique_ptr<Ui::frmJob> ui_;
   QLineEdit* txtAny_;  ///< laid over the label that is edited

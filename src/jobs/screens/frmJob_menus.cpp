@@ -5,11 +5,13 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "jobs/completion.h"
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
 #include "jobs/line_edits.h"
 #include "jobs/screens.h"
 #include "jobs/screens/frmJob.h"
+#include "reports/screens.h"
 
 #include "ui_frmJob.h"
 
@@ -73,7 +75,7 @@ void frmJob::BuildMenus() {
   QMenu* component = bar->addMenu(u"&Component"_s);
   AddMissing(component, u"Edit selected component"_s);
   AddMissing(component, u"Add a component"_s);
-  AddMissing(bar->addMenu(u"&Invoice"_s), u"View/Print/Email invoice"_s);
+  bar->addMenu(u"&Invoice"_s)->addAction(u"View/Print/Email invoice"_s, this, &frmJob::ShowInvoice);
   AddMissing(bar->addMenu(u"&Schedule"_s), u"Show schedule"_s);
   AddMissing(bar->addMenu(u"&History"_s), u"Show history"_s);
   AddMissing(bar->addMenu(u"&Forms"_s), u"Arrange forms"_s);
@@ -111,4 +113,13 @@ void frmJob::DeleteThisJob() {
 void frmJob::Locate(int pickerType) {
   const Picked picked = PickItem(pickerType);
   if (picked.id > 0) LoadJob(picked.id);
+}
+
+void frmJob::ShowInvoice() {
+  if (!AllChecked(job_.jobID) &&
+      !AskYes(Lines({u"This job is incomplete."_s, u"One or more items in the STATUS column are blank."_s,
+                     u"Do you want to show the invoice anyway?"_s}),
+              u"Job is not complete"_s))
+    return;
+  DoReport(u"invoice"_s, job_.jobID);
 }

@@ -9,6 +9,7 @@
 #include "jobs/line_edits.h"
 #include "jobs/sample_job.h"
 #include "jobs/screens.h"
+#include "support/data_folder_here.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 
@@ -192,6 +193,7 @@ class TestJob : public QObject {
     shop.loft.Run(u"update tblComponents set RigID = 0 where ID = %1"_s.arg(shop.reserve));
     shop.Choose(u"Tools"_s, u"Refresh"_s);
     QVERIFY(shop.Shows("cmdGearChange") && shop.Shows("cmdCurrentComp"));
+    Picture(shop.Screen(), u"frmJob_other_gear"_s);
     QVERIFY(!Control<QPushButton>(shop.Screen(), u"cmdCurrentComp"_s).isEnabled());
     shop.prompts.ExpectBox(u"Rig components may have changed"_s,
                            u"Components in this rig have changed since this job was started\n"
@@ -455,6 +457,7 @@ class TestJob : public QObject {
     shop.Choose(u"Comments"_s, u"Job comments"_s);
     QCOMPARE(JobComments(shop.job), u"Call first"_s);
     QVERIFY(shop.Shows("lblComments"));
+    shop.Choose(u"Tasks"_s, u"Complete all tasks"_s);
     shop.screens.WhenShown(u"frmComments"_s, [](Form& form) {
       QCOMPARE(TextOf(form, u"lblComments"_s), u"Task: AAD check"_s);
       TypeInto(form, u"txtComments"_s, u"Battery low"_s);
@@ -463,6 +466,8 @@ class TestJob : public QObject {
     ClickCell(shop.Lines(), 0, kTask, Qt::ControlModifier);
     QCOMPARE(LineComments(line), u"Battery low"_s);
     QCOMPARE(shop.Label("lblTaskComments"), u"(selected task has comments)"_s);
+    QTest::mouseClick(&Control<QWidget>(shop.Screen(), u"lblInvoice"_s), Qt::LeftButton);
+    Picture(shop.Screen(), u"frmJob_complete"_s);
     shop.Lines().SelectCell(1, kTask);
     QCOMPARE(shop.Label("lblTaskComments"), QString());
   }
@@ -558,6 +563,24 @@ class TestJob : public QObject {
     shop.Choose(u"Events"_s, u"What's an event?"_s);
     QCOMPARE(shop.prompts.Transcript().last().title, u"Events vs Tasks"_s);
     QVERIFY(shop.prompts.Transcript().last().text.contains(u"unplanned occurences"_s));
+  }
+
+  void TheInvoiceOfAnIncompleteJobIsAskedFor() {
+    OpenJob shop;
+    const DataFolderHere here(shop.loft.Folder());
+    shop.loft.Folder().Write(u"support/address.txt"_s, "Loft\n");
+    shop.AddShown(shop.aadCheck);
+    const QString text =
+        u"This job is incomplete.\nOne or more items in the STATUS column are blank.\n"
+        "Do you want to show the invoice anyway?"_s;
+    shop.prompts.Expect(u"Job is not complete"_s, text, Answer::No);
+    shop.Choose(u"Invoice"_s, u"View/Print/Email invoice"_s);
+    shop.prompts.Expect(u"Job is not complete"_s, text, Answer::Yes);
+    shop.screens.WhenShown(u"frmPrintPreview"_s, [](Form& form) { form.reject(); });
+    shop.Choose(u"Invoice"_s, u"View/Print/Email invoice"_s);
+    ClickCell(shop.Lines(), 0, kStatus);
+    shop.screens.WhenShown(u"frmPrintPreview"_s, [](Form& form) { form.reject(); });
+    shop.Choose(u"Invoice"_s, u"View/Print/Email invoice"_s);
   }
 
   void ExitHidesTheScreenAndKeepsItLoaded() {
