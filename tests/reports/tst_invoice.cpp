@@ -44,16 +44,16 @@ class TestInvoice : public QObject {
   int Rig(const QString& alias, int type) const {
     return loft_->Add(u"tblRig"_s, {{u"rigAlias"_s, alias}, {u"TypeID"_s, type}, {u"OwnerID"_s, 1}});
   }
-  int Component(int rig, int type, int model, const QString& serial, const QString& subType, Value dom = {}) const {
+  int Component(int rig, int type, int model, const QString& serial, const QString& subType, Date dom = {}) const {
     return loft_->Add(u"tblComponents"_s, {{u"RigID"_s, rig},
                                            {u"TypeID"_s, type},
                                            {u"ModelID"_s, model},
                                            {u"SerialNumber"_s, serial},
                                            {u"SubType"_s, subType},
-                                           {u"DOM"_s, dom.IsEmpty() ? Value(Date()) : dom}});
+                                           {u"DOM"_s, dom}});
   }
   int Job(int customer, int rig, const QString& title = u"Spring service"_s,
-          Value started = Date::FromParts(2026, 3, 9)) const {
+          Date started = Date::FromParts(2026, 3, 9)) const {
     return loft_->Add(u"tblJobs"_s, {{u"JobTitle"_s, title},
                                      {u"CustomerID"_s, customer},
                                      {u"SystemID"_s, rig},
@@ -135,7 +135,7 @@ class TestInvoice : public QObject {
     prompts_->ExpectBox(u"No business address"_s,
                         u"You haven't entered a business address yet.\nYou can do this from the main screen.\n"
                         u"(See the SETUP menu)"_s);
-    const Pages pages = Print(Job(0, 0, u""_s, Value(Date())));
+    const Pages pages = Print(Job(0, 0, u""_s, Date()));
     QVERIFY(IsGolden(QFINDTESTDATA("golden/invoice-bare-page.txt"), u"invoice-bare-page.txt"_s, PagesAsText(pages)));
     QVERIFY(IsGolden(QFINDTESTDATA("golden/invoice-bare-html.txt"), u"invoice-bare-html.txt"_s, Html()));
   }
