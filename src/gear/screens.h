@@ -44,5 +44,8 @@ bool VerifyComponent(int component, const QString& caption = {}, bool exitOnly =
 /// Looks a component up by its serial number; 0 when none was chosen.
 int PickComponentBySerial(int componentType, const QString& serial);
 
+/// Lets a person choose one of the components of a type; 0 when none was chosen.
+int PickComponent(int componentType);
+
 /// Tells the picker how people, rigs and gear are added and deleted.
 void RegisterGearPickers();

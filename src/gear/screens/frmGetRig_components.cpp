@@ -37,6 +37,8 @@ void frmGetRig::FillPlace(int type) {
     CreateInPlace(type, PickItem(kPickMiscItem, type).id, QString());
   } else if (command.startsWith("new with s/n:"_L1)) {
     CreateInPlace(type, PickItem(kPickMiscItem, type).id, behind(u"new with s/n:"));
+  } else if (command == "select"_L1) {
+    if (const int component = PickComponent(type); component != 0) Install(component);
   } else if (command.startsWith("load component:"_L1)) {
     const int component = behind(u"load component:").toInt();
     if (VerifyComponent(component)) Install(component);

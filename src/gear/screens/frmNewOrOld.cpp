@@ -15,7 +15,7 @@ frmNewOrOld::frmNewOrOld() : ui_(std::make_unique<Ui::frmNewOrOld>()) {
   connect(ui_->cmdEnter, &QPushButton::clicked, this, &frmNewOrOld::EnterSerial);
   connect(ui_->txtSerial, &QLineEdit::returnPressed, this, &frmNewOrOld::EnterSerial);
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmNewOrOld::Cancel);
-  ui_->cmdDatabase->setEnabled(false);
+  connect(ui_->cmdDatabase, &QPushButton::clicked, this, [this] { End(u"select"_s); });
 }
 
 frmNewOrOld::~frmNewOrOld() = default;

@@ -15,7 +15,7 @@ class frmNewOrOld : public Form {
   ~frmNewOrOld() override;
 
   void SetComponentType(int type);
-  /// "new", "load component:<id>", "s/n <serial>", "new with s/n:<serial>" or "cancel".
+  /// "new", "select", "load component:<id>", "s/n <serial>", "new with s/n:<serial>" or "cancel".
   QString Command() const { return command_; }
 
  protected:

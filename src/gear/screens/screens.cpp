@@ -7,6 +7,7 @@
 #include "gear/screens/frmGetRig.h"
 #include "gear/screens/frmNewOrOld.h"
 #include "gear/screens/frmPeople.h"
+#include "gear/screens/frmPickComponent.h"
 #include "gear/screens/frmPickRig.h"
 #include "gear/screens/frmSerialNumber.h"
 
@@ -94,6 +95,15 @@ bool VerifyComponent(int component, const QString& caption, bool exitOnly) {
 int PickComponentBySerial(int componentType, const QString& serial) {
   auto& form = SharedForm<frmSerialNumber>();
   form.SetSearch(componentType, serial);
+  form.ShowModal();
+  const int component = form.Tag() == "select"_L1 ? form.Component() : 0;
+  form.UnloadForm();
+  return component;
+}
+
+int PickComponent(int componentType) {
+  auto& form = SharedForm<frmPickComponent>();
+  form.SetComponentType(componentType);
   form.ShowModal();
   const int component = form.Tag() == "select"_L1 ? form.Component() : 0;
   form.UnloadForm();

@@ -5,6 +5,7 @@
 
 #include "core/default_rows.h"
 #include "core/widgets/form.h"
+#include "core/widgets/grid.h"
 #include "core/widgets/list.h"
 #include "gear/components.h"
 #include "gear/models.h"
@@ -171,6 +172,78 @@ class TestComponentScreens : public QObject {
       PressKey(form, Qt::Key_Escape);
     });
     QCOMPARE(AskNewOrOld(0), u"cancel"_s);
+  }
+
+  void PicksFromTheDatabase() {
+    Gear gear;
+    const int bob = Gear::Named(u"Bob Smith"_s);
+    const int pilot = NewComponent(AddModel(u"Pilot"_s, kMainCanopy), kMainCanopy, 0);
+    SetComponentOwner(pilot, bob);
+    SetComponentOwner(gear.canopy, 0);
+    const int lost = NewComponent(AddModel(u"Vigil"_s, kAad), 0, 0, u"V1"_s);
+    gear.loft.Run(u"update tblComponents set DOM = #1/14/2015# where ID = "_s + QString::number(gear.spare));
+    ScriptedPrompts prompts;
+    ScreenScript screens;
+    screens.WhenShown(u"frmPickComponent"_s, [&](Form& form) {
+      auto& grid = Control<Grid>(form, u"Grid"_s);
+      const auto ids = [&grid] {
+        QList<int> shown;
+        for (int row = 0; row < grid.RowCount(); ++row) shown << grid.RowData(row);
+        return shown;
+      };
+      QCOMPARE(ids(), QList<int>({gear.canopy, gear.spare, pilot}));
+      QCOMPARE(grid.Text(0, 1), u"Red"_s);
+      QCOMPARE(grid.Text(0, 2), u"(none)"_s);
+      QCOMPARE(grid.Text(1, 1), u"(no rig)"_s);
+      QCOMPARE(grid.Text(1, 4), u"01/14/2015"_s);
+      QCOMPARE(grid.Text(1, 5), u"20150114"_s);
+      QCOMPARE(grid.Text(2, 3), u"(none)"_s);
+      QTest::qWait(0);
+      Picture(form, u"frmPickComponent"_s);
+      prompts.ExpectBox(u"Nothing selected"_s, u"Please select a component"_s);
+      Click(form, u"cmdSelect"_s);
+      PressKey(form, u"optInRig"_s, Qt::Key_Space);
+      QCOMPARE(ids(), QList<int>({gear.canopy}));
+      PressKey(form, u"optNotInRig"_s, Qt::Key_Space);
+      QCOMPARE(ids(), QList<int>({gear.spare, pilot}));
+      PressKey(form, u"optBoth"_s, Qt::Key_Space);
+      Click(form, u"cmdSelectCustomer"_s);
+      QCOMPARE(ids(), QList<int>({pilot}));
+      QCOMPARE(TextOf(form, u"lblOwner"_s), u"Customer: Bob Smith"_s);
+      PressKey(form, u"optAnyOwner"_s, Qt::Key_Space);
+      prompts.Expect(u"Show all models?"_s, u"Would you like to show a selected model only?"_s, Answer::Yes);
+      Click(form, u"lblModels"_s);
+      QCOMPARE(ids(), QList<int>({gear.canopy, gear.spare}));
+      prompts.Expect(u"Show all models?"_s, u"Would you like to show all models?"_s, Answer::Yes);
+      Click(form, u"lblModels"_s);
+      QCOMPARE(ids().size(), 3);
+      ClickCell(grid, 2, 0);
+      prompts.Expect(u"Delete Main Canopy"_s, u"Are you sure you want to delete Pilot ?"_s, Answer::Yes);
+      PressKey(grid, Qt::Key_Delete);
+      QCOMPARE(ids().size(), 2);
+      PressKey(form, u"chkAllTypes"_s, Qt::Key_Space);
+      QCOMPARE(ids().first(), lost);
+      prompts.ExpectBox(kProgramTitle,
+                        u"This component has lost its component type\n\n     Vigil \n\n"
+                        "Please select a component type on the next screen"_s);
+      prompts.Expect(kProgramTitle, u"Vigil  = AAD?\nIs this correct?"_s, Answer::Yes);
+      ClickCell(grid, 0, 0);
+      ClickCell(grid, 1, 0);
+      Click(form, u"cmdSelect"_s);
+    });
+    screens.WhenShown(u"frmPicker"_s, [](Form& form) {
+      TypeInto(form, u"txt"_s, u"smith"_s);
+      Click(form, u"cmdSelect"_s);
+    });
+    for (const auto& text : {u"storm"_s, u"aad"_s})
+      screens.WhenShown(u"frmPicker"_s, [text](Form& form) {
+        TypeInto(form, u"txt"_s, text);
+        Click(form, u"cmdSelect"_s);
+      });
+    QCOMPARE(PickComponent(kMainCanopy), gear.canopy);
+    QCOMPARE(ComponentOwner(gear.canopy), gear.ann);
+    QCOMPARE(ComponentTypeOf(lost), int{kAad});
+    QVERIFY(!ComponentExists(pilot));
   }
 
   void LooksUpASerial() {

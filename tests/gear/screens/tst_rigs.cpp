@@ -472,7 +472,7 @@ class TestRigScreens : public QObject {
     for (int i = 0; i < 2; ++i)
       screens.WhenShown(u"frmGetRig"_s, [i](Form& form) {
         QCOMPARE(IsShown(form, u"lblRigPhoto"_s), i == 0);
-        if (i == 0) Click(form, u"chkHidePhotos"_s);
+        if (i == 0) PressKey(form, u"chkHidePhotos"_s, Qt::Key_Space);
         QVERIFY(!IsShown(form, u"lblCanopyPhoto"_s));
         Click(form, u"cmdExit"_s);
       });

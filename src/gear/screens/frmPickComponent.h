@@ -1,0 +1,35 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+#include "gear/component_list.h"
+
+namespace Ui {
+class frmPickComponent;
+}
+
+/// Lets a person choose one of the components in the database. The tag is "select" when one was chosen.
+class frmPickComponent : public Form {
+  Q_OBJECT
+ public:
+  frmPickComponent();
+  ~frmPickComponent() override;
+
+  void SetComponentType(int type);
+  int Component() const;
+
+ private:
+  ComponentFilter Filter() const;
+  void LoadGrid();
+  void ChooseRow(int row);
+  void ChooseOwner();
+  void ChooseModels();
+  void ShowChoices();
+  void Select();
+  void Delete();
+
+  std::unique_ptr<Ui::frmPickComponent> ui_;
+  int owner_ = 0;
+  int model_ = 0;
+  bool choosing_ = false;
+};
