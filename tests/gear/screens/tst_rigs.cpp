@@ -7,6 +7,8 @@
 
 #include "core/clock.h"
 #include "core/default_rows.h"
+#include "core/picker.h"
+#include "core/screens.h"
 #include "core/widgets/form.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"
@@ -495,6 +497,39 @@ class TestRigScreens : public QObject {
     });
     ShowRigs({.rig = gear.red, .hideButtons = true});
     QVERIFY(RigExists(gear.red));
+  }
+
+  void ThePickerDeletesByTheRulesOfGear() {
+    RegisterGearPickers();
+    Gear gear;
+    ScriptedPrompts prompts;
+    ScreenScript screens;
+    const QStringList before = gear.loft.Snapshot();
+    screens.WhenShown(u"frmPicker"_s, [&](Form& form) {
+      TypeInto(form, u"txt"_s, u"tandem"_s);
+      prompts.Expect(u"Are you sure?"_s, u"Delete Tandem Rig?"_s, Answer::Yes);
+      Click(form, u"cmdDelete"_s);
+      PressKey(form, Qt::Key_Escape);
+    });
+    QCOMPARE(PickItem(kPickRigType).id, kPickCancelled);
+    screens.WhenShown(u"frmPicker"_s, [](Form& form) {
+      TypeInto(form, u"txt"_s, u"green"_s);
+      Click(form, u"cmdDelete"_s);
+      PressKey(form, Qt::Key_Escape);
+    });
+    screens.WhenShown(u"frmDeleteSystem"_s, [](Form& form) { Click(form, u"cmdYes"_s); });
+    PickItem(kPickRig);
+    screens.WhenShown(u"frmPicker"_s, [&](Form& form) {
+      TypeInto(form, u"txt"_s, u"smith"_s);
+      prompts.Expect(u"Delete Bob Smith"_s, u"Are you sure you want to delete this customer?"_s, Answer::Yes);
+      Click(form, u"cmdDelete"_s);
+      PressKey(form, Qt::Key_Escape);
+    });
+    PickItem(kPickCustomer);
+    QStringList touched = gear.loft.TouchedSince(before);
+    touched.removeAll(u"+tblMisc|0"_s);
+    touched.removeAll(u"-tblMisc|0"_s);
+    QCOMPARE(touched, QStringList({u"-tblPeople|2"_s, u"-tblRigTypes|2"_s, u"-tblRig|3"_s}));
   }
 
   void PicksARig() {
