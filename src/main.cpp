@@ -1,10 +1,49 @@
+#include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QMainWindow>
+
+#include "core/connection.h"
+#include "core/prompts.h"
+#include "core/screens.h"
+#include "core/screens/program_icon.h"
+#include "core/screens/start_up.h"
+#include "core/trap.h"
+#include "core/widgets/qt_prompts.h"
+#include "core/widgets/theme.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The last line: what no routine's trap has caught is told, and the screens go on.
+class Application : public QApplication {
+ public:
+  using QApplication::QApplication;
+  bool notify(QObject* receiver, QEvent* event) override {
+    bool handled = false;
+    Trap(kProgramTitle, [&] { handled = QApplication::notify(receiver, event); });
+    return handled;
+  }
+};
+
+}  // namespace
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
-  QMainWindow window;
-  window.setWindowTitle(QStringLiteral("Loftkeep"));
-  window.show();
-  return QApplication::exec();
+  Application app(argc, argv);
+  QCoreApplication::setApplicationName(u"Loftkeep"_s);
+  QCoreApplication::setOrganizationName(u"Loftkeep"_s);
+  QCoreApplication::setApplicationVersion(QStringLiteral(LOFTKEEP_VERSION));
+  QApplication::setWindowIcon(ProgramIcon());
+  QApplication::setQuitOnLastWindowClosed(false);
+  InstallTheme(app);
+  QtPrompts prompts;
+  SetPrompts(&prompts);
+  InstallStandByNotice();
+  // Whatever the person sees is on the disk: an open transaction ends before the program waits for events.
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &app,
+                   [] { SettleConnection(); });
+  if (!SubMain()) return 0;
+  const int result = QApplication::exec();
+  ReleaseDatabaseFile();
+  SetPrompts(nullptr);
+  return result;
 }

@@ -11,8 +11,6 @@ namespace {
 struct State {
   Prompts* prompts = nullptr;
   void (*settle)() = nullptr;
-  void (*showNotice)(const QString& text) = nullptr;
-  void (*endNotice)() = nullptr;
   bool busy = false;
 };
 
@@ -57,19 +55,6 @@ void SetBusyPointer(bool busy) {
   if (Present().busy == busy) return;
   Present().busy = busy;
   if (Present().prompts != nullptr) Present().prompts->BusyPointer(busy);
-}
-
-void WaitNotice(const QString& text) {
-  if (Present().showNotice != nullptr) Present().showNotice(text);
-}
-
-void EndWaitNotice() {
-  if (Present().endNotice != nullptr) Present().endNotice();
-}
-
-void SetWaitNotice(void (*show)(const QString& text), void (*end)()) {
-  Present().showNotice = show;
-  Present().endNotice = end;
 }
 
 bool PointerIsBusy() { return Present().busy; }

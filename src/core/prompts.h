@@ -59,12 +59,6 @@ std::optional<FontChoice> FontDialog(const FontChoice& present);
 void SetBusyPointer(bool busy);
 bool PointerIsBusy();
 
-/// A notice without buttons beside long work ("Creating table tblJobs"), and its end. It waits for nobody.
-void WaitNotice(const QString& text);
-void EndWaitNotice();
-/// Installs what shows the notice and what takes it away; with nothing installed it stays unseen.
-void SetWaitNotice(void (*show)(const QString& text), void (*end)());
-
 /// Lines joined by line ends, as long messages are built.
 QString Lines(const QStringList& lines);
 

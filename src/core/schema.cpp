@@ -4,6 +4,7 @@
 
 #include "core/connection.h"
 #include "core/database.h"
+#include "core/stand_by.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;
@@ -251,7 +252,7 @@ void CreateTable(const QString& table, const QString& field, int type, bool auto
   TrapWith(
       u"Sub CreateTable()"_s,
       [&] {
-        WaitNotice(u"Creating table "_s + table);
+        ShowStandBy(u"Creating table "_s + table);
         Bracket bracket;
         const QByteArray column =
             autoIncrement ? '[' + field.toUtf8() + "] INTEGER PRIMARY KEY AUTOINCREMENT" : ColumnText(field, type, 0);

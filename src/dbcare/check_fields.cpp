@@ -5,6 +5,7 @@
 #include "core/access.h"
 #include "core/prompts.h"
 #include "core/schema.h"
+#include "core/stand_by.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;
@@ -37,7 +38,7 @@ void CheckAllFields(bool showMessages) {
                       u"IsAutoInc = "_s + (isAutoInc ? u"True"_s : u"False"_s),
                       u"FieldType ="_s + QString::number(field.type)});
       });
-  EndWaitNotice();
+  UnloadStandBy();
 }
 
 bool TableExists(const QString& tableName, bool showMessages) {

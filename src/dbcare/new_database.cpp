@@ -10,6 +10,7 @@
 #include "core/platform.h"
 #include "core/prompts.h"
 #include "core/recordset.h"
+#include "core/stand_by.h"
 #include "core/trap.h"
 #include "dbcare/check_fields.h"
 
@@ -51,10 +52,10 @@ void CreateNewDatabase() {
   MsgBox(
       Lines({u"Preparing to create new database."_s, QString(), u"This should take just a few seconds .........."_s}),
       u"Create new database"_s);
-  WaitNotice(u"Please wait..................."_s);
+  ShowStandBy();
   xCreatedbFile(DatabaseFile());
   CheckAllFields(false);
-  EndWaitNotice();
+  UnloadStandBy();
 }
 
 bool IsValidDatabase(const QString& path) {

@@ -148,6 +148,7 @@ void Form::keyPressEvent(QKeyEvent* event) {
 
 void Form::showEvent(QShowEvent* event) {
   for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+  if (auto* bar = findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly)) GiveMnemonics(bar);
   QDialog::showEvent(event);
 }
 

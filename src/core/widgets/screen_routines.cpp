@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QScreen>
 #include <QThread>
 #include <QWidget>
@@ -47,4 +48,22 @@ void CentreForm(QWidget* form, const QWidget* caller) {
   if (frame.left() < space.left()) frame.moveLeft(space.left());
   if (frame.top() < space.top()) frame.moveTop(space.top());
   form->move(frame.topLeft());
+}
+
+void GiveMnemonics(QMenuBar* bar) {
+  QString taken;
+  for (const QAction* action : bar->actions()) {
+    const QString text = action->text();
+    if (const qsizetype at = text.indexOf(u'&'); at >= 0 && at + 1 < text.size()) taken += text[at + 1].toLower();
+  }
+  for (QAction* action : bar->actions()) {
+    QString text = action->text();
+    if (text.contains(u'&')) continue;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+      if (!text[i].isLetter() || taken.contains(text[i].toLower())) continue;
+      taken += text[i].toLower();
+      action->setText(text.insert(i, u'&'));
+      break;
+    }
+  }
 }

@@ -1,5 +1,6 @@
 #pragma once
 class QLineEdit;
+class QMenuBar;
 class QWidget;
 
 /// Lengths are given in twips where the trade's tables do; 15 are one pixel at 96 dpi.
@@ -16,3 +17,7 @@ void WaitSeconds(double seconds);
 
 /// Places a form over the middle of its caller, or of the screen when there is no caller on show; never off the screen.
 void CentreForm(QWidget* form, const QWidget* caller = nullptr);
+
+/// Gives each menu of a bar that has no mnemonic the first letter of its caption that is still free, so that Alt and
+/// the letter open it.
+void GiveMnemonics(QMenuBar* bar);

@@ -1,0 +1,44 @@
+#include "core/screens/frmMenu.h"
+
+#include <QEvent>
+#include <QListWidget>
+
+#include "core/connection.h"
+#include "core/screens/home_commands.h"
+#include "core/screens/window_habits.h"
+
+#include "ui_frmMenu.h"
+
+using namespace Qt::StringLiterals;
+
+frmMenu::frmMenu() : ui_(std::make_unique<Ui::frmMenu>()) {
+  ui_->setupUi(this);
+  SetRemembersPlace(false);
+  for (const FloatingEntry& entry : FloatingMenu()) {
+    auto* item = new QListWidgetItem(entry.caption, ui_->lst);
+    if (entry.run == nullptr) item->setFlags(Qt::NoItemFlags);
+  }
+  ui_->lst->setFixedHeight(ui_->lst->sizeHintForRow(0) * ui_->lst->count() + 2 * ui_->lst->frameWidth() + 8);
+  ui_->lst->setMinimumWidth(ui_->lst->sizeHintForColumn(0) + 40);
+  connect(ui_->lst, &QListWidget::itemClicked, this,
+          [this](const QListWidgetItem* item) { Choose(ui_->lst->row(item)); });
+  connect(ui_->lst, &QListWidget::itemActivated, this,
+          [this](const QListWidgetItem* item) { Choose(ui_->lst->row(item)); });
+  ShowConnectionCount = [](int count) {
+    if (auto* menu = FormIfLoaded<frmMenu>()) menu->setWindowTitle(QString::number(count));
+  };
+}
+
+frmMenu::~frmMenu() { ShowConnectionCount = nullptr; }
+
+void frmMenu::Choose(int row) {
+  const HomeCommand run = FloatingMenu().at(static_cast<size_t>(row)).run;
+  if (run) run();
+}
+
+void frmMenu::Cancel() { ExitProgram(this); }
+
+void frmMenu::changeEvent(QEvent* event) {
+  Form::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) CloseLeftOpenConnection();
+}

@@ -1,0 +1,150 @@
+#include "core/screens/home_commands.h"
+
+#include <QHash>
+
+#include "core/connection.h"
+#include "core/prompts.h"
+#include "core/screens/frmMain2.h"
+#include "core/screens/frmMenu.h"
+#include "core/screens/start_up.h"
+#include "core/screens/support_listing.h"
+#include "core/screens/window_habits.h"
+#include "dbcare/check_fields.h"
+#include "jobs/repack_price.h"
+#include "schedule/reconstruct.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void CheckDatabaseFields() {
+  if (!AskYes(Lines({u"This utility will check your database file"_s, u"for all tables and fields."_s, QString(),
+                     u"This may take a few seconds."_s, QString(), u"Would you like to do this now?"_s}),
+              u"Check Database Fields"_s))
+    return;
+  CheckAllFields(true);
+  MsgBox(u"Finished checking database tables and fields."_s, u"Done"_s);
+}
+
+void ShowDatabaseName() { MsgBox(DatabasePath(), u"Your database file is:"_s); }
+
+void ShowHome() { SharedForm<frmMain2>().Show(); }
+
+void ShowFloatingMenu() { SharedForm<frmMenu>().Show(); }
+
+void LeaveProgram() { ExitProgram(nullptr); }
+
+const HomeCommand kLater;  // its screen is not there yet
+
+}  // namespace
+
+std::vector<MenuLine> MainMenu() {
+  const QStringList setUp{u"Set up"_s}, forms{u"Forms"_s}, jobs{u"Jobs"_s}, customers{u"Customers"_s},
+      library{u"Task Library"_s}, parts{u"Parts"_s}, gear{u"Gear"_s}, gearHistory{u"Gear"_s, u"History"_s},
+      history{u"History"_s}, reports{u"Reports"_s}, tools{u"Tools"_s}, photos{u"Tools"_s, u"Photos"_s},
+      email{u"Email"_s}, database{u"Database"_s}, install{u"Database"_s, u"Install backup database"_s}, help{u"Help"_s};
+  return {
+      {setUp, u"Rig Types"_s, kLater},
+      {setUp, u"Component Types"_s, kLater},
+      {setUp, u"Repack prices"_s, kLater},
+      {setUp, u"Set Repack Cycle"_s, AskRepackCycle},
+      {setUp, u"Locations"_s, kLater},
+      {setUp, u"Task Library"_s, kLater},
+      {setUp, u"Event Library"_s, kLater},
+      {setUp, u"Set default photo size"_s, kLater},
+      {setUp, u"Business title and address"_s, kLater},
+      {setUp, u"Change Loftkeep program owner"_s, kLater},
+      {forms, u"Cascade"_s, ArrangeForms},
+      {forms, u"Close all open forms"_s, CloseAllForms},
+      {forms, u"Load all forms"_s, kLater},
+      {forms, u"Show menu"_s, ShowFloatingMenu},
+      {jobs, u"Start new job"_s, kLater},
+      {jobs, u"Review/Edit jobs"_s, kLater},
+      {jobs, u"Show jobs which use a selected task type"_s, kLater},
+      {customers, u"Select / Edit"_s, kLater},
+      {customers, u"Add new"_s, kLater},
+      {library, u"Reserve Repack Prices"_s, kLater},
+      {library, u"Create New Task"_s, kLater},
+      {library, u"View All tasks"_s, kLater},
+      {library, u"Set Repack Cycle"_s, AskRepackCycle},
+      {parts, u"Add/Edit"_s, kLater},
+      {gear, u"Rig Database"_s, kLater},
+      {gear, u"Gear List"_s, kLater},
+      {gear, u"Component Models"_s, kLater},
+      {gear, u"Components Entered"_s, kLater},
+      {gear, u"Manufactures"_s, kLater},
+      {gear, u"Photos"_s, kLater},
+      {gearHistory, u"History by rig"_s, kLater},
+      {gearHistory, u"History by component (canopy, container, etc)"_s, kLater},
+      {gearHistory, u"Serial number look up"_s, kLater},
+      {history, u"Rigger Logbook"_s, kLater},
+      {history, u"Show rig history"_s, kLater},
+      {history, u"Component history (canopy, container, etc)"_s, kLater},
+      {reports, u"Rigger Log Book"_s, kLater},
+      {reports, u"Gear List Reports"_s, kLater},
+      {reports, u"Gear History"_s, kLater},
+      {reports, u"Component history (canopy, container, etc)"_s, kLater},
+      {reports, u"Task Report"_s, kLater},
+      {reports, u"Event Report"_s, kLater},
+      {reports, u"Show jobs which use a selected task type"_s, kLater},
+      {reports, u"Service bulletins"_s, kLater},
+      {tools, u"Check database fields"_s, CheckDatabaseFields},
+      {tools, u"Audit repack entries"_s, kLater},
+      {tools, u"Audit components"_s, kLater},
+      {photos, u"Show all gear photos"_s, kLater},
+      {photos, u"Show all customer photos"_s, kLater},
+      {photos, u"Show deleted photos"_s, kLater},
+      {photos, u"Audit photos"_s, kLater},
+      {tools, u"Export data to another computer"_s, kLater},
+      {tools, u"Import data from another computer"_s, kLater},
+      {tools, u"View support files"_s, ShowSupportListing},
+      {tools, u"Select Loftkeep program owner"_s, kLater},
+      {tools, QString(), {}},
+      {tools, u"Reconstruct schedules"_s, ReconstructSchedules},
+      {tools, u"Audit schedule entries"_s, AuditScheduleTaskLib},
+      {email, u"Email single statement "_s, kLater},
+      {email, u"Email statements to all customers"_s, kLater},
+      {email, u"Email misc message"_s, kLater},
+      {email, u"Email setup"_s, kLater},
+      {database, u"Back up"_s, kLater},
+      {install, u"from any file location"_s, kLater},
+      {install, u"from backup folder only"_s, kLater},
+      {database, u"Get stored database file from Loftkeep server"_s, kLater},
+      {database, u"Export backup database files to another location"_s, kLater},
+      {database, u"Create a new database"_s, kLater},
+      {database, u"Display current database file name"_s, ShowDatabaseName},
+      {help, u"Help"_s, kLater},
+      {help, u"About"_s, ShowSplash},
+      {{}, u"Exit"_s, LeaveProgram},
+  };
+}
+
+HomeCommand ButtonCommand(const QString& button) {
+  static const QHash<QString, HomeCommand> commands = {
+      {u"cmdPeople"_s, kLater},
+      {u"cmdRigs"_s, kLater},
+  };
+  return commands.value(button);
+}
+
+std::vector<FloatingEntry> FloatingMenu() {
+  return {{u"Home"_s, ShowHome},
+          {u"Customers"_s, kLater},
+          {QString(), {}},
+          {u"Components"_s, kLater},
+          {u"Models"_s, kLater},
+          {u"Rigs"_s, kLater},
+          {u"Job list"_s, kLater},
+          {u"Job"_s, kLater},
+          {u"History"_s, kLater},
+          {u"Schedule"_s, kLater},
+          {QString(), {}},
+          {u"Rigging Tasks"_s, kLater},
+          {u"Events"_s, kLater},
+          {u"Logbook"_s, kLater},
+          {u"Repack Calculator"_s, kLater},
+          {u"Arrange forms"_s, ArrangeForms},
+          {QString(), {}},
+          {u"Hide forms"_s, HideForms},
+          {u"Exit Loftkeep!"_s, LeaveProgram}};
+}

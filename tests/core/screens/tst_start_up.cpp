@@ -1,0 +1,279 @@
+#include <QLabel>
+#include <QLockFile>
+#include <QRadioButton>
+#include <QTest>
+
+#include "core/access.h"
+#include "core/default_rows.h"
+#include "core/files.h"
+#include "core/screens/frmInstall.h"
+#include "core/screens/frmMain2.h"
+#include "core/screens/frmMenu.h"
+#include "core/screens/frmSplash.h"
+#include "core/screens/start_up.h"
+#include "core/widgets/screen_routines.h"
+#include "dbcare/check_fields.h"
+#include "dbcare/new_database.h"
+#include "support/screens/controls.h"
+#include "support/screens/data_home.h"
+#include "support/screens/screen_script.h"
+#include "support/scripted_prompts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A data folder with a database that has been through a first run.
+void MakeGoodLoft() {
+  CreateFolder(DataPath);
+  CreateSubFolders();
+  Database::CreateFile(DatabaseFile());
+  ConnectionString = ConnectionStringFor(DatabaseFile());
+  Bracket bracket;
+  CheckAllFields(false);
+  CheckMiscRow();
+  SetDefaultComponentTypes();
+  CreateDefaultRigTypes();
+  CreateDefaultTasks();
+  UpdateTableBySQL(u"insert into tblModels (Name, TypeID) values ('Raven', 3)"_s);
+  UpdateTableBySQL(u"insert into tblPeople (LastName) values ('Lee')"_s);
+  bracket.Close();
+  ReleaseDatabaseFile();
+}
+
+QString NotFound() {
+  return u"Your database file cannot be found\n\nYou can install a backup database or create a new one\n(Press OK to continue)"_s;
+}
+
+void ExpectNoHomePage() { QVERIFY(!Forms::IsShown(u"frmMain2"_s)); }
+
+}  // namespace
+
+class StartUpTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void init() {
+    home_ = std::make_unique<DataHome>();
+    home_->Folder().Write(u"work/blank.mdb"_s, "an empty database");
+  }
+  void cleanup() {
+    UnloadScreens();
+    LeaveDataFolder();
+    home_.reset();
+  }
+
+  void AGoodLoftComesUpWithItsScreens() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    QVERIFY(SubMain());
+    QVERIFY(Forms::IsShown(u"frmMenu"_s) && Forms::IsShown(u"frmMain2"_s) && Forms::IsShown(u"frmSplash"_s));
+    QVERIFY(!ConnectionIsOpen);
+    Picture(SharedForm<frmMain2>(), u"home"_s);
+    Picture(SharedForm<frmMenu>(), u"menu"_s);
+    Picture(SharedForm<frmSplash>(), u"splash"_s);
+    QVERIFY(TextOf(SharedForm<frmSplash>(), u"lblInfo"_s).startsWith(u"1 customers \n0 rigs\n"_s));
+    QCOMPARE(TextOf(SharedForm<frmSplash>(), u"lblBackup"_s), u"Last database backup was performed on (never!)"_s);
+    QCOMPARE(home_->Folder().Read(u"home/loftkeep/support/blank.mdb"_s), QByteArray("an empty database"));
+    QTest::mouseClick(SharedForm<frmSplash>().findChild<QLabel*>(u"lblInfo"_s), Qt::LeftButton);
+    QVERIFY(!Forms::IsShown(u"frmSplash"_s));
+  }
+
+  void FirstRunAsksBeforeAnythingIsMade() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    screens.WhenShown<frmInstall>([](frmInstall& form) {
+      QVERIFY(!FolderExists(DataPath));
+      Picture(form, u"install"_s);
+      QCOMPARE(form.windowTitle(), u"Loftkeep - New Installation"_s);
+      QCOMPARE(TextOf(form, u"lblWelcome"_s), u"Welcome to Loftkeep !!!"_s);
+      Click(form, u"cmdCancel"_s);
+    });
+    prompts.ExpectBox(u"Loftkeep Setup Cancelled"_s, u"You have chosen to cancel the Loftkeep setup process."_s);
+    QVERIFY(!SubMain());
+    ExpectNoHomePage();
+    QVERIFY(!FolderExists(DataPath));
+  }
+
+  void NoChoiceIsACancelledFirstRunToo() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    screens.WhenShown<frmInstall>([](frmInstall& form) {
+      form.findChild<QRadioButton*>(u"optNew"_s)->click();
+      QCOMPARE(form.Result(), frmInstall::Choice::NewUser);
+      PressKey(form, Qt::Key_Escape);
+      QCOMPARE(form.Result(), frmInstall::Choice::None);
+    });
+    prompts.ExpectBox(u"Loftkeep Setup Cancelled"_s, u"You have chosen to cancel the Loftkeep setup process."_s);
+    QVERIFY(!SubMain());
+    screens.WhenShown<frmInstall>([](frmInstall& form) { Click(form, u"cmdOK"_s); });
+    prompts.ExpectBox(u"Loftkeep Setup Cancelled"_s, u"You have chosen to cancel the Loftkeep setup process."_s);
+    QVERIFY(!SubMain());
+    QVERIFY(!FolderExists(DataPath));
+  }
+
+  void ADataFolderThatCantBeMadeEndsTheStart() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    const QString inTheWay = home_->Folder().Write(u"file"_s, "in the way");
+    qputenv("XDG_DATA_HOME", inTheWay.toUtf8());
+    SetDataFolder();
+    screens.WhenShown<frmInstall>([](frmInstall& form) {
+      form.findChild<QRadioButton*>(u"optNew"_s)->click();
+      Click(form, u"cmdOK"_s);
+    });
+    prompts.ExpectBox(DataPath, u"Unable to create new folder - Sub CreateFolder()"_s);
+    QVERIFY(!SubMain());
+    ExpectNoHomePage();
+    QCOMPARE(home_->Folder().Read(u"file"_s), QByteArray("in the way"));
+  }
+
+  void WithoutADatabaseThePersonChoosesUntilSomethingComesOfIt() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    CreateFolder(DataPath);
+    prompts.ExpectBox(u"Database file not found"_s, NotFound());
+    for (int i = 0; i < 2; ++i) {
+      screens.WhenShown(u"frmGetBackup2"_s, [](Form& form) {
+        form.SetTag(u"cancel"_s);  // what the list of backup files leaves behind
+        form.hide();
+      });
+    }
+    screens.WhenShown(u"frmGetBackup2"_s, [](Form& form) {
+      Picture(form, u"get-backup"_s);
+      QCOMPARE(form.windowTitle(), u"Install a backup database"_s);
+      Click(form, u"cmdCancel"_s);
+    });
+    prompts.ExpectBox(u"Exiting Program"_s, u"You have chosen not to install a\ndatabase.\n\nExiting Loftkeep"_s);
+    QVERIFY(!SubMain());
+    ExpectNoHomePage();
+    QVERIFY(!ExistFile(DatabaseFile()));
+  }
+
+  void ABackupIsInstalledFromAnyFolder() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    const QString backup = home_->Folder() / u"backup.mdb"_s;
+    QVERIFY(QFile::rename(DatabaseFile(), backup));
+    const QString words = home_->Folder().Write(u"words.mdb"_s, "no database");
+    prompts.ExpectBox(u"Database file not found"_s, NotFound());
+    const QString title = u"Select a database (.mdb) file"_s;
+    prompts.ExpectOpenFile(title, words).Filtering(u"Loftkeep database (.mdb)|*.mdb|all files (*.*)|*.*"_s);
+    prompts.ExpectBox(u"Invalid file"_s, words + u" is NOT a valid Loftkeep database file"_s);
+    prompts.ExpectOpenFile(title, QString());
+    prompts.ExpectOpenFile(title, backup);
+    prompts.ExpectBox(u"Done"_s, u"Database installation complete"_s);
+    screens.WhenShown(u"frmGetBackup2"_s, [](Form& form) {
+      for (int i = 0; i < 3; ++i) Click(form, u"cmdAnyFolder"_s);
+    });
+    QVERIFY(SubMain());
+    QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"ID"_s, 1, u"LastName"_s).ToText(), u"Lee"_s);
+  }
+
+  void AFileThatIsNoDatabaseIsToldAndStays() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    CreateFolder(DataPath);
+    const QByteArray words = QByteArray("twenty years of repacks, or so it says\n").repeated(200);
+    home_->Folder().Write(u"home/loftkeep/loftkeep.mdb"_s, words);
+    prompts.ExpectBox(u"Sub ConnectionStart"_s, u"Unrecognized database format '"_s + DatabaseFile() + u"'."_s);
+    prompts
+        .Expect(u"Start new database?"_s,
+                u"Loftkeep has encountered an error.\n\nWould you like to create a new database?\n"
+                "(this will be an empty database)"_s,
+                Answer::No)
+        .WithPreset(Answer::No);
+    QVERIFY(SubMain());
+    QVERIFY(Forms::IsShown(u"frmMain2"_s));
+    QCOMPARE(home_->Folder().Read(u"home/loftkeep/loftkeep.mdb"_s), words);
+  }
+
+  void AFailedStartCanBeginAnewOnlyAfterTwoQuestions() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    CreateFolder(DataPath);
+    home_->Folder().Write(u"home/loftkeep/loftkeep.mdb"_s, QByteArray("words").repeated(500));
+    const QString offer = u"Loftkeep has encountered an error.\n\nWould you like to create a new database?\n"
+                          "(this will be an empty database)"_s;
+    const QString warning = u"This will delete the LOFTKEEP folder as well as the special folder.\n"
+                            "The files in those folders will be deleted (this includes loftkeep.mdb)\n\n"
+                            "This will start over as a new user\n\nAre you sure you want to do this?"_s;
+    for (Answer sure : {Answer::No, Answer::Yes}) {
+      prompts.ExpectBox(u"Sub ConnectionStart"_s, u"Unrecognized database format '"_s + DatabaseFile() + u"'."_s);
+      prompts.Expect(u"Start new database?"_s, offer, Answer::Yes);
+      prompts.Expect(u"Loftkeep"_s, warning, sure).WithPreset(Answer::No);
+      if (sure == Answer::Yes) prompts.ExpectBox(u"Loftkeep"_s, u"Now exit program and start over as new user"_s);
+      SubMain();
+      prompts.Finish();
+      QCOMPARE(FolderExists(DataPath), sure == Answer::No);
+    }
+  }
+
+  void ASecondStartLeavesTheDataAlone() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    const QByteArray before = home_->Folder().Read(u"home/loftkeep/loftkeep.mdb"_s);
+    QLockFile other(DataPath + u"loftkeep.lock"_s);
+    QVERIFY(other.tryLock(0));
+    prompts.ExpectBox(u"Loftkeep"_s, u"Loftkeep is already running with the data in this folder:\n\n"_s + DataPath);
+    QVERIFY(!SubMain());
+    ExpectNoHomePage();
+    QCOMPARE(home_->Folder().Read(u"home/loftkeep/loftkeep.mdb"_s), before);
+    other.unlock();
+    QVERIFY(SubMain());
+  }
+
+  void DiagnosticModeSaysSo() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    home_->Folder().Write(u"work/diag.txt"_s, "");
+    prompts.ExpectBox(u"diag.txt file found"_s, u"Diagnostic mode is on!"_s);
+    prompts.ExpectBox(u"Loftkeep"_s, u"9. next is CheckDB"_s);
+    QVERIFY(SubMain());
+    QVERIFY(DiagnosticMode);
+    DiagnosticMode = false;
+  }
+
+  void AnOlderDatabaseIsMendedOnTheWay() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    ConnectionString = ConnectionStringFor(DatabaseFile());
+    UpdateTableBySQL(u"delete * from tblMisc"_s);
+    UpdateTableBySQL(u"delete * from tblComponentTypes where ID = 3"_s);
+    UpdateTableBySQL(u"insert into tblComponents (RigID, TypeID, ModelID) values (77, 3, 1)"_s);
+    UpdateTableBySQL(u"delete * from tblTaskLib where ID = 1"_s);
+    ReleaseDatabaseFile();
+    prompts.ExpectInput(u"Enter reserve repack cycle"_s, u"How many days for reserve repack cycle?"_s, u"120"_s)
+        .Proposing(u"180"_s);
+    prompts.ExpectBox(u"Sub CreateRepackTaskType(TaskLibID As Long)"_s, u"repack not found in task library"_s);
+    prompts.ExpectBox(u"New task type added"_s, u"Reserve repack added to task library"_s);
+    QVERIFY(SubMain());
+    QCOMPARE(GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s), Value(120));
+    QCOMPARE(GetNumberRecordsInTable(u"tblComponentTypes"_s), 7);
+    QCOMPARE(GetValueFromTable(u"tblComponents"_s, u"ID"_s, 1, u"RigID"_s), Value(0));
+  }
+
+  void ACycleThatIsNoneBecomes180() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    ConnectionString = ConnectionStringFor(DatabaseFile());
+    UpdateTableBySQL(u"delete * from tblMisc"_s);
+    ReleaseDatabaseFile();
+    prompts.ExpectInput(u"Enter reserve repack cycle"_s, u"How many days for reserve repack cycle?"_s, QString());
+    QVERIFY(SubMain());
+    QCOMPARE(GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s), Value(180));
+    QCOMPARE(GetValueFromTable(u"tblTaskLib"_s, u"ID"_s, 1, u"IntervalNumber"_s), Value(180));
+  }
+
+ private:
+  std::unique_ptr<DataHome> home_;
+};
+
+QTEST_MAIN(StartUpTest)
+#include "tst_start_up.moc"
