@@ -41,18 +41,12 @@ bool IsTextType(int type) { return type == kBString || type == jet::kText || typ
 Value ReadOne(const QString& statement, const QString& returnField, bool defaultsForNull) {
   Bracket bracket;
   Value result;
-  {
-    Recordset records(statement);
-    if (RecordsetHasRows(records)) {
-      const int column = records.ColumnOf(returnField);
-      result = records.At(column);
-      if (result.IsNull()) {
-        if (!defaultsForNull)
-          result = Value();
-        else
-          result = IsTextType(records.FieldType(column)) ? Value(QString()) : Value(0);
-      }
-    }
+  int type = 0;
+  if (OpenDatabase().ReadFirst(statement, returnField, result, type) && result.IsNull()) {
+    if (!defaultsForNull)
+      result = Value();
+    else
+      result = IsTextType(type) ? Value(QString()) : Value(0);
   }
   bracket.Close();
   return result;

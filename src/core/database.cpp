@@ -80,6 +80,12 @@ int DefaultTextSize() { return 255; }
 
 }  // namespace
 
+int ColumnOfField(const std::vector<Field>& fields, QStringView name) {
+  for (size_t i = 0; i < fields.size(); ++i)
+    if (name.compare(fields[i].name, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
+  throw Failure(u"Item cannot be found in the collection corresponding to the requested name or ordinal."_s);
+}
+
 QString DeclaredType(int type, int size) {
   if (type == jet::kText) return u"Text(%1)"_s.arg(size > 0 ? size : DefaultTextSize());
   for (const TypeName& known : kTypeNames)
@@ -157,7 +163,9 @@ Prepared::~Prepared() { sqlite3_finalize(handle); }
 
 Database::Database(const QString& path) : path_(path) {
   if (!QFileInfo::exists(path)) throw Failure(u"Could not find file '%1'."_s.arg(QDir::toNativeSeparators(path)));
-  const int opened = sqlite3_open_v2(path.toUtf8().constData(), &handle_, SQLITE_OPEN_READWRITE, nullptr);
+  // One thread drives the program, so the connection needs no lock of its own.
+  const int opened =
+      sqlite3_open_v2(path.toUtf8().constData(), &handle_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   try {
     if (opened != SQLITE_OK) Fail();
     sqlite3_extended_result_codes(handle_, 0);
@@ -292,6 +300,23 @@ void Database::BindLiterals(Prepared& prepared, const std::vector<jet::Literal>&
       else
         sqlite3_bind_double(prepared.handle, parameter, literal.text.toDouble());
     }
+  }
+}
+
+bool Database::ReadFirst(const QString& statement, QStringView field, Value& value, int& type) {
+  Prepared* prepared = Take(statement);
+  try {
+    const bool found = Step(prepared->handle);
+    if (found) {
+      const int column = ColumnOfField(*prepared->fields, field);
+      type = (*prepared->fields)[static_cast<size_t>(column)].type;
+      value = ReadColumn(prepared->handle, column, type);
+    }
+    GiveBack(prepared);
+    return found;
+  } catch (...) {
+    GiveBack(prepared);
+    throw;
   }
 }
 

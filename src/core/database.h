@@ -22,6 +22,9 @@ struct Field {
   int size = 0;  ///< characters that a text holds; 0 for other types
 };
 
+/// The column of a field, without regard to case; an unknown one throws Failure.
+int ColumnOfField(const std::vector<Field>& fields, QStringView name);
+
 /// The column type as the schema writes it; it carries the ADO type of the field.
 QString DeclaredType(int type, int size);
 Field FieldFromDeclared(const QString& name, const QString& declared);
@@ -68,6 +71,8 @@ class Database {
   /// Takes the prepared statement for a text out of the cache, with its literals bound. GiveBack returns it.
   Prepared* Take(const QString& statement, Want want = Want::Rows);
   static void GiveBack(Prepared* prepared);
+  /// One field of the first row of a query, without a recordset around it; false when there is no row.
+  bool ReadFirst(const QString& statement, QStringView field, Value& value, int& type);
   /// Steps a statement: true for a row, false at the end.
   bool Step(sqlite3_stmt* statement);
   /// SQLite's own dialect, prepared and kept.

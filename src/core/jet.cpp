@@ -252,14 +252,17 @@ class Writer {
 };
 
 void AppendKey(std::string& key, QStringView text) {
+  const size_t start = key.size();
+  key.resize(start + static_cast<size_t>(text.size()));
+  char* out = key.data() + start;
   for (QChar c : text) {
     const char16_t u = c.unicode();
-    if (u >= 'A' && u <= 'Z')
-      key.push_back(static_cast<char>(u + 32));
-    else if (u < 128)
-      key.push_back(static_cast<char>(u));
-    else
-      key += QString(c).toLower().toStdString();
+    if (u > 127) {  // a name in another script: rare, so it may take its time
+      key.resize(start);
+      key += text.toString().toLower().toStdString();
+      return;
+    }
+    *out++ = static_cast<char>(u >= 'A' && u <= 'Z' ? u + 32 : u);
   }
 }
 

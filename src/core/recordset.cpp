@@ -123,11 +123,7 @@ const Recordset::Row& Recordset::Current() const {
 
 Recordset::Row& Recordset::Current() { return const_cast<Row&>(std::as_const(*this).Current()); }
 
-int Recordset::ColumnOf(QStringView field) const {
-  for (size_t i = 0; i < Fields().size(); ++i)
-    if (field.compare(Fields()[i].name, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
-  throw Failure(u"Item cannot be found in the collection corresponding to the requested name or ordinal."_s);
-}
+int Recordset::ColumnOf(QStringView field) const { return ColumnOfField(Fields(), field); }
 
 Value Recordset::operator[](QStringView field) const { return At(ColumnOf(field)); }
 
