@@ -12,6 +12,9 @@ constexpr int kPeopleNobody = -77;
 /// 0 when there was none. With `ownerSetup` the next person who is saved becomes the owner of the program.
 int ShowPeople(int start = 0, bool ownerSetup = false);
 
+/// Opens the customers beside the other screens, or brings them forward.
+void OpenPeople(int start = 0);
+
 /// What the rig screen opens on.
 struct RigScreenStart {
   int customer = 0;
@@ -22,6 +25,9 @@ struct RigScreenStart {
 };
 /// Shows the rigs, modally. False, after a notice, when the screen is open already.
 bool ShowRigs(const RigScreenStart& start = {});
+
+/// Opens the rigs beside the other screens, or brings them forward.
+void OpenRigs(const RigScreenStart& start = {});
 
 /// Lets a person choose a rig; false when cancelled. `rig` and `customer` are selected when the screen opens, `rigType`
 /// limits the list.

@@ -2,15 +2,21 @@
 
 #include <QHash>
 
-#include "core/connection.h"
+#include "core/access.h"
+#include "core/clock.h"
+#include "core/picker.h"
 #include "core/prompts.h"
+#include "core/screens.h"
 #include "core/screens/frmMain2.h"
 #include "core/screens/frmMenu.h"
 #include "core/screens/start_up.h"
 #include "core/screens/support_listing.h"
 #include "core/screens/window_habits.h"
 #include "dbcare/check_fields.h"
+#include "gear/screens.h"
 #include "jobs/repack_price.h"
+#include "jobs/screens.h"
+#include "reports/screens.h"
 #include "schedule/reconstruct.h"
 
 using namespace Qt::StringLiterals;
@@ -34,6 +40,32 @@ void ShowFloatingMenu() { SharedForm<frmMenu>().Show(); }
 
 void LeaveProgram() { ExitProgram(nullptr); }
 
+void ShowCustomers() { OpenPeople(); }
+
+void AddCustomer() { OpenPeople(kPeopleAddNew); }
+
+int LastCustomer() { return GetValueFromTableBySQL(u"tblMisc"_s, u"LastCustomerID"_s).ToInt(); }
+
+void ShowRigDatabase() { OpenRigs({.customer = LastCustomer()}); }
+
+void ShowRigsPlainly() { OpenRigs({.customer = LastCustomer(), .hideButtons = true}); }
+
+void StartJobForCustomer() {
+  int customer = PickItem(kPickCustomer).id;
+  if (customer == kPickNewPerson) customer = ShowPeople(kPeopleAddNew);
+  if (customer > 0) StartNewJob(customer, 0, 0, Today());
+}
+
+void ShowLastJob() {
+  if (GetNumberRecordsInTable(u"tblJobs"_s) > 0) ShowJob();
+}
+
+void LoadAllForms() {
+  Bracket bracket;
+  ShowLastJob();
+  ArrangeForms();
+}
+
 const HomeCommand kLater;  // its screen is not there yet
 
 }  // namespace
@@ -52,23 +84,23 @@ std::vector<MenuLine> MainMenu() {
       {setUp, u"Task Library"_s, kLater},
       {setUp, u"Event Library"_s, kLater},
       {setUp, u"Set default photo size"_s, kLater},
-      {setUp, u"Business title and address"_s, kLater},
+      {setUp, u"Business title and address"_s, EditBusinessAddress},
       {setUp, u"Change Loftkeep program owner"_s, kLater},
       {forms, u"Cascade"_s, ArrangeForms},
       {forms, u"Close all open forms"_s, CloseAllForms},
-      {forms, u"Load all forms"_s, kLater},
+      {forms, u"Load all forms"_s, LoadAllForms},
       {forms, u"Show menu"_s, ShowFloatingMenu},
-      {jobs, u"Start new job"_s, kLater},
+      {jobs, u"Start new job"_s, StartJobForCustomer},
       {jobs, u"Review/Edit jobs"_s, kLater},
       {jobs, u"Show jobs which use a selected task type"_s, kLater},
-      {customers, u"Select / Edit"_s, kLater},
-      {customers, u"Add new"_s, kLater},
+      {customers, u"Select / Edit"_s, ShowCustomers},
+      {customers, u"Add new"_s, AddCustomer},
       {library, u"Reserve Repack Prices"_s, kLater},
       {library, u"Create New Task"_s, kLater},
       {library, u"View All tasks"_s, kLater},
       {library, u"Set Repack Cycle"_s, AskRepackCycle},
       {parts, u"Add/Edit"_s, kLater},
-      {gear, u"Rig Database"_s, kLater},
+      {gear, u"Rig Database"_s, ShowRigDatabase},
       {gear, u"Gear List"_s, kLater},
       {gear, u"Component Models"_s, kLater},
       {gear, u"Components Entered"_s, kLater},
@@ -121,21 +153,21 @@ std::vector<MenuLine> MainMenu() {
 
 HomeCommand ButtonCommand(const QString& button) {
   static const QHash<QString, HomeCommand> commands = {
-      {u"cmdPeople"_s, kLater},
-      {u"cmdRigs"_s, kLater},
+      {u"cmdPeople"_s, ShowCustomers},
+      {u"cmdRigs"_s, ShowRigDatabase},
   };
   return commands.value(button);
 }
 
 std::vector<FloatingEntry> FloatingMenu() {
   return {{u"Home"_s, ShowHome},
-          {u"Customers"_s, kLater},
+          {u"Customers"_s, ShowCustomers},
           {QString(), {}},
           {u"Components"_s, kLater},
           {u"Models"_s, kLater},
-          {u"Rigs"_s, kLater},
+          {u"Rigs"_s, ShowRigsPlainly},
           {u"Job list"_s, kLater},
-          {u"Job"_s, kLater},
+          {u"Job"_s, ShowLastJob},
           {u"History"_s, kLater},
           {u"Schedule"_s, kLater},
           {QString(), {}},

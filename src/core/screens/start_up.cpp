@@ -103,7 +103,7 @@ void MakeDatabase() {
 void AskForOwner() {
   int owner = 0;
   MsgBox(Lines({u"Please enter your name"_s, QString(), u"Press OK to continue"_s}), u"Your Information"_s);
-  while ((owner = EnterProgramOwner()) < 1) MsgBox(u"You must enter a user name"_s);
+  while ((owner = ShowPeople(kPeopleAddNew, true)) < 1) MsgBox(u"You must enter a user name"_s);
   UpdateTableBySQL(u"update tblMisc set UserID = "_s + QString::number(owner));
 }
 
@@ -137,6 +137,7 @@ void OfferNewStart() {
 void LeaveDataFolder() { folderLock.reset(); }
 
 bool SubMain() {
+  RegisterGearPickers();
   ConnectionCount = 0;
   DiagnosticMode = ExistFile(u"diag.txt"_s);
   if (DiagnosticMode) MsgBox(u"Diagnostic mode is on!"_s, u"diag.txt file found"_s);

@@ -27,6 +27,12 @@ int ShowPeople(int start, bool ownerSetup) {
   return person;
 }
 
+void OpenPeople(int start) {
+  auto& form = SharedForm<frmPeople>();
+  if (!form.FormIsShown()) form.SetStart(start);
+  form.Show();
+}
+
 bool ShowRigs(const RigScreenStart& start) {
   auto& form = SharedForm<frmGetRig>();
   if (form.FormIsShown()) {
@@ -37,6 +43,12 @@ bool ShowRigs(const RigScreenStart& start) {
   form.ShowModal();
   form.UnloadForm();
   return true;
+}
+
+void OpenRigs(const RigScreenStart& start) {
+  auto& form = SharedForm<frmGetRig>();
+  if (!form.FormIsShown()) form.SetStart(start);
+  form.Show();
 }
 
 bool PickRig(int& rig, int& customer, int rigType) {
