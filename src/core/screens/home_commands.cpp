@@ -52,7 +52,7 @@ void ShowRigsPlainly() { OpenRigs({.customer = LastCustomer(), .hideButtons = tr
 
 void StartJobForCustomer() {
   int customer = PickItem(kPickCustomer).id;
-  if (customer == kPickNewPerson) customer = ShowPeople(kPeopleAddNew);
+  if (customer == kPickAddNewPerson) customer = ShowPeople(kPeopleAddNew);
   if (customer > 0) StartNewJob(customer, 0, 0, Today());
 }
 
