@@ -1,6 +1,7 @@
 #include "core/screens/start_up.h"
 
 #include <QLockFile>
+
 #include <memory>
 
 #include "core/access.h"
@@ -74,16 +75,9 @@ bool FindDatabase() {
   return true;
 }
 
-void CheckModelsFile() {
-  const QString target = SupportFile(u"models.txt"_s);
-  const QString source = ProgramFile(u"models.txt"_s);
-  if (!ExistFile(target) && !source.isEmpty()) MyFileCopy(source, target);
-  if (GetNumberRecordsInTable(u"tblModels"_s) == 0) ImportModels(true, DataPath);
-}
-
 void CheckSupportFiles() {
   CheckBlankmb();
-  CheckModelsFile();
+  LoadModelsAtStart();
   CheckHelpFile();
 }
 
@@ -163,8 +157,8 @@ void CheckFolderSystem() {
   ConnectionString = ConnectionStringFor(DatabaseFile());
   if (ConnectionCount == kStop) return;
   if (!TakeFolder()) {
-    MsgBox(Lines({u"Loftkeep is already running with the data in this folder:"_s, QString(), DataPath}),
-           kProgramTitle, Icon::Exclamation);
+    MsgBox(Lines({u"Loftkeep is already running with the data in this folder:"_s, QString(), DataPath}), kProgramTitle,
+           Icon::Exclamation);
     Stop();
     return;
   }
@@ -210,22 +204,23 @@ void FirstRunSetup(bool forNewDatabase) {
     MakeDatabase();
   }
   CreateSubFolders();
-  CheckModelsFile();
+  LoadModelsAtStart();
   CheckHelpFile();
   AskForOwner();
   AskRepackCycle();
-  MsgBox(Lines({u"Setup is complete!  Welcome to Loftkeep!"_s, QString(),
-                u"Be sure to check out the HELP menu.  There's a "_s,
-                u"select called QUICK TOUR that will get you started."_s, QString(), u"Thank you for using Loftkeep!"_s}),
-         u"Welcome!"_s);
+  MsgBox(
+      Lines({u"Setup is complete!  Welcome to Loftkeep!"_s, QString(),
+             u"Be sure to check out the HELP menu.  There's a "_s,
+             u"select called QUICK TOUR that will get you started."_s, QString(), u"Thank you for using Loftkeep!"_s}),
+      u"Welcome!"_s);
 }
 
 void CheckDatabaseOnStart() {
   Trap(u"Sub CheckDatabaseOnStart"_s, [] {
     Bracket bracket;
     if (GetNumberRecordsInTable(u"tblMisc"_s) == 0) {
-      const int answer = static_cast<int>(Val(
-          InputBox(u"How many days for reserve repack cycle?"_s, u"Enter reserve repack cycle"_s, u"180"_s)));
+      const int answer = static_cast<int>(
+          Val(InputBox(u"How many days for reserve repack cycle?"_s, u"Enter reserve repack cycle"_s, u"180"_s)));
       constexpr int kHighest = 32767;
       AddMiscRow(180);
       SetRepackCycle(answer > 0 && answer <= kHighest ? answer : 180);

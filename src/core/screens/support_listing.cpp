@@ -15,10 +15,14 @@
 using namespace Qt::StringLiterals;
 
 QString SupportListing() {
-  QStringList lines{u"Version: "_s + QCoreApplication::applicationVersion(), u"System: "_s + QSysInfo::prettyProductName(),
-                    GetWindowsVersionText(), QString(), u"Data folder: "_s + DataPath,
+  QStringList lines{u"Version: "_s + QCoreApplication::applicationVersion(),
+                    u"System: "_s + QSysInfo::prettyProductName(),
+                    GetWindowsVersionText(),
+                    QString(),
+                    u"Data folder: "_s + DataPath,
                     u"Database: "_s + DatabaseFile(),
-                    u"Size: "_s + FormatFileSize(static_cast<double>(QFileInfo(DatabaseFile()).size())), QString(),
+                    u"Size: "_s + FormatFileSize(static_cast<double>(QFileInfo(DatabaseFile()).size())),
+                    QString(),
                     u"Support files:"_s};
   const QString folder = SupportFile(QString());
   QStringList names;

@@ -26,7 +26,7 @@ void frmGetBackup2::End(const QString& tag) {
 void frmGetBackup2::Cancel() { End(u"end"_s); }
 
 void frmGetBackup2::InstallFromAnyFolder() {
-  const QString path = OpenFileDialog({u"Select a database (.mdb) file"_s, QString(),
-                                       u"Loftkeep database (.mdb)|*.mdb|all files (*.*)|*.*"_s});
+  const QString path = OpenFileDialog(
+      {u"Select a database (.mdb) file"_s, QString(), u"Loftkeep database (.mdb)|*.mdb|all files (*.*)|*.*"_s});
   if (!path.isEmpty() && InstallDatabaseFile(path)) End(QString());
 }

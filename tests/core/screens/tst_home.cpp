@@ -34,8 +34,10 @@ class frmSecond : public Form {
 QStringList Lines(const QMenu& menu, const QString& indent) {
   QStringList lines;
   for (const QAction* action : menu.actions()) {
-    if (action->isSeparator()) lines << indent + u"-"_s;
-    else lines << indent + action->text();
+    if (action->isSeparator())
+      lines << indent + u"-"_s;
+    else
+      lines << indent + action->text();
     if (action->menu() != nullptr) lines << Lines(*action->menu(), indent + u"  "_s);
   }
   return lines;
@@ -64,31 +66,94 @@ class HomeTest : public QObject {
       lines << action->text();
       if (action->menu() != nullptr) lines << Lines(*action->menu(), u"  "_s);
     }
-    const QStringList wanted = {
-        u"Set up"_s, u"  Rig Types"_s, u"  Component Types"_s, u"  Repack prices"_s, u"  Set Repack Cycle"_s,
-        u"  Locations"_s, u"  Task Library"_s, u"  Event Library"_s, u"  Set default photo size"_s,
-        u"  Business title and address"_s, u"  Change Loftkeep program owner"_s, u"Forms"_s, u"  Cascade"_s,
-        u"  Close all open forms"_s, u"  Load all forms"_s, u"  Show menu"_s, u"Jobs"_s, u"  Start new job"_s,
-        u"  Review/Edit jobs"_s, u"  Show jobs which use a selected task type"_s, u"Customers"_s,
-        u"  Select / Edit"_s, u"  Add new"_s, u"Task Library"_s, u"  Reserve Repack Prices"_s,
-        u"  Create New Task"_s, u"  View All tasks"_s, u"  Set Repack Cycle"_s, u"Parts"_s, u"  Add/Edit"_s,
-        u"Gear"_s, u"  Rig Database"_s, u"  Gear List"_s, u"  Component Models"_s, u"  Components Entered"_s,
-        u"  Manufactures"_s, u"  Photos"_s, u"  History"_s, u"    History by rig"_s,
-        u"    History by component (canopy, container, etc)"_s, u"    Serial number look up"_s, u"History"_s,
-        u"  Rigger Logbook"_s, u"  Show rig history"_s, u"  Component history (canopy, container, etc)"_s,
-        u"Reports"_s, u"  Rigger Log Book"_s, u"  Gear List Reports"_s, u"  Gear History"_s,
-        u"  Component history (canopy, container, etc)"_s, u"  Task Report"_s, u"  Event Report"_s,
-        u"  Show jobs which use a selected task type"_s, u"  Service bulletins"_s, u"Tools"_s,
-        u"  Check database fields"_s, u"  Audit repack entries"_s, u"  Audit components"_s, u"  Photos"_s,
-        u"    Show all gear photos"_s, u"    Show all customer photos"_s, u"    Show deleted photos"_s,
-        u"    Audit photos"_s, u"  Export data to another computer"_s, u"  Import data from another computer"_s,
-        u"  View support files"_s, u"  Select Loftkeep program owner"_s, u"  -"_s, u"  Reconstruct schedules"_s,
-        u"  Audit schedule entries"_s, u"Email"_s, u"  Email single statement "_s,
-        u"  Email statements to all customers"_s, u"  Email misc message"_s, u"  Email setup"_s, u"Database"_s,
-        u"  Back up"_s, u"  Install backup database"_s, u"    from any file location"_s,
-        u"    from backup folder only"_s, u"  Get stored database file from Loftkeep server"_s,
-        u"  Export backup database files to another location"_s, u"  Create a new database"_s,
-        u"  Display current database file name"_s, u"Help"_s, u"  Help"_s, u"  About"_s, u"Exit"_s};
+    const QStringList wanted = {u"Set up"_s,
+                                u"  Rig Types"_s,
+                                u"  Component Types"_s,
+                                u"  Repack prices"_s,
+                                u"  Set Repack Cycle"_s,
+                                u"  Locations"_s,
+                                u"  Task Library"_s,
+                                u"  Event Library"_s,
+                                u"  Set default photo size"_s,
+                                u"  Business title and address"_s,
+                                u"  Change Loftkeep program owner"_s,
+                                u"Forms"_s,
+                                u"  Cascade"_s,
+                                u"  Close all open forms"_s,
+                                u"  Load all forms"_s,
+                                u"  Show menu"_s,
+                                u"Jobs"_s,
+                                u"  Start new job"_s,
+                                u"  Review/Edit jobs"_s,
+                                u"  Show jobs which use a selected task type"_s,
+                                u"Customers"_s,
+                                u"  Select / Edit"_s,
+                                u"  Add new"_s,
+                                u"Task Library"_s,
+                                u"  Reserve Repack Prices"_s,
+                                u"  Create New Task"_s,
+                                u"  View All tasks"_s,
+                                u"  Set Repack Cycle"_s,
+                                u"Parts"_s,
+                                u"  Add/Edit"_s,
+                                u"Gear"_s,
+                                u"  Rig Database"_s,
+                                u"  Gear List"_s,
+                                u"  Component Models"_s,
+                                u"  Components Entered"_s,
+                                u"  Manufactures"_s,
+                                u"  Photos"_s,
+                                u"  History"_s,
+                                u"    History by rig"_s,
+                                u"    History by component (canopy, container, etc)"_s,
+                                u"    Serial number look up"_s,
+                                u"History"_s,
+                                u"  Rigger Logbook"_s,
+                                u"  Show rig history"_s,
+                                u"  Component history (canopy, container, etc)"_s,
+                                u"Reports"_s,
+                                u"  Rigger Log Book"_s,
+                                u"  Gear List Reports"_s,
+                                u"  Gear History"_s,
+                                u"  Component history (canopy, container, etc)"_s,
+                                u"  Task Report"_s,
+                                u"  Event Report"_s,
+                                u"  Show jobs which use a selected task type"_s,
+                                u"  Service bulletins"_s,
+                                u"Tools"_s,
+                                u"  Check database fields"_s,
+                                u"  Audit repack entries"_s,
+                                u"  Audit components"_s,
+                                u"  Photos"_s,
+                                u"    Show all gear photos"_s,
+                                u"    Show all customer photos"_s,
+                                u"    Show deleted photos"_s,
+                                u"    Audit photos"_s,
+                                u"  Export data to another computer"_s,
+                                u"  Import data from another computer"_s,
+                                u"  View support files"_s,
+                                u"  Select Loftkeep program owner"_s,
+                                u"  -"_s,
+                                u"  Reconstruct schedules"_s,
+                                u"  Audit schedule entries"_s,
+                                u"Email"_s,
+                                u"  Email single statement "_s,
+                                u"  Email statements to all customers"_s,
+                                u"  Email misc message"_s,
+                                u"  Email setup"_s,
+                                u"Database"_s,
+                                u"  Back up"_s,
+                                u"  Install backup database"_s,
+                                u"    from any file location"_s,
+                                u"    from backup folder only"_s,
+                                u"  Get stored database file from Loftkeep server"_s,
+                                u"  Export backup database files to another location"_s,
+                                u"  Create a new database"_s,
+                                u"  Display current database file name"_s,
+                                u"Help"_s,
+                                u"  Help"_s,
+                                u"  About"_s,
+                                u"Exit"_s};
     QCOMPARE(lines, wanted);
   }
 
@@ -126,11 +191,10 @@ class HomeTest : public QObject {
     const auto& list = Control<QListWidget>(menu, u"lst"_s);
     QStringList entries;
     for (int i = 0; i < list.count(); ++i) entries << list.item(i)->text();
-    QCOMPARE(entries,
-             (QStringList{u"Home"_s, u"Customers"_s, QString(), u"Components"_s, u"Models"_s, u"Rigs"_s, u"Job list"_s,
-                          u"Job"_s, u"History"_s, u"Schedule"_s, QString(), u"Rigging Tasks"_s, u"Events"_s,
-                          u"Logbook"_s, u"Repack Calculator"_s, u"Arrange forms"_s, QString(), u"Hide forms"_s,
-                          u"Exit Loftkeep!"_s}));
+    QCOMPARE(entries, (QStringList{u"Home"_s, u"Customers"_s, QString(), u"Components"_s, u"Models"_s, u"Rigs"_s,
+                                   u"Job list"_s, u"Job"_s, u"History"_s, u"Schedule"_s, QString(), u"Rigging Tasks"_s,
+                                   u"Events"_s, u"Logbook"_s, u"Repack Calculator"_s, u"Arrange forms"_s, QString(),
+                                   u"Hide forms"_s, u"Exit Loftkeep!"_s}));
     QVERIFY(!(list.item(2)->flags() & Qt::ItemIsEnabled));
     QCOMPARE(menu.windowTitle(), u"Menu"_s);
   }
@@ -208,8 +272,9 @@ class HomeTest : public QObject {
   void TheDatabaseIsCheckedOnCommand() {
     ScriptedPrompts prompts;
     auto& home = SharedForm<frmMain2>();
-    const QString question = u"This utility will check your database file\nfor all tables and fields.\n\n"
-                             "This may take a few seconds.\n\nWould you like to do this now?"_s;
+    const QString question =
+        u"This utility will check your database file\nfor all tables and fields.\n\n"
+        "This may take a few seconds.\n\nWould you like to do this now?"_s;
     prompts.Expect(u"Check Database Fields"_s, question, Answer::No);
     ChooseMenu(home, {u"Tools"_s, u"Check database fields"_s});
     prompts.Expect(u"Check Database Fields"_s, question, Answer::Yes);

@@ -195,11 +195,13 @@ class StartUpTest : public QObject {
     ScriptedPrompts prompts;
     CreateFolder(DataPath);
     home_->Folder().Write(u"home/loftkeep/loftkeep.mdb"_s, QByteArray("words").repeated(500));
-    const QString offer = u"Loftkeep has encountered an error.\n\nWould you like to create a new database?\n"
-                          "(this will be an empty database)"_s;
-    const QString warning = u"This will delete the LOFTKEEP folder as well as the special folder.\n"
-                            "The files in those folders will be deleted (this includes loftkeep.mdb)\n\n"
-                            "This will start over as a new user\n\nAre you sure you want to do this?"_s;
+    const QString offer =
+        u"Loftkeep has encountered an error.\n\nWould you like to create a new database?\n"
+        "(this will be an empty database)"_s;
+    const QString warning =
+        u"This will delete the LOFTKEEP folder as well as the special folder.\n"
+        "The files in those folders will be deleted (this includes loftkeep.mdb)\n\n"
+        "This will start over as a new user\n\nAre you sure you want to do this?"_s;
     for (Answer sure : {Answer::No, Answer::Yes}) {
       prompts.ExpectBox(u"Sub ConnectionStart"_s, u"Unrecognized database format '"_s + DatabaseFile() + u"'."_s);
       prompts.Expect(u"Start new database?"_s, offer, Answer::Yes);
