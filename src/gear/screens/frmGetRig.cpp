@@ -16,6 +16,7 @@
 #include "gear/rig_rules.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
+#include "jobs/screens.h"
 #include "schedule/rig_audit.h"
 
 #include "ui_frmGetRig.h"
@@ -76,7 +77,7 @@ void frmGetRig::MakeMenu() {
   add(rigs, u"Delete rig"_s, &frmGetRig::DeleteRig);
   rigCommands_ << add(rigs, u"Rename rig"_s, &frmGetRig::RenameRig);
   auto* jobs = MenuBar()->addMenu(u"Jobs"_s);
-  later(jobs, u"Start new job"_s);
+  add(jobs, u"Start new job"_s, [this] { StartNewJob(ui_->browser->Customer(), ui_->browser->Rig(), 0, Today()); });
   later(jobs, u"Review jobs"_s);
   later(MenuBar()->addMenu(u"Photos"_s), u"Add/view more photos"_s);
   later(MenuBar()->addMenu(u"History"_s), u"Show this rig's history"_s);

@@ -5,6 +5,7 @@
 #include <QShowEvent>
 #include <QTimer>
 
+#include "core/clock.h"
 #include "core/lists.h"
 #include "core/picker.h"
 #include "core/prompts.h"
@@ -15,6 +16,7 @@
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/frmPeopleEdit.h"
+#include "jobs/screens.h"
 
 #include "ui_frmPeople.h"
 
@@ -51,7 +53,7 @@ void frmPeople::MakeMenu() {
   mnuDeleteCustomer_ = mnuMenu_->addAction(u"Delete this customer"_s, this, &frmPeople::DeletePerson);
   mnuJobsDummy_ = MenuBar()->addMenu(u"Jobs"_s);
   mnuJobsDummy_->addAction(u"Review jobs"_s)->setEnabled(false);
-  mnuJobsDummy_->addAction(u"Start new job"_s)->setEnabled(false);
+  mnuNewJob_ = mnuJobsDummy_->addAction(u"Start new job"_s, this, [this] { StartNewJob(current_, 0, 0, Today()); });
   mnuExit_ = MenuBar()->addAction(u"Exit"_s, this, &frmPeople::Cancel);
 }
 
@@ -178,6 +180,7 @@ void frmPeople::ShowState() {
   for (QPushButton* button : {ui_->cmdEdit, ui_->cmdDelete}) button->setEnabled(shown);
   mnuEditCustomer_->setEnabled(shown);
   mnuDeleteCustomer_->setEnabled(shown);
+  mnuNewJob_->setEnabled(shown);
   ui_->chkRigger->setEnabled(shown);
   for (QPushButton* button : {ui_->cmdSearch, ui_->cmdAddNew, ui_->cmdExit}) button->setEnabled(!locked_);
   for (QPushButton* button : {ui_->cmdNext, ui_->cmdPrev, ui_->cmdRigs}) button->setEnabled(!locked_ && shown);

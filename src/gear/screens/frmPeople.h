@@ -55,6 +55,7 @@ class frmPeople : public Form {
   QAction* mnuExit_ = nullptr;
   QAction* mnuEditCustomer_ = nullptr;
   QAction* mnuDeleteCustomer_ = nullptr;
+  QAction* mnuNewJob_ = nullptr;
   int start_ = 0;
   int current_ = -1;
   bool ownerSetup_ = false;

@@ -16,6 +16,7 @@
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/person_names.h"
+#include "gear/person_record.h"
 #include "gear/rig_rules.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
@@ -530,6 +531,22 @@ class TestRigScreens : public QObject {
     touched.removeAll(u"+tblMisc|0"_s);
     touched.removeAll(u"-tblMisc|0"_s);
     QCOMPARE(touched, QStringList({u"-tblPeople|2"_s, u"-tblRigTypes|2"_s, u"-tblRig|3"_s}));
+  }
+
+  void StartsAJobOnTheRig() {
+    Gear gear;
+    SetRiggerFlag(gear.bob, true);
+    SetDefaultRigger(gear.bob);
+    const QStringList before = gear.loft.Snapshot();
+    ScriptedPrompts prompts;
+    ScreenScript screens;
+    screens.WhenShown(u"frmGetRig"_s, [](Form& form) {
+      ChooseMenu(form, {u"Jobs"_s, u"Start new job"_s});
+      Click(form, u"cmdExit"_s);
+    });
+    screens.WhenShown(u"frmNewJob"_s, [](Form& form) { PressKey(form, Qt::Key_Escape); });
+    ShowRigs({.customer = gear.ann});
+    QCOMPARE(gear.loft.ChangesSince(before).filter(u"tblJobs"_s), QStringList());
   }
 
   void PicksARig() {
