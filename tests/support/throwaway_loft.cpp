@@ -70,6 +70,8 @@ QByteArray EmptyLoft() {
 
 }  // namespace
 
+QStringList RowsOfFile(const QString& path, const QString& sql) { return PlainConnection(path).Rows(sql); }
+
 ThrowAwayLoft::ThrowAwayLoft() : connectionBefore_(ConnectionString) {
   static const QByteArray empty = EmptyLoft();
   ReleaseDatabaseFile();

@@ -8,6 +8,10 @@
 #include "core/value.h"
 #include "support/temp_folder.h"
 
+/// What a connection of the test's own reads from a database file, so that it sees what lies in the file and not what
+/// the program remembers; see ThrowAwayLoft::Rows.
+QStringList RowsOfFile(const QString& path, const QString& sql);
+
 /// An empty loft with the program's own rows, in a database file that goes with the test. The shared connection points
 /// to it for its lifetime.
 ///
