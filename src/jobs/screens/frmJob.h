@@ -81,6 +81,8 @@ class frmJob : public Form {
   void DeleteThisJob();
   void Locate(int pickerType);
   void ShowInvoice();
+  void ShowThisRig();
+  void EditSelectedComponent();
 
   std::unique_ptr<Ui::frmJob> ui_;
   QLineEdit* txtAny_;  ///< laid over the label that is edited

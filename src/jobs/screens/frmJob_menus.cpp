@@ -5,6 +5,8 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "gear/rigs.h"
+#include "gear/screens.h"
 #include "jobs/completion.h"
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
@@ -28,7 +30,11 @@ void frmJob::BuildMenus() {
   QMenuBar* bar = MenuBar();
   QMenu* jobs = bar->addMenu(u"&Jobs"_s);
   QMenu* start = jobs->addMenu(u"Start new job"_s);
-  AddMissing(start, u"New job, select rig"_s);
+  start->addAction(u"New job, select rig"_s, this, [] {
+    int rig = 0;
+    int customer = 0;
+    if (PickRig(rig, customer)) StartNewJob(RigOwner(rig), rig, 0, Today());
+  });
   start->addAction(u"New job, no rig"_s, this, [] {
     const Picked picked = PickItem(kPickCustomer);
     int jobID = 0;
@@ -69,11 +75,17 @@ void frmJob::BuildMenus() {
   locate->addAction(u"locate by job name"_s, this, [this] { Locate(kPickJob); });
 
   QMenu* rig = bar->addMenu(u"&Rig"_s);
-  for (const QString& text : {u"Create a new rig"_s, u"Add an existing rig to this job"_s, u"Show this rig"_s,
-                              u"Show all rigs"_s, u"Install component in rig"_s, u"Remove component from rig"_s})
-    AddMissing(rig, text);
+  AddMissing(rig, u"Create a new rig"_s);
+  AddMissing(rig, u"Add an existing rig to this job"_s);
+  rig->addAction(u"Show this rig"_s, this, &frmJob::ShowThisRig);
+  rig->addAction(u"Show all rigs"_s, this, [this] {
+    ShowRigs();
+    ReloadForm();
+  });
+  AddMissing(rig, u"Install component in rig"_s);
+  AddMissing(rig, u"Remove component from rig"_s);
   QMenu* component = bar->addMenu(u"&Component"_s);
-  AddMissing(component, u"Edit selected component"_s);
+  component->addAction(u"Edit selected component"_s, this, &frmJob::EditSelectedComponent);
   AddMissing(component, u"Add a component"_s);
   bar->addMenu(u"&Invoice"_s)->addAction(u"View/Print/Email invoice"_s, this, &frmJob::ShowInvoice);
   AddMissing(bar->addMenu(u"&Schedule"_s), u"Show schedule"_s);
@@ -122,4 +134,26 @@ void frmJob::ShowInvoice() {
               u"Job is not complete"_s))
     return;
   DoReport(u"invoice"_s, job_.jobID);
+}
+
+void frmJob::ShowThisRig() {
+  if (job_.rigID == 0) {
+    MsgBox(u"There is no rig for this job"_s, u"No Rig"_s);
+    return;
+  }
+  if (!RigExists(job_.rigID)) {
+    MsgBox(u"The rig for this job has been deleted"_s, u"Can't show rig"_s);
+    return;
+  }
+  ShowRigs({.customer = RigOwner(job_.rigID), .rig = job_.rigID});
+  ReloadForm();
+}
+
+void frmJob::EditSelectedComponent() {
+  const int component = ui_->grid->RowData(ui_->grid->CurrentRow());
+  if (component == 0) {
+    MsgBox(u"You must select a component from the above grid"_s, u"Edit selected component"_s);
+    return;
+  }
+  if (EditComponent(component) != 0) LoadSystemInfo();
 }

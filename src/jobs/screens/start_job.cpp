@@ -7,6 +7,7 @@
 #include "gear/locations.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
+#include "gear/screens.h"
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
 #include "jobs/screens.h"
@@ -56,19 +57,22 @@ struct Gear {
   int components = 0;
 };
 
-/// Asks what the job is performed on; false to leave with nothing done. Choosing among several rigs and choosing a
-/// component are off as long as the screens that do so are missing.
+/// Asks what the job is performed on; false to leave with nothing done. Choosing a component is off as long as the
+/// screen that does so is missing.
 bool ChooseGear(int customerID, const Gear& gear, int& rigID, int& componentID) {
   auto& form = SharedForm<frmJobTypeSelect>();
   form.SetCustomer(PersonDisplayName(customerID), RigOption(rigID, gear.rigs));
-  form.SetRigEnabled(rigID != 0);
+  form.SetRigEnabled(gear.rigs > 0);
   form.SetComponentEnabled(false);
-  form.Choose(rigID != 0 ? frmJobTypeSelect::kRig : frmJobTypeSelect::kNeither);
+  form.Choose(gear.rigs > 0 ? frmJobTypeSelect::kRig : frmJobTypeSelect::kNeither);
   form.ShowModal();
   const bool chosen = form.Tag() != "cancel"_L1;
-  if (form.Chosen() == frmJobTypeSelect::kNeither) rigID = componentID = 0;
+  const frmJobTypeSelect::Choice choice = form.Chosen();
   form.UnloadForm();
-  return chosen;
+  if (chosen && choice == frmJobTypeSelect::kNeither) rigID = componentID = 0;
+  if (!chosen || choice != frmJobTypeSelect::kRig || rigID != 0) return chosen;
+  int owner = customerID;
+  return PickRig(rigID, owner);
 }
 
 }  // namespace

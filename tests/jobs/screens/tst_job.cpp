@@ -583,6 +583,47 @@ class TestJob : public QObject {
     shop.Choose(u"Invoice"_s, u"View/Print/Email invoice"_s);
   }
 
+  void TheRigIsShown() {
+    OpenJob shop;
+    int shown = 0;
+    shop.screens.WhenShown(u"frmGetRig"_s, [&](Form& form) {
+      auto& rigs = Control<List>(form, u"lstGear"_s);
+      shown = rigs.ItemData(rigs.ListIndex());
+      form.reject();
+    });
+    shop.Choose(u"Rig"_s, u"Show this rig"_s);
+    QCOMPARE(shown, shop.rig);
+    shop.loft.Run(u"delete * from tblRig"_s);
+    shop.prompts.ExpectBox(u"Can't show rig"_s, u"The rig for this job has been deleted"_s);
+    shop.Choose(u"Rig"_s, u"Show this rig"_s);
+    const int loose = shop.AddJob("Loose", 0, 0);
+    GotoJob(loose);
+    shop.prompts.ExpectBox(u"No Rig"_s, u"There is no rig for this job"_s);
+    shop.Choose(u"Rig"_s, u"Show this rig"_s);
+  }
+
+  void ANewJobStartsOnAPickedRig() {
+    OpenJob shop;
+    shop.screens.WhenShown(u"frmPickRig"_s, [&](Form& form) {
+      auto& rigs = Control<List>(form, u"lstGear"_s);
+      rigs.SetListIndex(rigs.FindData(shop.rig));
+      Click(form, u"cmdSelect"_s);
+    });
+    shop.screens.WhenShown(u"frmNewJob"_s, [](Form& form) { Click(form, u"cmdOK"_s); });
+    ChooseMenu(shop.Screen(), {u"Jobs"_s, u"Start new job"_s, u"New job, select rig"_s});
+    QCOMPARE(shop.Label("lblJob"), u"Blue 3/15/2026"_s);
+    QCOMPARE(shop.Label("lblSystem"), u"Blue"_s);
+  }
+
+  void TheSelectedComponentIsEdited() {
+    OpenJob shop;
+    shop.prompts.ExpectBox(u"Edit selected component"_s, u"You must select a component from the above grid"_s);
+    shop.Choose(u"Component"_s, u"Edit selected component"_s);
+    Control<Grid>(shop.Screen(), u"Grid"_s).SelectRow(3);
+    shop.screens.WhenShown(u"frmComponentEdit"_s, [](Form& form) { form.reject(); });
+    shop.Choose(u"Component"_s, u"Edit selected component"_s);
+  }
+
   void ExitHidesTheScreenAndKeepsItLoaded() {
     OpenJob shop;
     Click(shop.Screen(), u"cmdExit"_s);

@@ -1,6 +1,7 @@
 #include <QRadioButton>
 #include <QTest>
 
+#include "core/widgets/list.h"
 #include "jobs/sample_job.h"
 #include "jobs/screens.h"
 #include "support/screens/controls.h"
@@ -177,15 +178,29 @@ class TestStartJob : public QObject {
              (QStringList{u"On the rig|%1"_s.arg(shop.rig), u"On neither|0"_s}));
   }
 
-  void SeveralRigsAreCounted() {
+  void AmongSeveralRigsOneIsPicked() {
     SampleRig shop;
-    shop.loft.Add("tblRig", {{"OwnerID", shop.owner}, {"TypeID", 1}, {"rigAlias", "Red"}});
+    const int red = shop.loft.Add("tblRig", {{"OwnerID", shop.owner}, {"TypeID", 1}, {"rigAlias", "Red"}});
     ScreenScript screens;
-    screens.WhenShown(u"frmJobTypeSelect"_s, [](Form& form) {
-      QCOMPARE(TextOf(form, u"optRig"_s), u"Rig (has 2, select from list)"_s);
-      Click(form, u"cmdCancel"_s);
-    });
+    const auto chooseRig = [&] {
+      screens.WhenShown(u"frmJobTypeSelect"_s, [](Form& form) {
+        QCOMPARE(TextOf(form, u"optRig"_s), u"Rig (has 2, select from list)"_s);
+        Click(form, u"cmdOK"_s);
+      });
+    };
+    chooseRig();
+    screens.WhenShown(u"frmPickRig"_s, [](Form& form) { Click(form, u"cmdCancel"_s); });
     QVERIFY(!StartNewJob(shop.owner, 0, 0, Date()));
+    QCOMPARE(Counts(shop), u"0|0"_s);
+    chooseRig();
+    screens.WhenShown(u"frmPickRig"_s, [&](Form& form) {
+      auto& rigs = Control<List>(form, u"lstGear"_s);
+      rigs.SetListIndex(rigs.FindData(red));
+      Click(form, u"cmdSelect"_s);
+    });
+    NameIt(screens, u"On red"_s);
+    QVERIFY(StartNewJob(shop.owner, 0, 0, Date()));
+    QCOMPARE(shop.loft.Rows(u"select JobTitle, SystemID from tblJobs"_s), QStringList(u"On red|%1"_s.arg(red)));
   }
 
   void ACustomerWithNothingIsAskedFor() {
