@@ -4,8 +4,6 @@
 #include "core/connection.h"
 #include "core/prompts.h"
 #include "core/screens.h"
-#include "core/screens/program_icon.h"
-#include "core/screens/start_up.h"
 #include "core/trap.h"
 #include "core/widgets/qt_prompts.h"
 #include "core/widgets/theme.h"

@@ -3,7 +3,7 @@
 #include <QEvent>
 
 #include "core/connection.h"
-#include "core/screens/program_icon.h"
+#include "core/screens.h"
 #include "core/splash_info.h"
 #include "core/trap.h"
 

@@ -1,4 +1,4 @@
-#include "core/screens/program_icon.h"
+#include "core/screens.h"
 
 QIcon ProgramIcon() {
   Q_INIT_RESOURCE(resources);  // a static library's resources wait to be asked for

@@ -1,10 +1,8 @@
 #pragma once
+#include "core/screens.h"  // SubMain, the entry
 
 /// The road from the process's entry to the home screens, for a loft with a good database, for a new one, and for one
 /// whose files have suffered.
-
-/// Entry. True when the home screens are on show; false when the process must end.
-bool SubMain();
 
 /// Lets go of the data folder, which one process has to itself from the start on.
 void LeaveDataFolder();

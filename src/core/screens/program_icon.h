@@ -1,5 +1,0 @@
-#pragma once
-#include <QIcon>
-
-/// The program's own icon, drawn at any size.
-QIcon ProgramIcon();
