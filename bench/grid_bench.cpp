@@ -1,26 +1,16 @@
 // A list of 100,000 rows of six columns: filling, sorting and the first picture, beside the toolkit's own item model
 // and a plain sort of the same texts.
-#include <QApplication>
 #include <QStandardItemModel>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/application.h"
 #include "core/widgets/grid.h"
 
 namespace {
 
 constexpr int kRows = 100000;
 constexpr int kColumns = 6;
-
-/// Lives to the end of the process: the toolkit does not outlast its own statics.
-void App() {
-  static int argc = 1;
-  static char name[] = "loft_bench";
-  static char* argv[] = {name, nullptr};
-  if (QCoreApplication::instance()) return;
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  new QApplication(argc, argv);
-}
 
 /// Names in no order, as a list of owners has them.
 const std::vector<QString>& Names() {
@@ -54,7 +44,7 @@ std::vector<GridRow> Rows() {
 }
 
 void GridFill(benchmark::State& state) {
-  App();
+  BenchApplication();
   Grid grid;
   grid.SetColumns(Columns());
   grid.resize(800, 600);
@@ -66,7 +56,7 @@ void GridFill(benchmark::State& state) {
 }
 
 void GridFillLazily(benchmark::State& state) {
-  App();
+  BenchApplication();
   Grid grid;
   grid.SetColumns(Columns());
   grid.resize(800, 600);
@@ -79,7 +69,7 @@ void GridFillLazily(benchmark::State& state) {
 }
 
 void ItemModelFill(benchmark::State& state) {
-  App();
+  BenchApplication();
   QTableView view;
   view.resize(800, 600);
   view.show();
@@ -97,7 +87,7 @@ void ItemModelFill(benchmark::State& state) {
 }
 
 void GridSortText(benchmark::State& state) {
-  App();
+  BenchApplication();
   Grid grid;
   grid.SetColumns(Columns());
   grid.resize(800, 600);

@@ -36,5 +36,8 @@ void InstallStandByNotice();
 /// on show; false when the process must end.
 bool SubMain();
 
+/// Cascades all loaded forms behind the floating menu, in load order.
+void ArrangeForms();
+
 /// The program's own icon, drawn at any size.
 QIcon ProgramIcon();

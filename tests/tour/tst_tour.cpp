@@ -284,6 +284,10 @@ class Tour : public QObject {
     QCOMPARE(Rows(u"select FlatRate from tblTasks"_s), QStringList{u"755000"_s});
     isComplete();
     Picture(job, u"16-job-complete"_s);
+    ChooseMenu(job, {u"Forms"_s, u"Arrange forms"_s});
+    QCOMPARE(SharedForm<frmMenu>().pos(), QPoint(0, 0));
+    QCOMPARE(Home().pos().y(), 0);
+    QVERIFY(job.pos().y() > Home().pos().y());
   }
 
   void TheInvoiceIsPrinted() {

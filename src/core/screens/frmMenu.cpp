@@ -1,7 +1,7 @@
 #include "core/screens/frmMenu.h"
 
-#include <QEvent>
 #include <QListWidget>
+#include <QShowEvent>
 
 #include "core/connection.h"
 #include "core/screens/home_commands.h"
@@ -41,4 +41,9 @@ void frmMenu::Cancel() { ExitProgram(this); }
 void frmMenu::changeEvent(QEvent* event) {
   Form::changeEvent(event);
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) CloseLeftOpenConnection();
+}
+
+void frmMenu::showEvent(QShowEvent* event) {
+  Form::showEvent(event);
+  if (!event->spontaneous()) move(0, 0);
 }

@@ -18,6 +18,7 @@ class frmMenu : public Form {
  protected:
   void Cancel() override;
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void Choose(int row);

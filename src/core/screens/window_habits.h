@@ -1,10 +1,10 @@
 #pragma once
+#include "core/screens.h"  // ArrangeForms
+
 class Form;
 
 /// How a person moves among the screens that stand beside each other, and leaves them all.
 
-/// Cascades all loaded forms behind the floating menu, in load order.
-void ArrangeForms();
 /// Unloads every form but the floating menu and the home page, then shows the floating menu.
 void HideForms();
 /// Unloads every form but the home page, then shows the floating menu.

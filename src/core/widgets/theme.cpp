@@ -66,6 +66,12 @@ class LoftStyle : public QProxyStyle {
     }
   }
 
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;  // boxes look like the screens
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override {
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);

@@ -85,7 +85,7 @@ void frmGetRig::MakeMenu() {
   auto* types = MenuBar()->addMenu(u"Rig Types"_s);
   types->addAction(u"Display all rig types"_s, this, [this] { ui_->browser->SetRigTypeFilter(0); });
   types->addAction(u"Display selected rig type only"_s, this, &frmGetRig::FilterByType);
-  later(MenuBar()->addMenu(u"Forms"_s), u"Arrange forms"_s);
+  MenuBar()->addMenu(u"Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
   changes_ << MenuBar()->addAction(u"Comments"_s, this, &frmGetRig::EditRigComments);
   MenuBar()->addAction(u"Print/Email"_s)->setEnabled(false);
   MenuBar()->addAction(u"Exit"_s, this, &frmGetRig::Cancel);

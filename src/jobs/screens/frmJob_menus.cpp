@@ -90,7 +90,7 @@ void frmJob::BuildMenus() {
   bar->addMenu(u"&Invoice"_s)->addAction(u"View/Print/Email invoice"_s, this, &frmJob::ShowInvoice);
   AddMissing(bar->addMenu(u"&Schedule"_s), u"Show schedule"_s);
   AddMissing(bar->addMenu(u"&History"_s), u"Show history"_s);
-  AddMissing(bar->addMenu(u"&Forms"_s), u"Arrange forms"_s);
+  bar->addMenu(u"&Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
 
   QMenu* tools = bar->addMenu(u"T&ools"_s);
   AddMissing(tools, u"Update rig component to match this job's components"_s);

@@ -197,6 +197,8 @@ class HomeTest : public QObject {
                                    u"Hide forms"_s, u"Exit Loftkeep!"_s}));
     QVERIFY(!(list.item(2)->flags() & Qt::ItemIsEnabled));
     QCOMPARE(menu.windowTitle(), u"Menu"_s);
+    menu.Show();
+    QCOMPARE(menu.pos(), QPoint(0, 0));
   }
 
   void TheFloatingMenuBringsTheHomePage() {

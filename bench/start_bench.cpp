@@ -1,0 +1,75 @@
+#include <QApplication>
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include "bench/application.h"
+#include "bench/loft_generator.h"
+#include "core/connection.h"
+#include "core/data_folder.h"
+#include "core/forms.h"
+#include "core/screens.h"
+#include "core/screens/start_up.h"
+#include "core/screens/window_habits.h"
+
+// From the program's entry to the painted home page, on the loft of the benchmarks, and what the process holds then.
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Sees the first painting of the home page.
+class FirstPaint : public QObject {
+ public:
+  FirstPaint() { qApp->installEventFilter(this); }
+  bool Seen() const { return seen_; }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint && watched->objectName() == "frmMain2"_L1) seen_ = true;
+    return false;
+  }
+
+ private:
+  bool seen_ = false;
+};
+
+/// Megabytes of memory that the process has in use.
+double ResidentMegabytes() {
+  QFile status(u"/proc/self/status"_s);
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  for (const QByteArray& line : status.readAll().split('\n'))
+    if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').first().toDouble() / 1024;
+  return 0;
+}
+
+void StartToPaintedHomePage(benchmark::State& state) {
+  BenchApplication();
+  UseBenchmarkLoft();
+  const QTemporaryDir home;
+  qputenv("XDG_DATA_HOME", home.path().toUtf8());
+  const QString source = DatabasePath();
+  ReleaseDatabaseFile();
+  SetDataFolder();
+  QDir().mkpath(DataPath + u"support"_s);
+  QFile::copy(source, DatabaseFile());
+  QFile::copy(source, SupportFile(u"blank.mdb"_s));  // a file that is there; nobody is here to read the box about it
+  double resident = 0;
+  for (auto _ : state) {
+    const FirstPaint paint;
+    SubMain();
+    while (!paint.Seen()) QCoreApplication::processEvents();
+    state.PauseTiming();
+    resident = ResidentMegabytes();
+    UnloadAllForms();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ReleaseDatabaseFile();
+    LeaveDataFolder();
+    state.ResumeTiming();
+  }
+  state.counters["resident MB"] = resident;
+}
+BENCHMARK(StartToPaintedHomePage)->Unit(benchmark::kMillisecond);
+
+}  // namespace
