@@ -1,5 +1,6 @@
 // A list of 100,000 rows of six columns: filling, sorting and the first picture, beside the toolkit's own item model
 // and a plain sort of the same texts.
+#include <QApplication>
 #include <QStandardItemModel>
 
 #include <benchmark/benchmark.h>
