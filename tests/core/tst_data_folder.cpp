@@ -7,6 +7,7 @@
 #include "core/data_folder.h"
 #include "core/files.h"
 #include "core/splash_info.h"
+#include "support/data_home.h"
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
@@ -37,23 +38,14 @@ class DataFolderTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void init() {
-    folder_ = std::make_unique<TempFolder>();
-    before_ = QDir::currentPath();
-    QDir::setCurrent(folder_->MakeFolder(u"program"_s));
-    qputenv("XDG_DATA_HOME", folder_->MakeFolder(u"home"_s).toUtf8());
-    SetDataFolder();
-  }
-  void cleanup() {
-    QDir::setCurrent(before_);
-    folder_.reset();
-  }
+  void init() { home_ = std::make_unique<DataHome>(); }
+  void cleanup() { home_.reset(); }
 
   void LiesInTheCommonDataFolder() {
-    QCOMPARE(SpecialFolder, *folder_ / u"home"_s);
-    QCOMPARE(DataPath, *folder_ / u"home/loftkeep/"_s);
-    QCOMPARE(DatabaseFile(), *folder_ / u"home/loftkeep/loftkeep.mdb"_s);
-    QCOMPARE(SupportFile(u"x.txt"_s), *folder_ / u"home/loftkeep/support/x.txt"_s);
+    QCOMPARE(SpecialFolder, Folder() / u"home"_s);
+    QCOMPARE(DataPath, Folder() / u"home/loftkeep/"_s);
+    QCOMPARE(DatabaseFile(), Folder() / u"home/loftkeep/loftkeep.mdb"_s);
+    QCOMPARE(SupportFile(u"x.txt"_s), Folder() / u"home/loftkeep/support/x.txt"_s);
   }
 
   void ItsFoldersAreMadeOnce() {
@@ -67,7 +59,7 @@ class DataFolderTest : public QObject {
   }
 
   void AFolderThatCantBeMadeIsNamed() {
-    folder_->Write(u"home/loftkeep/photos"_s, "a file in the way");
+    Folder().Write(u"home/loftkeep/photos"_s, "a file in the way");
     ScriptedPrompts prompts;
     for (const QString& name : {u"photos"_s, u"photos/thumbnail"_s, u"photos/hires"_s, u"photos/archive"_s})
       prompts.ExpectBox(DataPath + name, u"Unable to create new folder - Sub CreateFolder()"_s);
@@ -78,14 +70,14 @@ class DataFolderTest : public QObject {
   void TheEmptyDatabaseIsCopiedWhenItIsMissing() {
     ScriptedPrompts prompts;
     CreateSubFolders();
-    folder_->Write(u"program/blank.mdb"_s, "first");
+    Folder().Write(u"work/blank.mdb"_s, "first");
     CheckBlankmb();
-    QCOMPARE(folder_->Read(u"home/loftkeep/support/blank.mdb"_s), QByteArray("first"));
-    folder_->Write(u"program/blank.mdb"_s, "second");
+    QCOMPARE(Folder().Read(u"home/loftkeep/support/blank.mdb"_s), QByteArray("first"));
+    Folder().Write(u"work/blank.mdb"_s, "second");
     CheckBlankmb();
-    QCOMPARE(folder_->Read(u"home/loftkeep/support/blank.mdb"_s), QByteArray("first"));
+    QCOMPARE(Folder().Read(u"home/loftkeep/support/blank.mdb"_s), QByteArray("first"));
     QVERIFY(QFile::remove(SupportFile(u"blank.mdb"_s)));
-    QVERIFY(QFile::remove(*folder_ / u"program/blank.mdb"_s));
+    QVERIFY(QFile::remove(Folder() / u"work/blank.mdb"_s));
     prompts.ExpectBox(u"sub CheckBlankmb"_s, u"file 'blank.mdb' not found"_s);
     CheckBlankmb();
   }
@@ -96,18 +88,18 @@ class DataFolderTest : public QObject {
     CreateSubFolders();
     CheckHelpFile();
     QVERIFY(!ExistFile(SupportFile(u"helptext.txt"_s)));
-    const QString source = folder_->Write(u"program/helptext.txt"_s, "first");
+    const QString source = Folder().Write(u"work/helptext.txt"_s, "first");
     CheckHelpFile();
-    QCOMPARE(folder_->Read(u"home/loftkeep/support/helptext.txt"_s), QByteArray("first"));
+    QCOMPARE(Folder().Read(u"home/loftkeep/support/helptext.txt"_s), QByteArray("first"));
     CheckHelpFile();
-    folder_->Write(u"program/helptext.txt"_s, "second");
+    Folder().Write(u"work/helptext.txt"_s, "second");
     SetFileTime(source, QDateTime::currentDateTime().addSecs(60));
     prompts.ExpectBox(u"Loftkeep"_s, u"Help files have been updated"_s).Meanwhile([] { QVERIFY(!ConnectionIsOpen); });
     ConnectionStart();
     CheckHelpFile();
     QVERIFY(ConnectionIsOpen);
     ConnectionClose();
-    QCOMPARE(folder_->Read(u"home/loftkeep/support/helptext.txt"_s), QByteArray("second"));
+    QCOMPARE(Folder().Read(u"home/loftkeep/support/helptext.txt"_s), QByteArray("second"));
   }
 
   void TheSplashCountsTheLoft() {
@@ -151,8 +143,9 @@ class DataFolderTest : public QObject {
   }
 
  private:
-  std::unique_ptr<TempFolder> folder_;
-  QString before_;
+  const TempFolder& Folder() const { return home_->Folder(); }
+
+  std::unique_ptr<DataHome> home_;
 };
 
 QTEST_GUILESS_MAIN(DataFolderTest)

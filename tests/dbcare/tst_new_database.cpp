@@ -1,4 +1,3 @@
-#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -7,8 +6,8 @@
 #include "core/files.h"
 #include "dbcare/check_fields.h"
 #include "dbcare/new_database.h"
+#include "support/data_home.h"
 #include "support/scripted_prompts.h"
-#include "support/temp_folder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,19 +16,10 @@ class NewDatabaseTest : public QObject {
 
  private Q_SLOTS:
   void init() {
-    folder_ = std::make_unique<TempFolder>();
-    before_ = QDir::currentPath();
-    QDir::setCurrent(folder_->MakeFolder(u"program"_s));
-    qputenv("XDG_DATA_HOME", folder_->MakeFolder(u"home"_s).toUtf8());
-    SetDataFolder();
+    home_ = std::make_unique<DataHome>();
     CreateSubFolders();
   }
-  void cleanup() {
-    if (ConnectionIsOpen) ConnectionClose();
-    ReleaseDatabaseFile();
-    QDir::setCurrent(before_);
-    folder_.reset();
-  }
+  void cleanup() { home_.reset(); }
 
   void WithoutAnEmptyDatabaseTheSchemaMakesOne() {
     ScriptedPrompts prompts;
@@ -54,7 +44,7 @@ class NewDatabaseTest : public QObject {
 
   void TellsAValidDatabase() {
     ScriptedPrompts prompts;
-    const QString good = *folder_ / u"good.mdb"_s;
+    const QString good = Folder() / u"good.mdb"_s;
     MakeDatabase(good, u"Lee"_s);
     QVERIFY(IsValidDatabase(good));
     ConnectionString = ConnectionStringFor(good);
@@ -65,15 +55,15 @@ class NewDatabaseTest : public QObject {
     }
     QVERIFY(!IsValidDatabase(good));
     QCOMPARE(DatabasePath(), good);
-    QVERIFY(!IsValidDatabase(folder_->Write(u"words.mdb"_s, "no database at all")));
-    QVERIFY(!IsValidDatabase(*folder_ / u"missing.mdb"_s));
+    QVERIFY(!IsValidDatabase(Folder().Write(u"words.mdb"_s, "no database at all")));
+    QVERIFY(!IsValidDatabase(Folder() / u"missing.mdb"_s));
   }
 
   void BackupsAreNumberedAboveTheHighest() {
     ScriptedPrompts prompts;
     QCOMPARE(NextDBfile(), u"db00001.mdb"_s);
     for (const char* name : {"db00001.mdb", "db00007.mdb", "db000099.mdb", "db0009.mdb", "xx00050.mdb", "db00060.txt"})
-      folder_->Write(u"home/loftkeep/backup/"_s + QString::fromLatin1(name), "x");
+      Folder().Write(u"home/loftkeep/backup/"_s + QString::fromLatin1(name), "x");
     QCOMPARE(NextDBfile(), u"db00008.mdb"_s);
   }
 
@@ -83,7 +73,7 @@ class NewDatabaseTest : public QObject {
     QString name;
     MakeBackupCopy(false, name);
     QCOMPARE(name, u"db00001.mdb"_s);
-    QCOMPARE(folder_->Read(u"home/loftkeep/backup/db00001.mdb"_s), folder_->Read(u"home/loftkeep/loftkeep.mdb"_s));
+    QCOMPARE(Folder().Read(u"home/loftkeep/backup/db00001.mdb"_s), Folder().Read(u"home/loftkeep/loftkeep.mdb"_s));
     MakeBackupCopy(true, name);
     QCOMPARE(name, u"db00002.mdb"_s);
     QVERIFY(!ExistFile(DatabaseFile()));
@@ -93,7 +83,7 @@ class NewDatabaseTest : public QObject {
   void AFileIsInstalledAfterABackup() {
     ScriptedPrompts prompts;
     MakeDatabase(DatabaseFile(), u"Old"_s);
-    const QString other = *folder_ / u"other.mdb"_s;
+    const QString other = Folder() / u"other.mdb"_s;
     MakeDatabase(other, u"New"_s);
     ConnectionString = ConnectionStringFor(other);
     {
@@ -117,13 +107,13 @@ class NewDatabaseTest : public QObject {
   void AnInvalidOrMissingFileChangesNothing() {
     ScriptedPrompts prompts;
     MakeDatabase(DatabaseFile(), u"Old"_s);
-    const QByteArray before = folder_->Read(u"home/loftkeep/loftkeep.mdb"_s);
-    const QString words = folder_->Write(u"words.mdb"_s, "no database at all");
+    const QByteArray before = Folder().Read(u"home/loftkeep/loftkeep.mdb"_s);
+    const QString words = Folder().Write(u"words.mdb"_s, "no database at all");
     prompts.ExpectBox(u"Invalid file"_s, words + u" is NOT a valid Loftkeep database file"_s);
     QVERIFY(!InstallDatabaseFile(words));
     prompts.ExpectBox(u"File doesn't exist"_s, words + u"x"_s);
     QVERIFY(!InstallDatabaseFile(words + u"x"_s));
-    QCOMPARE(folder_->Read(u"home/loftkeep/loftkeep.mdb"_s), before);
+    QCOMPARE(Folder().Read(u"home/loftkeep/loftkeep.mdb"_s), before);
     QCOMPARE(NextDBfile(), u"db00001.mdb"_s);
   }
 
@@ -137,8 +127,9 @@ class NewDatabaseTest : public QObject {
     ConnectionString = before.isEmpty() ? ConnectionStringFor(path) : before;
   }
 
-  std::unique_ptr<TempFolder> folder_;
-  QString before_;
+  const TempFolder& Folder() const { return home_->Folder(); }
+
+  std::unique_ptr<DataHome> home_;
 };
 
 QTEST_GUILESS_MAIN(NewDatabaseTest)

@@ -14,8 +14,8 @@
 #include "core/widgets/screen_routines.h"
 #include "dbcare/check_fields.h"
 #include "dbcare/new_database.h"
+#include "support/data_home.h"
 #include "support/screens/controls.h"
-#include "support/screens/data_home.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
 
