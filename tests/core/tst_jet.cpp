@@ -86,7 +86,7 @@ class JetTest : public QObject {
   /// Every statement that the program's routines write is accepted as it stands, against the whole schema.
   void AcceptsEveryStatementOfTheProgram_data() {
     QTest::addColumn<QString>("statement");
-    QFile file(QFINDTESTDATA("data/statements.txt"));
+    QFile file(QFINDTESTDATA("core/data/statements.txt"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     for (const QByteArray& line : file.readAll().split('\n'))
       if (!line.isEmpty()) QTest::newRow(line.constData()) << QString::fromUtf8(line);

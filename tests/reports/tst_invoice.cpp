@@ -127,8 +127,9 @@ class TestInvoice : public QObject {
 
   void TheWholeInvoice() {
     const Pages pages = Print(WholeLoft().job);
-    QVERIFY(IsGolden(QFINDTESTDATA("golden/invoice-whole-page.txt"), u"invoice-whole-page.txt"_s, PagesAsText(pages)));
-    QVERIFY(IsGolden(QFINDTESTDATA("golden/invoice-whole-html.txt"), u"invoice-whole-html.txt"_s, Html()));
+    QVERIFY(IsGolden(QFINDTESTDATA("reports/golden/invoice-whole-page.txt"), u"invoice-whole-page.txt"_s,
+                     PagesAsText(pages)));
+    QVERIFY(IsGolden(QFINDTESTDATA("reports/golden/invoice-whole-html.txt"), u"invoice-whole-html.txt"_s, Html()));
   }
 
   void TheBareInvoiceTellsThatThereIsNoAddress() {
@@ -136,8 +137,9 @@ class TestInvoice : public QObject {
                         u"You haven't entered a business address yet.\nYou can do this from the main screen.\n"
                         u"(See the SETUP menu)"_s);
     const Pages pages = Print(Job(0, 0, u""_s, Date()));
-    QVERIFY(IsGolden(QFINDTESTDATA("golden/invoice-bare-page.txt"), u"invoice-bare-page.txt"_s, PagesAsText(pages)));
-    QVERIFY(IsGolden(QFINDTESTDATA("golden/invoice-bare-html.txt"), u"invoice-bare-html.txt"_s, Html()));
+    QVERIFY(IsGolden(QFINDTESTDATA("reports/golden/invoice-bare-page.txt"), u"invoice-bare-page.txt"_s,
+                     PagesAsText(pages)));
+    QVERIFY(IsGolden(QFINDTESTDATA("reports/golden/invoice-bare-html.txt"), u"invoice-bare-html.txt"_s, Html()));
   }
 
   void AnAddressOfBlanksIsNone() {
@@ -329,7 +331,7 @@ class TestInvoice : public QObject {
     QVERIFY(first.last().y > 0.9 * 15840 - 250);
     QCOMPARE(Texts(pages, 1).first().y, 0.0);
     QCOMPARE(Find(pages, u"80"_s).y, Find(pages, u"Total:"_s).y);
-    QVERIFY(IsGolden(QFINDTESTDATA("golden/invoice-two-pages.txt"), u"invoice-two-pages.txt"_s,
+    QVERIFY(IsGolden(QFINDTESTDATA("reports/golden/invoice-two-pages.txt"), u"invoice-two-pages.txt"_s,
                      PageAsText(pages.pages.at(0)) + u"\n--\n"_s + PageAsText(pages.pages.at(1)) + u'\n'));
   }
 

@@ -41,7 +41,7 @@ class Tour : public QObject {
   void initTestCase() {
     IsolateSettings();
     home_ = std::make_unique<DataHome>();
-    QVERIFY(QFile::copy(QFINDTESTDATA("../../support/models.txt"), home_->Folder() / u"work/models.txt"_s));
+    QVERIFY(QFile::copy(QFINDTESTDATA("../support/models.txt"), home_->Folder() / u"work/models.txt"_s));
     QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + u"/../src/blank.mdb"_s,
                         home_->Folder() / u"work/blank.mdb"_s));
     SetClock(Date::FromParts(2026, 3, 2));

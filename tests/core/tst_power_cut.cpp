@@ -1,0 +1,78 @@
+#include <QDir>
+#include <QTest>
+
+#include <sqlite3.h>
+
+#include "core/access.h"
+#include "core/database.h"
+#include "core/failure.h"
+#include "support/power_cut.h"
+#include "support/scripted_prompts.h"
+#include "support/store_fixture.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A bracket that writes two tables which must agree: `count` people, and the number of them as the last customer.
+void AddOnePerson(int count) {
+  Bracket bracket;
+  Recordset people(u"tblPeople"_s);
+  people.AddNew();
+  people.Set(u"LastName", QString(400 * (count % 7), u'x').left(50));
+  people.Set(u"Comment", QString(900 * (count % 5), u'x'));
+  people.Update();
+  UpdateTableBySQL(u"update tblMisc set LastCustomerID = "_s + QString::number(count));
+}
+
+int Number(Database& database, const char* statement) {
+  sqlite3_stmt* prepared = database.Plain(statement);
+  return database.Step(prepared) ? sqlite3_column_int(prepared, 0) : -1;
+}
+
+}  // namespace
+
+class PowerCutTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void WhatWasAcknowledgedIsThereAndNothingIsHalfWritten_data() {
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 4; ++seed) QTest::addRow("seed %u", seed) << seed;
+  }
+  void WhatWasAcknowledgedIsThereAndNothingIsHalfWritten() {
+    QFETCH(quint32, seed);
+    ScriptedPrompts prompts;
+    StoreFixture store;
+    UpdateTableBySQL(u"insert into tblMisc (LastCustomerID) values (0)"_s);
+    ReleaseDatabaseFile();
+
+    const QString copies = store.Folder().MakeFolder(u"copies"_s);
+    int acknowledged = 0;
+    int wrong = 0;
+    PowerCut power(copies, seed, [&](int cut) {
+      try {
+        Database after(copies + u"/loftkeep.mdb"_s);
+        const int people = Number(after, "SELECT count(*) FROM tblPeople");
+        const bool whole =
+            people == Number(after, "SELECT LastCustomerID FROM tblMisc") &&
+            Number(after, "SELECT count(*) FROM pragma_integrity_check WHERE integrity_check <> 'ok'") == 0;
+        if (whole && (people == acknowledged || people == acknowledged + 1)) return;
+        qWarning("cut %d after %d brackets leaves %d people", cut, acknowledged, people);
+      } catch (const Failure& failure) {  // none may pass through SQLite
+        qWarning("cut %d: %s", cut, failure.what());
+      }
+      ++wrong;
+    });
+    for (int count = 1; count <= 12; ++count) {
+      AddOnePerson(count);
+      acknowledged = count;
+    }
+    QVERIFY2(power.Count() > 100, qPrintable(QString::number(power.Count())));
+    QCOMPARE(wrong, 0);
+    ReleaseDatabaseFile();
+  }
+};
+
+QTEST_GUILESS_MAIN(PowerCutTest)
+#include "tst_power_cut.moc"
