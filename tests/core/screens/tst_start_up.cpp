@@ -15,6 +15,7 @@
 #include "dbcare/check_fields.h"
 #include "dbcare/new_database.h"
 #include "support/data_home.h"
+#include "support/refusing_disk.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
@@ -40,6 +41,10 @@ void MakeGoodLoft() {
   bracket.Close();
   ReleaseDatabaseFile();
 }
+
+/// Everybody may read and enter; only the owner may write.
+constexpr QFile::Permissions kReadable = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                         QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
 
 QString NotFound() {
   return u"Your database file cannot be found\n\nYou can install a backup database or create a new one\n(Press OK to continue)"_s;
@@ -188,6 +193,40 @@ class StartUpTest : public QObject {
     QVERIFY(SubMain());
     QVERIFY(Forms::IsShown(u"frmMain2"_s));
     QCOMPARE(home_->Folder().Read(u"home/loftkeep/loftkeep.mdb"_s), words);
+  }
+
+  void WhatCantBeWrittenIsShownAndEachSaveIsRefused_data() {
+    QTest::addColumn<bool>("folder");
+    QTest::newRow("the folder") << true;
+    QTest::newRow("the file") << false;
+  }
+  void WhatCantBeWrittenIsShownAndEachSaveIsRefused() {
+    QFETCH(bool, folder);
+    MakeGoodLoft();
+    home_->Folder().Write(u"home/loftkeep/support/blank.mdb"_s, "an empty database");
+    const QByteArray before = home_->Folder().Read(u"home/loftkeep/loftkeep.mdb"_s);
+    QVERIFY(QFile::setPermissions(home_->Folder().Path(), kReadable));
+    if (!folder) {
+      QVERIFY(QFile::setPermissions(DataPath, kReadable | QFile::WriteGroup | QFile::WriteOther));
+      QVERIFY(QFile::setPermissions(DatabaseFile(), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    }
+    {
+      const OrdinaryUser user;
+      ScreenScript screens;
+      ScriptedPrompts prompts;
+      QVERIFY(SubMain());
+      QVERIFY(Forms::IsShown(u"frmMain2"_s));
+      QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"ID"_s, 1, u"LastName"_s).ToText(), u"Lee"_s);
+      prompts.ExpectBox(u"Sub UpdateTable()"_s,
+                        u"Cannot update.  Database or object is read-only.\n"
+                        "The following SQL statement caused on error\n\n"
+                        "SQL = Select * from tblPeople where ID = 1\n"_s);
+      UpdateTable(u"tblPeople"_s, u"LastName"_s, u"Moe"_s, u"ID"_s, 1);
+      UnloadScreens();
+      LeaveDataFolder();
+      ReleaseDatabaseFile();
+    }
+    QCOMPARE(home_->Folder().Read(u"home/loftkeep/loftkeep.mdb"_s), before);
   }
 
   void AFailedStartCanBeginAnewOnlyAfterTwoQuestions() {
