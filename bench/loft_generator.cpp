@@ -53,10 +53,7 @@ class Generator {
   void Run() {
     Bracket bracket;
     CheckAllFields(false);
-    CheckMiscRow();
-    SetDefaultComponentTypes();
-    CreateDefaultRigTypes();
-    CreateDefaultTasks();
+    CreateDefaultRows();
     UpdateTable(u"tblTaskLib"_s, u"IntervalNumber"_s, kRepackCycle, u"ID"_s, RepackTaskLibID);
     UpdateTable(u"tblTaskLib"_s, u"FlatRate"_s, Money::Whole(75), u"ID"_s, RepackTaskLibID);
     AddModels();

@@ -181,14 +181,9 @@ void UpdateTable(const QString& tableName, const QString& fieldName, const Value
       [&] {
         Bracket bracket;
         bracket.LeaveOpenOnFailure();
-        {
-          Recordset records(statement);
-          if (RecordsetHasRows(records)) {
-            for (; !records.Eof(); records.MoveNext()) {
-              records.Set(fieldName, newValue);
-              records.Update();
-            }
-          }
+        for (Recordset& record : Rows(statement)) {
+          record.Set(fieldName, newValue);
+          record.Update();
         }
         bracket.Close();
       },
@@ -214,14 +209,9 @@ void DeleteAllRecords(const QString& tableName, bool ask) {
 void TurnOffAllLocationDefaults() {
   Trap(u"Sub TurnOffAllLocationDefaults"_s, [] {
     Bracket bracket;
-    {
-      Recordset locations(u"tblLocation"_s);
-      if (RecordsetHasRows(locations)) {
-        for (; !locations.Eof(); locations.MoveNext()) {
-          locations.Set(u"Default", false);
-          locations.Update();
-        }
-      }
+    for (Recordset& location : Rows(u"tblLocation"_s)) {
+      location.Set(u"Default", false);
+      location.Update();
     }
     bracket.Close();
   });

@@ -134,6 +134,13 @@ void CreateDefaultTasks() {
   });
 }
 
+void CreateDefaultRows() {
+  CheckMiscRow();
+  SetDefaultComponentTypes();
+  CreateDefaultRigTypes();
+  CreateDefaultTasks();
+}
+
 void CheckMiscRow() {
   Trap(u"Sub CheckMiscRow"_s, [] {
     Bracket bracket;

@@ -15,12 +15,7 @@ IdList Load(const QString& routine, const QString& statement, const TextOf& text
   IdList list;
   Trap(routine, [&] {
     Bracket bracket;
-    {
-      Recordset rows(statement);
-      if (RecordsetHasRows(rows)) {
-        for (; !rows.Eof(); rows.MoveNext()) list.Add(textOf(rows), rows[idField].ToInt());
-      }
-    }
+    for (const Recordset& row : Rows(statement)) list.Add(textOf(row), row[idField].ToInt());
     bracket.Close();
   });
   return list;

@@ -79,3 +79,32 @@ class Recordset {
 /// False when there are no rows; otherwise moves to the first one and returns true. Every reader asks this before it
 /// touches a field.
 bool RecordsetHasRows(Recordset& recordset);
+
+/// The rows of a select from the first to the last, each one the recordset that stands on it; a row may be changed or
+/// deleted on the way: `for (Recordset& rig : Rows(u"Select * from tblRig"_s))`. The recordset goes with the loop.
+class Rows {
+ public:
+  class Iterator {
+   public:
+    explicit Iterator(Recordset* recordset) : recordset_(recordset) {}
+    Recordset& operator*() const { return *recordset_; }
+    Iterator& operator++() {
+      recordset_->MoveNext();
+      return *this;
+    }
+    bool operator!=(const Iterator&) const { return !recordset_->Eof(); }
+
+   private:
+    Recordset* recordset_;
+  };
+
+  explicit Rows(const QString& source) : recordset_(source) {}
+  Iterator begin() {
+    RecordsetHasRows(recordset_);
+    return Iterator(&recordset_);
+  }
+  Iterator end() { return Iterator(&recordset_); }
+
+ private:
+  Recordset recordset_;
+};

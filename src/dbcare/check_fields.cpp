@@ -79,15 +79,10 @@ void ReportLostComponentTypes() {
   Trap(u"Sub ReportLostComponentTypes"_s, [] {
     Bracket bracket;
     QStringList lost;
-    {
-      Recordset components(u"Select * from tblComponents where TypeID =0"_s);
-      if (RecordsetHasRows(components)) {
-        for (; !components.Eof(); components.MoveNext()) {
-          const int modelId = components[u"ModelID"].ToInt();
-          const QString model = GetValueFromTable(u"tblModels"_s, u"ID"_s, modelId, u"Name"_s).ToText();
-          lost << model + u" - "_s + components[u"SubType"].ToText();
-        }
-      }
+    for (const Recordset& component : Rows(u"Select * from tblComponents where TypeID =0"_s)) {
+      const int modelId = component[u"ModelID"].ToInt();
+      const QString model = GetValueFromTable(u"tblModels"_s, u"ID"_s, modelId, u"Name"_s).ToText();
+      lost << model + u" - "_s + component[u"SubType"].ToText();
     }
     if (!lost.isEmpty())
       MsgBox(Lines(QStringList{u"The following components have lost their component type:"_s, QString()} + lost +
@@ -102,16 +97,11 @@ void ReportLostComponentTypes() {
 void FreeComponentsOfVanishedRigs() {
   Trap(u"Sub FreeComponentsOfVanishedRigs"_s, [] {
     Bracket bracket;
-    {
-      Recordset components(u"Select * from tblComponents where rigid > 0 order by rigid"_s);
-      if (RecordsetHasRows(components)) {
-        for (; !components.Eof(); components.MoveNext()) {
-          const int rig = components[u"RigID"].ToInt();
-          if (GetValueFromTable(u"tblRig"_s, u"ID"_s, rig, u"ID"_s).ToInt() == rig) continue;
-          components.Set(u"RigID", 0);
-          components.Update();
-        }
-      }
+    for (Recordset& component : Rows(u"Select * from tblComponents where rigid > 0 order by rigid"_s)) {
+      const int rig = component[u"RigID"].ToInt();
+      if (GetValueFromTable(u"tblRig"_s, u"ID"_s, rig, u"ID"_s).ToInt() == rig) continue;
+      component.Set(u"RigID", 0);
+      component.Update();
     }
     bracket.Close();
   });

@@ -60,13 +60,10 @@ QString PersonText(int id, const QString& field) {
 QList<JobLine> JobLines(int jobID) {
   QList<JobLine> lines;
   Bracket bracket;
-  {
-    Recordset tasks(u"Select * from tblTasks where JobID = "_s + QString::number(jobID) + u" order by ID"_s);
-    if (RecordsetHasRows(tasks))
-      for (; !tasks.Eof(); tasks.MoveNext())
-        lines << JobLine{tasks[u"TaskName"].ToText(), tasks[u"FlatRate"].ToMoney(), tasks[u"PartID"].ToInt() != 0,
-                         tasks[u"IsEvent"].ToBool()};
-  }
+  for (const Recordset& task :
+       Rows(u"Select * from tblTasks where JobID = "_s + QString::number(jobID) + u" order by ID"_s))
+    lines << JobLine{task[u"TaskName"].ToText(), task[u"FlatRate"].ToMoney(), task[u"PartID"].ToInt() != 0,
+                     task[u"IsEvent"].ToBool()};
   bracket.Close();
   return lines;
 }
@@ -81,12 +78,8 @@ QList<DueLine> DueLines(int rigID) {
   QList<DueLine> lines;
   if (rigID == 0) return lines;
   Bracket bracket;
-  {
-    Recordset schedules(u"Select * from tblSchedules where RigID = "_s + QString::number(rigID));
-    if (RecordsetHasRows(schedules))
-      for (; !schedules.Eof(); schedules.MoveNext())
-        lines << DueLine{DueName(schedules), schedules[u"DateDue"].ToDate()};
-  }
+  for (const Recordset& schedule : Rows(u"Select * from tblSchedules where RigID = "_s + QString::number(rigID)))
+    lines << DueLine{DueName(schedule), schedule[u"DateDue"].ToDate()};
   bracket.Close();
   return lines;
 }
@@ -95,14 +88,10 @@ QList<DueLine> LifeLines(int rigID) {
   QList<DueLine> lines;
   if (rigID == 0) return lines;
   Bracket bracket;
-  {
-    Recordset components(u"Select * from tblComponents where Rigid = "_s + QString::number(rigID));
-    if (RecordsetHasRows(components))
-      for (; !components.Eof(); components.MoveNext()) {
-        const int id = components[u"ID"].ToInt();
-        const Date expiry = ServiceLifeExpiry(id);
-        if (!expiry.IsNone()) lines << DueLine{ComponentDescription(id).trimmed(), expiry};
-      }
+  for (const Recordset& component : Rows(u"Select * from tblComponents where Rigid = "_s + QString::number(rigID))) {
+    const int id = component[u"ID"].ToInt();
+    const Date expiry = ServiceLifeExpiry(id);
+    if (!expiry.IsNone()) lines << DueLine{ComponentDescription(id).trimmed(), expiry};
   }
   bracket.Close();
   return lines;

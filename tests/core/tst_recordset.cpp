@@ -85,6 +85,26 @@ class RecordsetTest : public QObject {
     QCOMPARE(people[u"lastname"].ToText(), u"c"_s);
   }
 
+  void ALoopOverRowsWalksThemAllAndMayWrite() {
+    Bracket bracket;
+    int none = 0;
+    for (const Recordset& person : Rows(u"tblPeople"_s)) none += person[u"ID"].ToInt();
+    QCOMPARE(none, 0);
+    AddPeople({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+    for (Recordset& person : Rows(u"Select * from tblPeople order by LastName desc"_s)) {
+      const QString name = person[u"LastName"].ToText();
+      if (name == "c"_L1) continue;
+      if (name == "a"_L1) break;
+      if (name == "b"_L1) {
+        person.Delete();
+        continue;
+      }
+      person.Set(u"LastName", name + u"!"_s);
+      person.Update();
+    }
+    QCOMPARE(LastNames(u"Select * from tblPeople order by ID"_s), (QStringList{u"a"_s, u"c"_s, u"d!"_s}));
+  }
+
   void IsStatic() {
     AddPeople({u"a"_s, u"b"_s, u"c"_s});
     Bracket bracket;

@@ -59,10 +59,7 @@ QByteArray EmptyLoft() {
   ConnectionString = ConnectionStringFor(file);
   Bracket bracket;
   CheckAllFields(false);
-  CheckMiscRow();
-  SetDefaultComponentTypes();
-  CreateDefaultRigTypes();
-  CreateDefaultTasks();
+  CreateDefaultRows();
   bracket.Close();
   ReleaseDatabaseFile();
   return folder.Read(u"loftkeep.mdb"_s);

@@ -18,11 +18,9 @@ using TextOf = std::function<QString(const Recordset& row)>;
 
 /// Rows without a text are left out.
 void AddRows(IdList& list, const QString& statement, const TextOf& textOf) {
-  Recordset rows(statement);
-  if (!RecordsetHasRows(rows)) return;
-  for (; !rows.Eof(); rows.MoveNext()) {
-    const QString text = textOf(rows);
-    if (!text.isNull()) list.Add(text, rows[u"ID"].ToInt());
+  for (const Recordset& row : Rows(statement)) {
+    const QString text = textOf(row);
+    if (!text.isNull()) list.Add(text, row[u"ID"].ToInt());
   }
 }
 
@@ -166,18 +164,13 @@ int FindPersonByTypedName(const QString& typed) {
   int found = 0;
   Trap(u"Function FindPersonByTypedName"_s, [&] {
     Bracket bracket;
-    {
-      Recordset people(u"Select * from tblPeople order by Lastname"_s);
-      if (RecordsetHasRows(people)) {
-        for (; !people.Eof() && found == 0; people.MoveNext()) {
-          const auto matches = [&](QStringView field, const QString& name) {
-            return people[field].ToText().trimmed().compare(name, Qt::CaseInsensitive) == 0;
-          };
-          if (matches(u"LastName", last) && (first.isEmpty() || matches(u"FirstName", first))) {
-            found = people[u"ID"].ToInt();
-          }
-        }
-      }
+    for (const Recordset& person : Rows(u"Select * from tblPeople order by Lastname"_s)) {
+      const auto matches = [&](QStringView field, const QString& name) {
+        return person[field].ToText().trimmed().compare(name, Qt::CaseInsensitive) == 0;
+      };
+      if (!matches(u"LastName", last) || !(first.isEmpty() || matches(u"FirstName", first))) continue;
+      found = person[u"ID"].ToInt();
+      break;
     }
     bracket.Close();
   });

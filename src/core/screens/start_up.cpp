@@ -87,10 +87,7 @@ void MakeDatabase() {
   MsgBox(u"New database file installed successfully"_s);
   UnloadStandBy();
   Bracket bracket;
-  CheckMiscRow();
-  SetDefaultComponentTypes();
-  CreateDefaultRigTypes();
-  CreateDefaultTasks();
+  CreateDefaultRows();
   bracket.Close();
 }
 

@@ -1,9 +1,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QSaveFile>
 #include <QSettings>
 
+#include "core/files.h"
 #include "core/prompts.h"
 #include "core/trap.h"
 #include "core/widgets/grid.h"
@@ -60,12 +60,7 @@ void Grid::SaveAsCsv() {
   Trap(u"Sub SaveAsCsv"_s, [&] {
     const QString proposal = accessibleName().isEmpty() ? window()->windowTitle() : accessibleName();
     const QString path = SaveFileDialog({tr("Save as CSV"), proposal + ".csv"_L1, u"CSV files|*.csv|all files|*.*"_s});
-    if (path.isEmpty()) return;
-    QSaveFile file(path);
-    const QByteArray bytes = "\xEF\xBB\xBF" + CsvText().toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-      throw Failure(file.errorString());
-    }
+    if (!path.isEmpty()) ReplaceFileSafely(path, "\xEF\xBB\xBF" + CsvText().toUtf8());
   });
 }
 

@@ -32,10 +32,7 @@ void MakeGoodLoft() {
   ConnectionString = ConnectionStringFor(DatabaseFile());
   Bracket bracket;
   CheckAllFields(false);
-  CheckMiscRow();
-  SetDefaultComponentTypes();
-  CreateDefaultRigTypes();
-  CreateDefaultTasks();
+  CreateDefaultRows();
   UpdateTableBySQL(u"insert into tblModels (Name, TypeID) values ('Raven', 3)"_s);
   UpdateTableBySQL(u"insert into tblPeople (LastName) values ('Lee')"_s);
   bracket.Close();
