@@ -79,6 +79,7 @@ void ClickHeading(Grid& grid, int column) {
 void Picture(QWidget& widget, const QString& name) {
   const QString folder = qEnvironmentVariable("LOFTKEEP_TOUR_PICTURES");
   if (folder.isEmpty()) return;
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);  // as the person sees it once all is in its place
   const QString path = QDir(folder).filePath(name + QStringLiteral(".png"));
   QVERIFY2(QDir().mkpath(folder) && widget.grab().save(path), qPrintable(path));
 }
