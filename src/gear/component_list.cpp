@@ -1,5 +1,7 @@
 #include "gear/component_list.h"
 
+#include <QHash>
+
 #include "core/access.h"
 #include "core/trap.h"
 #include "gear/models.h"
@@ -23,16 +25,29 @@ bool Passes(const ComponentFilter& filter, const Recordset& row) {
   return filter.rigs == ComponentFilter::Rigs::Both || inRig == (filter.rigs == ComponentFilter::Rigs::InRig);
 }
 
-ComponentListRow Read(const Recordset& row) {
+QString RigNameOrNone(int rig) { return RigExists(rig) ? RigName(rig) : u"(no rig)"_s; }
+
+/// The names that thousands of rows share, each read once.
+struct Names {
+  QHash<int, QString> models, rigs, owners;
+};
+
+const QString& Name(QHash<int, QString>& known, int id, QString (*read)(int)) {
+  auto name = known.find(id);
+  if (name == known.end()) name = known.insert(id, read(id));
+  return *name;
+}
+
+ComponentListRow Read(const Recordset& row, Names& names) {
   const int rig = row[u"RigID"].ToInt();
   const int owner = row[u"OwnerID"].ToInt();
   const QString serial = row[u"SerialNumber"].ToText();
   return {row[u"ID"].ToInt(),
           owner,
           rig,
-          ModelName(row[u"ModelID"].ToInt()) + u' ' + row[u"SubType"].ToText(),
-          RigExists(rig) ? RigName(rig) : u"(no rig)"_s,
-          PersonSortName(owner),
+          Name(names.models, row[u"ModelID"].ToInt(), ModelName) + u' ' + row[u"SubType"].ToText(),
+          Name(names.rigs, rig, RigNameOrNone),
+          Name(names.owners, owner, PersonSortName),
           serial.trimmed().isEmpty() ? u"(none)"_s : serial,
           row[u"DOM"].ToDate()};
 }
@@ -43,12 +58,9 @@ QList<ComponentListRow> LoadComponentList(const ComponentFilter& filter) {
   QList<ComponentListRow> list;
   Trap(u"Function LoadComponentList"_s, [&] {
     Bracket bracket;
-    {
-      Recordset rows(Statement(filter));
-      if (RecordsetHasRows(rows))
-        for (; !rows.Eof(); rows.MoveNext())
-          if (Passes(filter, rows)) list << Read(rows);
-    }
+    Names names;
+    for (const Recordset& row : Rows(Statement(filter)))
+      if (Passes(filter, row)) list << Read(row, names);
     bracket.Close();
   });
   return list;

@@ -125,7 +125,7 @@ QString GetModelfileforImport() {
   return OpenFileDialog({u"Find file 'models.txt"_s, kFile, u"all files (*.*)|*.*"_s});
 }
 
-void LoadModelsAtStart() {
+void CheckModelsFile() {
   const QString support = SupportFile(kFile);
   const QString source = ProgramFile(kFile);
   if (!ExistFile(support) && !source.isEmpty()) MyFileCopy(source, support);

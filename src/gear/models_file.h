@@ -18,4 +18,4 @@ QString GetModelfileforImport();
 
 /// The step of each start: the models.txt that comes with the program is copied to the support folder that lacks one,
 /// and a database without models takes them in.
-void LoadModelsAtStart();
+void CheckModelsFile();

@@ -350,12 +350,12 @@ class TestModels : public QObject {
     ScriptedPrompts prompts;
     prompts.ExpectBox(u"Can't find 'models.txt')"_s,
                       u"The file 'models.txt' is missing.  Manufacturers and models will not be loaded"_s);
-    LoadModelsAtStart();
+    CheckModelsFile();
     program.Write(u"models.txt"_s, "<mfg>\r\nPD\r\n4\r\n<end mfg>\r\nStorm\r\n4\r\n2\r\n0\r\n");
-    LoadModelsAtStart();
+    CheckModelsFile();
     QVERIFY(data.Has(u"support/models.txt"_s));
     QCOMPARE(loft.Rows(u"select Name from tblModels"_s), QStringList(u"Storm"_s));
-    LoadModelsAtStart();
+    CheckModelsFile();
     QDir::setCurrent(here);
     QCOMPARE(loft.Rows(u"select Name from tblModels"_s), QStringList(u"Storm"_s));
   }

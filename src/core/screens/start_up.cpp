@@ -77,7 +77,7 @@ bool FindDatabase() {
 
 void CheckSupportFiles() {
   CheckBlankmb();
-  LoadModelsAtStart();
+  CheckModelsFile();
   CheckHelpFile();
 }
 
@@ -201,7 +201,7 @@ void FirstRunSetup(bool forNewDatabase) {
     MakeDatabase();
   }
   CreateSubFolders();
-  LoadModelsAtStart();
+  CheckModelsFile();
   CheckHelpFile();
   AskForOwner();
   AskRepackCycle();
