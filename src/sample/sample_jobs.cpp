@@ -1,0 +1,90 @@
+#include "sample/sample_jobs.h"
+
+#include "core/clock.h"
+#include "core/default_rows.h"
+#include "core/format.h"
+#include "gear/rigs.h"
+#include "jobs/completion.h"
+#include "jobs/job_records.h"
+#include "jobs/lines.h"
+#include "jobs/repack_price.h"
+#include "jobs/task_rules.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTandemRig = 2;
+constexpr int kBenchDays = 12;  ///< jobs started in the last days are still on the bench
+
+class Jobs {
+ public:
+  Jobs(const SampleShop& shop, Date today, std::mt19937& random) : shop_(shop), today_(today), random_(random) {}
+
+  /// A repack with what else came up, done within some days.
+  void Repack(const SampleRig& rig, Date day) {
+    SetClock(day);
+    const int job = Start(rig, u"%1 %2"_s.arg(RigName(rig.id), Format(day, u"m/d/yyyy"_s)), day);
+    AddLibraryTask(JobContextOf(job), RepackTaskLibID, day, true);
+    if (Draw(4) == 0) AddCustom(job, {u"Replace closing loop"_s, Money::Whole(6), true});
+    if (rig.type == kTandemRig && Draw(3) == 0) AddCustom(job, {u"Tandem line check"_s, Money::Whole(20), true});
+    if (Draw(9) == 0) AddCustom(job, {u"Patch small hole in main"_s, Money::Whole(35), true});
+    Finish(job, day);
+  }
+
+  void Reserve(const SampleRig& rig, Date day) {
+    SetClock(day);
+    const int job = Start(rig, u"Reserve ride %1"_s.arg(Format(day, u"m/d/yyyy"_s)), day);
+    AddCustom(job, {u"Reserve ride after a line twist"_s, Money(), true, 0, true});
+    AddLibraryTask(JobContextOf(job), RepackTaskLibID, day, true);
+    Finish(job, day);
+  }
+
+  int Draw(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
+
+ private:
+  int Start(const SampleRig& rig, const QString& title, Date day) {
+    int job = 0;
+    CreateNewJob(title, rig.owner, rig.id, 0, job, shop_.riggers[Draw(3) == 0 ? 1 : 0],
+                 shop_.locations.isEmpty() ? 0 : shop_.locations[Draw(5) == 0 ? 1 : 0], day);
+    SetJobDatePromised(job, day + 7);
+    return job;
+  }
+
+  void AddCustom(int job, const CustomLine& line) {
+    int task = 0;
+    AddCustomLine(JobContextOf(job), line, Today(), task);
+  }
+
+  void Finish(int job, Date day) {
+    const Date done = day + 1 + Draw(5);
+    if (done > today_ - 1) return;
+    SetClock(done);
+    CompleteAllTasks(job, true, done, true);
+    RecomputeJobStatus(job);  // as whoever opens the job does
+  }
+
+  const SampleShop& shop_;
+  Date today_;
+  std::mt19937& random_;
+};
+
+}  // namespace
+
+void AddSampleLibrary() {
+  CheckIR(Money::Whole(75));
+  SaveByType(kTandemRig, Money::Whole(110));
+}
+
+void AddSampleJobs(QList<SampleRig> rigs, const SampleShop& shop, Date start, Date today, std::mt19937& random) {
+  Jobs jobs(shop, today, random);
+  for (Date day = start; day < today; day = day + 1) {
+    for (SampleRig& rig : rigs) {
+      if (rig.nextRepack != day) continue;
+      jobs.Draw(40) == 0 ? jobs.Reserve(rig, day) : jobs.Repack(rig, day);
+      // A few owners stop coming in the last year, and their repacks fall due.
+      const bool stops = day > today - 400 && jobs.Draw(7) == 0;
+      rig.nextRepack = stops ? Date() : day + rig.days + jobs.Draw(25);
+    }
+  }
+}

@@ -1,0 +1,59 @@
+#include "sample/sample_loft.h"
+
+#include "core/access.h"
+#include "core/clock.h"
+#include "core/data_folder.h"
+#include "core/database.h"
+#include "core/default_rows.h"
+#include "core/files.h"
+#include "dbcare/check_fields.h"
+#include "gear/models_file.h"
+#include "gear/people.h"
+#include "jobs/repack_price.h"
+#include "sample/sample_jobs.h"
+#include "sample/sample_people.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kYears = 3;
+
+void MakeDataFolder() {
+  CreateFolder(DataPath);
+  CreateSubFolders();
+  Database::CreateFile(DatabaseFile());
+  ConnectionString = ConnectionStringFor(DatabaseFile());
+}
+
+QList<int> AddPeople() {
+  QList<int> ids;
+  for (const Person& person : SamplePeople()) ids << SaveNewOwner(person, ids.isEmpty());
+  SetDefaultRigger(ids.first());
+  return ids;
+}
+
+/// Lets the clock run again, whatever happened.
+struct ClockReset {
+  ~ClockReset() { SetClock({}); }
+};
+
+}  // namespace
+
+void MakeSampleLoft(Date today) {
+  const ClockReset reset;
+  std::mt19937 random(20060102);
+  const Date start = today - kYears * 365;
+  MakeDataFolder();
+  Bracket bracket;  // one write to the disk for all of it
+  SetClock(start);
+  CheckAllFields(false);
+  CreateDefaultRows();
+  CheckModelsFile();
+  SetRepackCycle(180);
+  AddSampleLibrary();
+  const QList<int> people = AddPeople();
+  const SampleShop shop{people.first(kSampleRiggers), {}};
+  AddSampleJobs(AddSampleGear(people.mid(kSampleRiggers), start, random), shop, start, today, random);
+  bracket.Close();
+}
