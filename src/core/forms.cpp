@@ -36,6 +36,10 @@ void ReloadIfLoaded(const QString& name) {
   if (LoadedForm* form = Find(name)) form->ReloadForm();
 }
 
+void ReloadSchedules() {
+  for (LoadedForm* form : Loaded()) form->ReloadSchedule();
+}
+
 bool IsShown(const QString& name) {
   const LoadedForm* form = Find(name);
   return form != nullptr && form->FormIsShown();

@@ -10,8 +10,9 @@ class LoadedForm {
   virtual ~LoadedForm() = default;
   virtual QString FormName() const = 0;  ///< "frmJob"
   virtual bool FormIsShown() const = 0;
-  virtual void ReloadForm() = 0;  ///< read the data anew and show it
-  virtual void UnloadForm() = 0;  ///< close and forget; the next use makes a fresh one
+  virtual void ReloadForm() = 0;    ///< read the data anew and show it
+  virtual void ReloadSchedule() {}  ///< read due dates anew, where the screen shows some
+  virtual void UnloadForm() = 0;    ///< close and forget; the next use makes a fresh one
 };
 
 /// The forms collection: every screen that is loaded, in load order. Each is a single shared instance.
@@ -23,5 +24,7 @@ QList<LoadedForm*> Loaded();
 QStringList Names();
 /// "Reload `frmSchedule` if it is loaded", for rules that must not know a screen.
 void ReloadIfLoaded(const QString& name);
+/// Due dates have changed: every loaded screen that shows some reads them anew.
+void ReloadSchedules();
 bool IsShown(const QString& name);
 }  // namespace Forms

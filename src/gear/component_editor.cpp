@@ -78,13 +78,13 @@ QString SubTypeLabel(int type) {
   return type == kMainCanopy || type == kReserveCanopy ? u"Canopy Size:"_s : u"Model sub type:"_s;
 }
 
-bool ReadDom(const QString& text, Date& dom) {
+bool ReadDom(const QString& text, Date& dom, const QString& title) {
   dom = {};
   const QString typed = text.trimmed().replace(u'\\', u'/');
   if (typed.isEmpty()) return true;
   const bool isYear = typed.size() == 4 && Val(typed) >= 1850 && Val(typed) < 2300;
   if (!isYear && !IsValidDate(typed)) {
-    MsgBox(text.trimmed() + u" is not a valid date"_s, u"DOM is invalid!"_s);
+    MsgBox(text.trimmed() + u" is not a valid date"_s, title);
     return false;
   }
   dom = ParseDate(typed);
@@ -154,6 +154,7 @@ void SaveShortEntry(int component, int model, const QString& serial, Date dom, c
         row.Update();
       }
     }
+    CheckComponentType(component);
     bracket.Close();
   });
 }

@@ -28,8 +28,8 @@ bool LoadComponentEntry(int id, ComponentEntry& entry);
 QString SubTypeLabel(int type);
 
 /// The date of manufacture as it was typed, a year of four digits among what is accepted; blank is no date. False after
-/// a box when it is no date.
-bool ReadDom(const QString& text, Date& dom);
+/// a box of this title when it is no date.
+bool ReadDom(const QString& text, Date& dom, const QString& title = QStringLiteral("DOM is invalid!"));
 /// A number of jumps, with or without commas. False after a box when it is too high.
 bool ReadNumJumps(const QString& text, int& jumps);
 
@@ -50,5 +50,5 @@ SerialCheck CheckSerial(int model, const QString& serial, int component);
 /// Writes a new or an existing component, then lets the model's type win. The id, 0 when nothing was written.
 int SaveComponentEntry(const ComponentEntry& entry);
 
-/// What the short editor writes.
+/// What the short editor writes; the model's type wins.
 void SaveShortEntry(int component, int model, const QString& serial, Date dom, const QString& subType);

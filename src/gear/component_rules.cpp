@@ -1,12 +1,14 @@
 #include "gear/component_rules.h"
 
 #include "core/access.h"
+#include "core/forms.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
+#include "gear/selected_component.h"
 
 using namespace Qt::StringLiterals;
 
@@ -56,6 +58,12 @@ Answer AskTakeFromOtherRig(int component, int type, int otherRig) {
              QString(), u"If you proceed, that rig will have the component removed and installed in the current rig"_s,
              u"Do you want to do this?"_s}),
       u"Remove component from "_s + RigName(otherRig), Buttons::YesNoCancel, Answer::No);
+}
+
+QString WithRig(int component) {
+  const int rig = ComponentRig(component);
+  return ComponentDescription(component) +
+         (RigExists(rig) ? u" (from "_s + RigName(rig) + u')' : u" (not part of a rig)"_s);
 }
 
 }  // namespace
@@ -110,6 +118,18 @@ bool AskAddToRig(int type, int rig, int component) {
     bracket.Close();
   });
   return true;
+}
+
+bool AgreesWithComponentList(int component) {
+  const QString list = u"frmComponentList2"_s;
+  const auto* selecting = Forms::IsShown(list) ? dynamic_cast<SelectsComponent*>(Forms::Find(list)) : nullptr;
+  const int selected = selecting ? selecting->SelectedComponent() : 0;
+  if (selected == 0 || selected == component) return true;
+  return AskYes(
+      Lines({u"Please notice:"_s, u"You are about to edit this component: "_s, u"           "_s + WithRig(component),
+             u"but you have selected "_s + WithRig(selected), u"from the components list."_s,
+             u"Are you sure you want to edit "_s + ComponentDescription(component)}),
+      u"Different component selected"_s);
 }
 
 bool ChangeComponentOwner(int component, int newOwner) {

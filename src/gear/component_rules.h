@@ -15,6 +15,10 @@ IdList LoadSerials(int type);
 /// Asks whether a component in no rig goes into this rig, and puts it there; true when it did.
 bool AskAddToRig(int type, int rig, int component);
 
+/// Before a component is changed: with another one selected in the list of components, asks whether this is the one
+/// that is meant. False to leave it.
+bool AgreesWithComponentList(int component);
+
 /// Asks before a component gets another owner than its rig; true when the owner was written.
 bool ChangeComponentOwner(int component, int newOwner);
 

@@ -60,6 +60,7 @@ bool ComponentExists(int id) { return id != 0 && ComponentField(id, u"ID"_s).ToI
 void SetComponentOwner(int id, int owner) { UpdateTable(u"tblComponents"_s, u"ownerid"_s, owner, u"id"_s, id); }
 void SetComponentType(int id, int type) { UpdateTable(u"tblComponents"_s, u"TypeID"_s, type, u"id"_s, id); }
 void SetComponentRig(int id, int rig) { UpdateTable(u"tblComponents"_s, u"RigID"_s, rig, u"id"_s, id); }
+void SetComponentModel(int id, int model) { UpdateTable(u"tblComponents"_s, u"ModelID"_s, model, u"ID"_s, id); }
 
 void SetLastComponentID(int id) { UpdateTableBySQL(u"update tblMisc set LastComponentID = "_s + QString::number(id)); }
 

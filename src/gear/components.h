@@ -19,6 +19,7 @@ bool ComponentExists(int id);
 void SetComponentOwner(int id, int owner);
 void SetComponentType(int id, int type);
 void SetComponentRig(int id, int rig);
+void SetComponentModel(int id, int model);
 void SetLastComponentID(int id);
 
 /// The date of manufacture plus the model's service life; none when either is missing. A day that the month lacks

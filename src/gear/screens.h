@@ -29,6 +29,12 @@ bool ShowRigs(const RigScreenStart& start = {});
 /// Opens the rigs beside the other screens, or brings them forward.
 void OpenRigs(const RigScreenStart& start = {});
 
+/// Shows one rig and nothing to change: on the rig screen or, while that is open, on a form of its own.
+void ShowRig(int rig);
+
+/// Shows what a rig is made of now, to be read.
+void ShowCurrentComponents(int rig);
+
 /// Lets a person choose a rig; false when cancelled. `rig` and `customer` are selected when the screen opens, `rigType`
 /// limits the list.
 bool PickRig(int& rig, int& customer, int rigType = 0);
@@ -40,6 +46,12 @@ bool ConfirmRigDeletion(int rig, bool showOnly = false);
 /// <serial>", "new with s/n:<serial>" or "cancel".
 QString AskNewOrOld(int componentType);
 
+/// Shows a component on its own screen, modally; an open one goes over to it. One that has gone is not shown.
+void ShowComponent(int component);
+
+/// Edits model, serial number, date of manufacture and sub type of a component; true when it was saved.
+bool EditComponentQuickly(int component);
+
 /// Edits a component; its id when it was saved, another id when the person went over to the component that has its
 /// serial number, 0 when cancelled.
 int EditComponent(int component);
@@ -47,11 +59,16 @@ int EditComponent(int component);
 /// Shows a component with a question below; true for Yes. With `exitOnly` there is only a button that ends it.
 bool VerifyComponent(int component, const QString& caption = {}, bool exitOnly = false);
 
-/// Looks a component up by its serial number; 0 when none was chosen.
-int PickComponentBySerial(int componentType, const QString& serial);
+/// Enters a component of a model that belongs to nobody and sits in no rig; its id when it was saved, another id when
+/// the person went over to the component that has its serial number, 0 when cancelled.
+int EnterNewComponent(int model);
 
-/// Lets a person choose one of the components of a type; 0 when none was chosen.
-int PickComponent(int componentType);
+/// Looks a component up by its serial number, among those of a type or (0) of all; 0 when none was chosen.
+int PickComponentBySerial(int componentType = 0, const QString& serial = {});
+
+/// Lets a person choose one of the components of a type (0 for all), and of an owner where one is given; 0 when none
+/// was chosen.
+int PickComponent(int componentType, int owner = 0);
 
 /// Tells the picker how people, rigs and gear are added and deleted.
 void RegisterGearPickers();

@@ -16,6 +16,13 @@ bool TaskTouched(int taskID, int componentID) {
              .ToInt() > 0;
 }
 
+/// When a line is a completed repack; no date otherwise.
+Date DateOfRepack(int taskID) {
+  const QString statement =
+      u"Select * from tblTasks where ID = %1 and TaskLibID = %2 and status = -1"_s.arg(taskID).arg(RepackTaskLibID);
+  return GetValueFromTableBySQL(statement, u"DateTaskCompleted"_s).ToDate();
+}
+
 }  // namespace
 
 bool TaskMatchesRig(int taskID, int rigID, int taskLibID) {
@@ -75,6 +82,29 @@ Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
           if (GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"TaskLibID"_s).ToInt() != taskLibID) continue;
           const Date done = GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"DateTaskCompleted"_s).ToDate();
           if (done <= date) continue;
+          date = done;
+          taskID = id;
+        }
+      }
+    }
+    bracket.Close();
+  });
+  return date;
+}
+
+Date LastRepackOfPair(int containerID, int reserveID, int& taskID) {
+  Date date;
+  taskID = 0;
+  if (containerID == 0 || reserveID == 0) return date;
+  Trap(u"Function LastRepackOfPair"_s, [&] {
+    Bracket bracket;
+    {
+      Recordset rows(u"Select * from tblTaskComponents where CompID = %1"_s.arg(containerID));
+      if (RecordsetHasRows(rows)) {
+        for (; !rows.Eof(); rows.MoveNext()) {
+          const int id = rows[u"TaskID"].ToInt();
+          const Date done = DateOfRepack(id);
+          if (done <= date || !TaskTouched(id, reserveID)) continue;
           date = done;
           taskID = id;
         }

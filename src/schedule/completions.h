@@ -13,3 +13,7 @@ Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID);
 /// Was this completion done on the gear that the rig wears now? A repack binds container and reserve together: both of
 /// the rig's present ones must have been touched by it. Other entries always match.
 bool TaskMatchesRig(int taskID, int rigID, int taskLibID);
+
+/// The latest completed repack that touched both a container and a reserve, on whatever rig they were then, with its
+/// line; no date and 0 when there is none.
+Date LastRepackOfPair(int containerID, int reserveID, int& taskID);

@@ -4,6 +4,7 @@
 
 #include "core/access.h"
 #include "core/clock.h"
+#include "core/default_rows.h"
 #include "core/format.h"
 #include "core/trap.h"
 #include "gear/components.h"
@@ -24,13 +25,12 @@ const QString kUnknown = u"unknown"_s;
 
 QString DateCell(Date date) { return date.IsNone() ? kUnknown : Format(date, u"mm/dd/yyyy"_s); }
 
-bool AppliesToRig(const Recordset& entry, int rigID, const QList<int>& types) {
+bool FitsModel(const Recordset& entry, int componentID) {
   const int model = entry[u"ModelID"].ToInt();
-  const bool fits = std::all_of(types.cbegin(), types.cend(), [&](int type) {
-    const int component = ComponentOfTypeInRig(rigID, type);
-    return component != 0 && (model == 0 || ComponentModel(component) == model);
-  });
-  if (!fits) return false;
+  return model == 0 || ComponentModel(componentID) == model;
+}
+
+bool FitsRigType(const Recordset& entry, int rigID) {
   if (!entry[u"IsRigTypeSpecific"].ToBool()) return true;
   return GetNumberRecordsComplex(
              u"Select * from tblTaskLibRigType where TaskLibId = %1 and RigType = %2"_s.arg(entry[u"ID"].ToInt())
@@ -38,48 +38,71 @@ bool AppliesToRig(const Recordset& entry, int rigID, const QList<int>& types) {
              .ToInt() > 0;
 }
 
-RigAuditRow RowOfEntry(const Recordset& entry, int rigID, const QList<int>& types) {
+bool AppliesToRig(const Recordset& entry, int rigID, const QList<int>& types) {
+  const bool fits = std::all_of(types.cbegin(), types.cend(), [&](int type) {
+    const int component = ComponentOfTypeInRig(rigID, type);
+    return component != 0 && FitsModel(entry, component);
+  });
+  return fits && FitsRigType(entry, rigID);
+}
+
+bool AppliesToComponent(const Recordset& entry, int componentID, const QList<int>& types) {
+  if (!types.contains(ComponentTypeOf(componentID))) return false;
+  const int rigID = ComponentRig(componentID);
+  if (types.size() == 1) return FitsModel(entry, componentID) && FitsRigType(entry, rigID);
+  return rigID != 0 && AppliesToRig(entry, rigID, types);
+}
+
+RigAuditRow RowOf(const Recordset& entry, Date done, Date due) {
   const int id = entry[u"ID"].ToInt();
-  int taskID = 0;
-  Date done;
-  Date due;
-  if (types.size() > 1) {
-    done = LastCompletionForRig(rigID, id, taskID);
-    due = GetDueDateByRig(rigID, id);
-  } else if (const int component = types.isEmpty() ? 0 : ComponentOfTypeInRig(rigID, types.first()); component != 0) {
-    done = LastCompletionForComponent(component, id, taskID);
-    due = GetDueDateByComponent(component, id);
-  }
   const QString name = entry[u"Name"].ToText();
   if (due.IsNone()) return {name, kUnknown, kUnknown, kUnknown, DueMark::None, id};
   return {name, DateCell(done), DateCell(due), TimeLeftText(due), DueMarkOf(due), id};
 }
 
-void AppendEntries(QList<RigAuditRow>& rows, int rigID) {
+RigAuditRow RowByRig(const Recordset& entry, int rigID) {
+  const int id = entry[u"ID"].ToInt();
+  int taskID = 0;
+  const Date done = LastCompletionForRig(rigID, id, taskID);
+  return RowOf(entry, done, GetDueDateByRig(rigID, id));
+}
+
+RigAuditRow RowByComponent(const Recordset& entry, int componentID) {
+  if (componentID == 0) return RowOf(entry, {}, {});
+  const int id = entry[u"ID"].ToInt();
+  int taskID = 0;
+  const Date done = LastCompletionForComponent(componentID, id, taskID);
+  return RowOf(entry, done, GetDueDateByComponent(componentID, id));
+}
+
+/// Calls a routine with each entry that has an interval, and the component types it requires.
+template <class Visit>
+void WalkEntries(Visit visit) {
   Recordset entries(u"Select * from tblTaskLib where IntervalNumber <> 0"_s);
   if (!RecordsetHasRows(entries)) return;
-  for (; !entries.Eof(); entries.MoveNext()) {
-    const QList<int> types = RequiredComponentTypes(entries[u"ID"].ToInt());
-    if (AppliesToRig(entries, rigID, types)) rows.append(RowOfEntry(entries, rigID, types));
+  for (; !entries.Eof(); entries.MoveNext()) visit(entries, RequiredComponentTypes(entries[u"ID"].ToInt()));
+}
+
+void AppendServiceLife(QList<RigAuditRow>& rows, int componentID) {
+  const int model = ComponentModel(componentID);
+  if (ServiceLife(model) == 0) return;
+  const Date expiry = ServiceLifeExpiry(componentID);
+  RigAuditRow row{
+      ModelName(model) + u" expiration"_s, {}, DateCell(expiry), kUnknown, DueMark::None, kExpiryRowTaskLibID};
+  if (!expiry.IsNone()) {
+    row.timeLeft = ExpiryTimeLeftText(expiry);
+    row.mark = DueMarkOf(expiry);
   }
+  rows.append(row);
 }
 
 void AppendServiceLives(QList<RigAuditRow>& rows, int rigID) {
   Recordset components(u"Select * from tblComponents where Rigid = %1 order by TypeID"_s.arg(rigID));
   if (!RecordsetHasRows(components)) return;
-  for (; !components.Eof(); components.MoveNext()) {
-    const int model = components[u"ModelID"].ToInt();
-    if (ServiceLife(model) == 0) continue;
-    const Date expiry = ServiceLifeExpiry(components[u"ID"].ToInt());
-    RigAuditRow row{
-        ModelName(model) + u" expiration"_s, {}, DateCell(expiry), kUnknown, DueMark::None, kExpiryRowTaskLibID};
-    if (!expiry.IsNone()) {
-      row.timeLeft = ExpiryTimeLeftText(expiry);
-      row.mark = DueMarkOf(expiry);
-    }
-    rows.append(row);
-  }
+  for (; !components.Eof(); components.MoveNext()) AppendServiceLife(rows, components[u"ID"].ToInt());
 }
+
+int NumberOfSchedules(const QString& field, int id) { return GetNumberRecords(u"tblSchedules"_s, field, id); }
 
 }  // namespace
 
@@ -93,9 +116,46 @@ QList<RigAuditRow> LoadRigAudit(int rigID) {
   QList<RigAuditRow> rows;
   Trap(u"Sub LoadRigAudit"_s, [&] {
     Bracket bracket;
-    AppendEntries(rows, rigID);
+    WalkEntries([&](const Recordset& entry, const QList<int>& types) {
+      if (!AppliesToRig(entry, rigID, types)) return;
+      const int only = types.size() == 1 ? ComponentOfTypeInRig(rigID, types.first()) : 0;
+      rows.append(types.size() > 1 ? RowByRig(entry, rigID) : RowByComponent(entry, only));
+    });
     AppendServiceLives(rows, rigID);
     bracket.Close();
   });
   return rows;
+}
+
+QList<RigAuditRow> LoadComponentAudit(int componentID) {
+  QList<RigAuditRow> rows;
+  Trap(u"Sub LoadComponentAudit"_s, [&] {
+    Bracket bracket;
+    WalkEntries([&](const Recordset& entry, const QList<int>& types) {
+      if (!AppliesToComponent(entry, componentID, types)) return;
+      rows.append(types.size() > 1 ? RowByRig(entry, ComponentRig(componentID)) : RowByComponent(entry, componentID));
+    });
+    AppendServiceLife(rows, componentID);
+    bracket.Close();
+  });
+  return rows;
+}
+
+bool ComponentHasSchedule(int componentID) {
+  bool has = false;
+  Trap(u"Function ComponentHasSchedule"_s, [&] {
+    Bracket bracket;
+    const int rigID = ComponentTypeOf(componentID) == kContainer ? ComponentRig(componentID) : 0;
+    has = NumberOfSchedules(u"ComponentID"_s, componentID) > 0 ||
+          (rigID != 0 && NumberOfSchedules(u"rigID"_s, rigID) > 0) || ServiceLife(ComponentModel(componentID)) != 0;
+    bracket.Close();
+  });
+  return has;
+}
+
+bool EntryIsOfOneType(int taskLibID) { return RequiredComponentTypes(taskLibID).size() == 1; }
+
+int ComponentOfEntry(int rigID, int taskLibID) {
+  const QList<int> types = RequiredComponentTypes(taskLibID);
+  return types.size() == 1 ? ComponentOfTypeInRig(rigID, types.first()) : 0;
 }

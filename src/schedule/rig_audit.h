@@ -19,10 +19,21 @@ struct RigAuditRow {
   QString dateDue;   ///< "mm/dd/yyyy" or "unknown"
   QString timeLeft;  ///< or "unknown"
   DueMark mark = DueMark::None;
-  int taskLibID = 0;
+  int taskLibID = 0;  ///< kExpiryRowTaskLibID in a row of service life
 };
 
 /// Yellow for 1 to 30 days left, red with white text once it is over.
 DueMark DueMarkOf(Date due);
 
 QList<RigAuditRow> LoadRigAudit(int rigID);
+
+/// The same of one component: the entries that apply to it, those of several component types only while it is in a rig
+/// that has them all, then the end of its own service life.
+QList<RigAuditRow> LoadComponentAudit(int componentID);
+/// Whether anything is known to fall due on a component: rows of the schedule, for a container those of its rig too, or
+/// a service life that ends.
+bool ComponentHasSchedule(int componentID);
+/// Whether work of an entry is done on components of one type alone, and so counts by component.
+bool EntryIsOfOneType(int taskLibID);
+/// The component that a rig's row of an entry stands for; 0 for an entry of several component types or of none.
+int ComponentOfEntry(int rigID, int taskLibID);

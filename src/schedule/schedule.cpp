@@ -48,6 +48,12 @@ void Write(Recordset& rows, const ScheduleRow& row) {
   rows.Update();
 }
 
+/// What shows due dates follows them.
+void ReloadScreens() {
+  Forms::ReloadIfLoaded(u"frmSchedule"_s);
+  Forms::ReloadSchedules();
+}
+
 }  // namespace
 
 Date GetNextDueDate(int number, int intervalType, Date startDate) {
@@ -76,7 +82,7 @@ void UpdateSchedule(int taskLibID, int rigID, int componentID) {
         ReplaceSchedule(rigID, taskLibID, done, taskID, componentID);
       } else {
         DeleteSchedule(rigID, taskLibID, componentID);
-        if (rigID != 0) Forms::ReloadIfLoaded(u"frmSchedule"_s);
+        ReloadScreens();
       }
     }
     bracket.Close();
@@ -96,7 +102,7 @@ void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int co
       if (!reused) rows.AddNew();
       Write(rows, row);
     }
-    Forms::ReloadIfLoaded(u"frmSchedule"_s);
+    ReloadScreens();
     bracket.Close();
   });
 }

@@ -9,15 +9,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The rows as a person reads them: name, done, due, left, mark, library id.
-QStringList Shown(int rigID) {
+QStringList Texts(const QList<RigAuditRow>& rows) {
   QStringList shown;
-  const QList<RigAuditRow> rows = LoadRigAudit(rigID);
   for (const RigAuditRow& row : rows)
     shown << u"%1|%2|%3|%4|%5|%6"_s.arg(row.name, row.dateDone, row.dateDue, row.timeLeft)
                  .arg(static_cast<int>(row.mark))
                  .arg(row.taskLibID);
   return shown;
 }
+QStringList Shown(int rigID) { return Texts(LoadRigAudit(rigID)); }
+QStringList ShownOf(int componentID) { return Texts(LoadComponentAudit(componentID)); }
 
 }  // namespace
 
@@ -89,6 +90,49 @@ class TestRigAudit : public QObject {
     shop.loft.Run(u"update tblComponents set DOM = %1 where ID = %2"_s.arg(Day(3, 14, 2014).Days()).arg(shop.aad));
     QCOMPARE(Shown(shop.rig).mid(2), (QStringList{u"Raven expiration||unknown|unknown|0|-1"_s,
                                                   u"Cypres expiration||03/14/2026|Expired!|2|-1"_s}));
+  }
+
+  void OneComponentOwesItsOwnWorkAndThatOfItsRig() {
+    SampleRig shop;
+    shop.loft.Run(u"update tblModels set ServiceLife = 144 where Name = 'Cypres'"_s);
+    const QString check = u"AAD check|unknown|unknown|unknown|0|%1"_s.arg(shop.aadCheck);
+    const QString repack = u"Inspect and repack reserve|unknown|unknown|unknown|0|1"_s;
+    QCOMPARE(ShownOf(shop.aad), QStringList({check, u"Cypres expiration||unknown|unknown|0|-1"_s}));
+    QCOMPARE(ShownOf(shop.container), QStringList(repack));
+    QCOMPARE(ShownOf(shop.reserve), QStringList(repack));
+    QCOMPARE(ShownOf(shop.mainCanopy), QStringList());
+    const int spare = shop.AddComponent("Vigil", kAad, 0);
+    const int loose = shop.AddComponent("Wings", kContainer, 0);
+    shop.AddDone(shop.aadCheck, Day(10, 1, 2025), {spare}, 0);
+    UpdateSchedule(shop.aadCheck, 0, spare);
+    QCOMPARE(ShownOf(spare), QStringList(u"AAD check|10/01/2025|04/01/2026|17 days|1|%1"_s.arg(shop.aadCheck)));
+    QCOMPARE(ShownOf(loose), QStringList());
+    shop.loft.Run(u"update tblTaskLib set ModelID = 999 where ID = %1"_s.arg(shop.aadCheck));
+    QCOMPARE(ShownOf(spare), QStringList());
+    shop.loft.Run(u"update tblTaskLib set ModelID = 0, IsRigTypeSpecific = true where ID = %1"_s.arg(shop.aadCheck));
+    QCOMPARE(ShownOf(spare), QStringList());
+  }
+
+  void KnowsWhetherAnythingFallsDueOnAComponent() {
+    SampleRig shop;
+    for (int component : {shop.container, shop.reserve, shop.aad}) QVERIFY(!ComponentHasSchedule(component));
+    shop.AddRepack(Day(3, 1, 2026));
+    UpdateSchedule(1, shop.rig, 0);
+    QVERIFY(ComponentHasSchedule(shop.container));
+    QVERIFY(!ComponentHasSchedule(shop.reserve));
+    shop.AddDone(shop.aadCheck, Day(10, 1, 2025), {shop.aad}, shop.rig);
+    UpdateSchedule(shop.aadCheck, shop.rig, shop.aad);
+    QVERIFY(ComponentHasSchedule(shop.aad));
+    shop.loft.Run(u"update tblModels set ServiceLife = 144 where Name = 'Sabre'"_s);
+    QVERIFY(ComponentHasSchedule(shop.mainCanopy));
+  }
+
+  void KnowsWhichComponentARowStandsFor() {
+    SampleRig shop;
+    QCOMPARE(ComponentOfEntry(shop.rig, shop.aadCheck), shop.aad);
+    QCOMPARE(ComponentOfEntry(shop.rig, 1), 0);
+    QVERIFY(EntryIsOfOneType(shop.aadCheck));
+    QVERIFY(!EntryIsOfOneType(1));
   }
 };
 

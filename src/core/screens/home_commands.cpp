@@ -50,6 +50,10 @@ void ShowRigDatabase() { OpenRigs({.customer = LastCustomer()}); }
 
 void ShowRigsPlainly() { OpenRigs({.customer = LastCustomer(), .hideButtons = true}); }
 
+void LookUpSerialNumber() {
+  if (const int component = PickComponentBySerial(); component != 0) ShowComponent(component);
+}
+
 void StartJobForCustomer() {
   int customer = PickItem(kPickCustomer).id;
   if (customer == kPickAddNewPerson) customer = ShowPeople(kPeopleAddNew);
@@ -108,7 +112,7 @@ std::vector<MenuLine> MainMenu() {
       {gear, u"Photos"_s, kLater},
       {gearHistory, u"History by rig"_s, kLater},
       {gearHistory, u"History by component (canopy, container, etc)"_s, kLater},
-      {gearHistory, u"Serial number look up"_s, kLater},
+      {gearHistory, u"Serial number look up"_s, LookUpSerialNumber},
       {history, u"Rigger Logbook"_s, kLater},
       {history, u"Show rig history"_s, kLater},
       {history, u"Component history (canopy, container, etc)"_s, kLater},

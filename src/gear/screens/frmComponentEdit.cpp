@@ -8,7 +8,7 @@
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
-#include "gear/screens.h"
+#include "gear/screens/serial_check.h"
 
 #include "ui_frmComponentEdit.h"
 
@@ -69,7 +69,14 @@ void frmComponentEdit::Save() {
     return;
   }
   entry.serial = ui_->txtSerial->text();
-  if (!SerialIsFree(entry.serial)) return;
+  int switchTo = 0;
+  if (!SerialIsFree(entry.model, entry.serial, entry.id, switchTo)) {
+    if (switchTo != 0)
+      SwitchTo(switchTo);
+    else
+      SelectAllInBox(ui_->txtSerial);
+    return;
+  }
   entry.subType = ui_->txtSubType->text();
   entry.color = ui_->txtColor->text();
   entry.comment = ui_->txtComment->toPlainText();
@@ -78,22 +85,8 @@ void frmComponentEdit::Save() {
   Leave();
 }
 
-bool frmComponentEdit::SerialIsFree(const QString& serial) {
-  const SerialCheck check = CheckSerial(entry_.model, serial, entry_.id);
-  switch (check.verdict) {
-    case SerialCheck::Pass:
-      return true;
-    case SerialCheck::InUse:
-      VerifyComponent(check.other, u"Serial number already exists for this model"_s, true);
-      break;
-    case SerialCheck::SwitchTo:
-      result_ = check.other;
-      SetTag(u"switch"_s);
-      Leave();
-      return false;
-    case SerialCheck::Refused:
-      break;
-  }
-  SelectAllInBox(ui_->txtSerial);
-  return false;
+void frmComponentEdit::SwitchTo(int other) {
+  result_ = other;
+  SetTag(u"switch"_s);
+  Leave();
 }

@@ -25,7 +25,7 @@ class frmComponentEdit : public Form {
 
  private:
   void Save();
-  bool SerialIsFree(const QString& serial);
+  void SwitchTo(int other);
 
   std::unique_ptr<Ui::frmComponentEdit> ui_;
   ComponentEntry entry_;

@@ -16,8 +16,10 @@
 #include "gear/rig_rules.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
+#include "gear/screens/schedule_grid.h"
 #include "jobs/screens.h"
 #include "schedule/rig_audit.h"
+#include "schedule/scheduled_task.h"
 
 #include "ui_frmGetRig.h"
 
@@ -26,19 +28,14 @@ using namespace Qt::StringLiterals;
 frmGetRig::frmGetRig() : ui_(std::make_unique<Ui::frmGetRig>()) {
   ui_->setupUi(this);
   ui_->browser->AddBelowGrid(ui_->panel);
-  ui_->Grid2->SetColumns({{.heading = u"Scheduled Task"_s, .width = 200},
-                          {.heading = u"Date Done"_s, .width = 95, .sort = GridSort::Date},
-                          {.heading = u"Date Due"_s, .width = 95, .sort = GridSort::Date},
-                          {.heading = u"Time Left"_s, .width = 110},
-                          {.heading = u"Task id"_s, .width = 0}});
-  ui_->Grid2->SetStretchColumn(0);
-  ui_->Grid2->SetMarksCell(true);
+  ScheduleGrid::SetUp(*ui_->Grid2);
   MakeMenu();
   connect(ui_->browser, &RigBrowser::RigShown, this, &frmGetRig::ShowRig);
   connect(ui_->browser, &RigBrowser::CustomerShown, this, &frmGetRig::ShowState);
   connect(ui_->browser, &RigBrowser::ComponentRowChange, this, &frmGetRig::ShowState);
   connect(ui_->browser, &RigBrowser::SearchWanted, this, &frmGetRig::Search);
   connect(ui_->browser, &RigBrowser::ComponentWanted, this, &frmGetRig::EnterComponent);
+  connect(ui_->browser, &RigBrowser::QuickEditWanted, this, &frmGetRig::EditQuickly);
   connect(ui_->browser, &RigBrowser::CommentsWanted, this, &frmGetRig::EditRigComments);
   connect(ui_->browser, &RigBrowser::RigDeleteWanted, this, &frmGetRig::DeleteRig);
   connect(ui_->cmdEnter, &QPushButton::clicked, this, &frmGetRig::EnterComponent);
@@ -48,7 +45,7 @@ frmGetRig::frmGetRig() : ui_(std::make_unique<Ui::frmGetRig>()) {
   connect(ui_->cmdDeleteRig, &QPushButton::clicked, this, &frmGetRig::DeleteRig);
   connect(ui_->cmdRefresh, &QPushButton::clicked, this, &frmGetRig::ReloadForm);
   connect(ui_->cmdExit, &QPushButton::clicked, this, &frmGetRig::Cancel);
-  ui_->cmdUpdateTask->setEnabled(false);
+  connect(ui_->cmdUpdateTask, &QPushButton::clicked, this, &frmGetRig::UpdateTask);
   ui_->cmdHelp->setEnabled(false);
   ShowState();
 }
@@ -95,15 +92,15 @@ void frmGetRig::SetStart(const RigScreenStart& start) {
   hideButtons_ = start.hideButtons;
   setWindowTitle(start.caption.isEmpty() ? u"Rigs"_s : start.caption);
   ui_->cmdExit->setVisible(!hideButtons_);
-  for (QPushButton* button : {ui_->cmdEnter, ui_->cmdRemove, ui_->cmdAddRig, ui_->cmdRename, ui_->cmdDeleteRig})
+  for (QPushButton* button :
+       {ui_->cmdEnter, ui_->cmdRemove, ui_->cmdAddRig, ui_->cmdRename, ui_->cmdDeleteRig, ui_->cmdUpdateTask})
     button->setVisible(!hideButtons_);
   ui_->browser->SetFixed(hideButtons_);
   ui_->browser->Begin(start.customer, start.rig, start.rigType);
 }
 
 void frmGetRig::ReloadForm() {
-  ui_->browser->ReloadLists();
-  ui_->browser->ReloadRig();
+  if (!ui_->browser->ReloadLists()) ui_->browser->ReloadRig();
 }
 
 void frmGetRig::keyPressEvent(QKeyEvent* event) {
@@ -114,22 +111,19 @@ void frmGetRig::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmGetRig::ShowRig() {
-  LoadSchedule();
+  ReloadSchedule();
   ShowState();
 }
 
-void frmGetRig::LoadSchedule() {
-  static const QColor kOverdue(255, 0, 0);
-  std::vector<GridRow> rows;
-  const QList<RigAuditRow> audit = ui_->browser->Rig() == 0 ? QList<RigAuditRow>() : LoadRigAudit(ui_->browser->Rig());
-  for (const RigAuditRow& row : audit)
-    rows.push_back({.cells = {row.name, row.dateDone, row.dateDue, row.timeLeft, QString::number(row.taskLibID)},
-                    .data = row.taskLibID});
-  ui_->Grid2->Fill(std::move(rows));
-  for (int row = 0; row < audit.size(); ++row)
-    if (audit.at(row).mark == DueMark::Overdue) ui_->Grid2->SetCellColour(row, 3, kOverdue, Qt::white);
-  for (int row = 0; row < audit.size(); ++row)
-    if (audit.at(row).mark == DueMark::Soon) ui_->Grid2->SetCellColour(row, 3, Qt::yellow);
+void frmGetRig::ReloadSchedule() {
+  const int rig = ui_->browser->Rig();
+  ScheduleGrid::Fill(*ui_->Grid2, rig == 0 ? QList<RigAuditRow>() : LoadRigAudit(rig));
+}
+
+void frmGetRig::UpdateTask() {
+  const int rig = ui_->browser->Rig();
+  const int entry = ScheduleGrid::EntryToUpdate(*ui_->Grid2);
+  if (entry != 0 && UpdateScheduledTask(entry, rig, ComponentOfEntry(rig, entry))) ReloadSchedule();
 }
 
 void frmGetRig::ShowState() {

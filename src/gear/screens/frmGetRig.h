@@ -19,6 +19,7 @@ class frmGetRig : public Form {
 
   void SetStart(const RigScreenStart& start);
   void ReloadForm() override;
+  void ReloadSchedule() override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -26,7 +27,7 @@ class frmGetRig : public Form {
  private:
   void MakeMenu();
   void ShowRig();
-  void LoadSchedule();
+  void UpdateTask();
   void ShowState();
   void Search();
   void AddCustomer();
@@ -40,6 +41,7 @@ class frmGetRig : public Form {
   void FilterByType();
   void EditRigComments();
   void EnterComponent();
+  void EditQuickly();
   void FillPlace(int type);
   void CreateInPlace(int type, int model, const QString& serial);
   void Install(int component);

@@ -4,9 +4,11 @@
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "gear/catalogue.h"
+#include "gear/component_rules.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rig_rules.h"
+#include "gear/rigs.h"
 #include "gear/screens/frmGetRig.h"
 #include "schedule/completions.h"
 #include "schedule/schedule.h"
@@ -24,10 +26,16 @@ void frmGetRig::EnterComponent() {
     return;
   }
   if (const int component = ui_->browser->Component(); component != 0)
-    EditComponent(component);
+    ShowComponent(component);
   else
     FillPlace(ui_->browser->ComponentType());
   ui_->browser->ReloadRig();
+}
+
+void frmGetRig::EditQuickly() {
+  const int component = ui_->browser->Component();
+  if (hideButtons_ || component == 0 || !AgreesWithComponentList(component)) return;
+  if (EditComponentQuickly(component)) ui_->browser->ReloadRig();
 }
 
 void frmGetRig::FillPlace(int type) {
@@ -68,7 +76,8 @@ void frmGetRig::OfferRepack(int component) {
   const int rig = ui_->browser->Rig();
   if (RepackPartnerInRig(rig, component) == 0) return;
   int task = 0;
-  const Date repack = LastCompletionForRig(rig, RepackTaskLibID, task);
+  const Date repack =
+      LastRepackOfPair(ComponentOfTypeInRig(rig, kContainer), ComponentOfTypeInRig(rig, kReserveCanopy), task);
   if (!repack.IsNone() && AskAddRepackToSchedule(repack)) ReplaceSchedule(rig, RepackTaskLibID, repack, task, 0);
 }
 

@@ -1,5 +1,7 @@
 #include "gear/screens/frmPickComponent.h"
 
+#include <QKeyEvent>
+
 #include "core/format.h"
 #include "core/picker.h"
 #include "core/prompts.h"
@@ -9,6 +11,7 @@
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
+#include "gear/rig_rules.h"
 
 #include "ui_frmPickComponent.h"
 
@@ -53,16 +56,25 @@ frmPickComponent::frmPickComponent() : ui_(std::make_unique<Ui::frmPickComponent
   connect(ui_->grid, &Grid::CellDoubleClick, this, &frmPickComponent::Select);
   connect(ui_->grid, &Grid::CellEnter, this, &frmPickComponent::Select);
   connect(ui_->grid, &Grid::CellDelete, this, &frmPickComponent::Delete);
+  ui_->chkHidePhoto->setChecked(PhotosAreHidden());
+  ui_->imageComponent->setVisible(!PhotosAreHidden());
+  connect(ui_->chkHidePhoto, &QCheckBox::toggled, this, [this](bool hidden) {
+    SetPhotosHidden(hidden);
+    ui_->imageComponent->setVisible(!hidden);
+  });
   connect(ui_->cmdSelect, &QPushButton::clicked, this, &frmPickComponent::Select);
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmPickComponent::Cancel);
 }
 
 frmPickComponent::~frmPickComponent() = default;
 
-void frmPickComponent::SetComponentType(int type) {
+void frmPickComponent::SetChoice(int type, int owner) {
   const QSignalBlocker quietBox(ui_->chkAllTypes);
+  const QSignalBlocker quietOwner(ui_->optAnyOwner);
   const QSignalBlocker quietTypes(ui_->lstTypes);
   ui_->chkAllTypes->setChecked(!ui_->lstTypes->SelectData(type));
+  owner_ = owner;
+  (owner == 0 ? ui_->optAnyOwner : ui_->optSelectedOwner)->setChecked(true);
   LoadGrid();
 }
 
@@ -99,7 +111,11 @@ void frmPickComponent::ShowChoices() {
 
 void frmPickComponent::ChooseRow(int row) {
   const int component = ui_->grid->RowData(row);
-  if (component == 0 || std::exchange(choosing_, true)) return;
+  if (component == 0) return;
+  if (std::exchange(choosing_, true)) {
+    MsgBox(u"ignoreme is already true - look into this"_s);
+    return;
+  }
   if (ComponentTypeOf(component) == 0) {
     TellLostComponentType(component);
     SetLostComponentType(component, PickItem(kPickComponentType).id);
@@ -135,6 +151,13 @@ void frmPickComponent::Select() {
   CheckComponentType(Component());
   SetTag(u"select"_s);
   Leave();
+}
+
+void frmPickComponent::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Delete)  // the grid keeps it for itself while a row is selected
+    Delete();
+  else
+    Form::keyPressEvent(event);
 }
 
 void frmPickComponent::Delete() {

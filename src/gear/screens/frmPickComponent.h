@@ -15,8 +15,12 @@ class frmPickComponent : public Form {
   frmPickComponent();
   ~frmPickComponent() override;
 
-  void SetComponentType(int type);
+  /// What is shown first: a type (0 for all), and the components of an owner where one is given.
+  void SetChoice(int type, int owner);
   int Component() const;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   ComponentFilter Filter() const;

@@ -13,6 +13,8 @@ frmPickRig::frmPickRig() : ui_(std::make_unique<Ui::frmPickRig>()) {
   connect(ui_->cmdSelect, &QPushButton::clicked, this, &frmPickRig::Select);
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmPickRig::Cancel);
   connect(ui_->browser, &RigBrowser::RigWanted, this, &frmPickRig::Select);
+  connect(ui_->browser, &RigBrowser::PhotoClick, this,
+          [] { MsgBox(u"Photo disabled during rig selection"_s, u"Sorry......."_s); });
   connect(ui_->browser, &RigBrowser::SearchWanted, this, &frmPickRig::Search);
 }
 

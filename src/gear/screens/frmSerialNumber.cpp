@@ -23,7 +23,7 @@ frmSerialNumber::frmSerialNumber() : ui_(std::make_unique<Ui::frmSerialNumber>()
     ui_->chkAllTypes->setChecked(false);
     LoadSerials();
   });
-  connect(ui_->lst, &List::ListChange, this, &frmSerialNumber::ShowComponent);
+  connect(ui_->lst, &List::ListChange, this, &frmSerialNumber::ShowDetails);
   connect(ui_->lst, &List::ItemDoubleClick, this, &frmSerialNumber::Select);
   connect(ui_->cmdSelect, &QPushButton::clicked, this, &frmSerialNumber::Select);
   connect(ui_->cmdEdit, &QPushButton::clicked, this, &frmSerialNumber::Edit);
@@ -47,7 +47,7 @@ void frmSerialNumber::LoadSerials() {
   const bool all = ui_->chkAllTypes->isChecked();
   ui_->lst->Fill(::LoadSerials(all ? 0 : ui_->lstTypes->ItemData(ui_->lstTypes->ListIndex())));
   FindTyped(ui_->txtSerial->text());
-  ShowComponent();
+  ShowDetails();
 }
 
 void frmSerialNumber::FindTyped(const QString& typed) {
@@ -60,7 +60,7 @@ void frmSerialNumber::FindTyped(const QString& typed) {
   }
 }
 
-void frmSerialNumber::ShowComponent() {
+void frmSerialNumber::ShowDetails() {
   const int component = Component();
   const ComponentDetails details = component == 0 ? ComponentDetails() : DetailsOf(component);
   ui_->lblModel->setText(details.model);
@@ -83,10 +83,10 @@ void frmSerialNumber::Edit() {
     MsgBox(u"You must select a component first"_s, u"Nothing selected"_s);
     return;
   }
-  const int edited = EditComponent(Component());
-  if (edited == 0) return;
+  const int component = Component();
+  ShowComponent(component);
   LoadSerials();
-  ui_->lst->SelectData(edited);
+  ui_->lst->SelectData(component);
 }
 
 void frmSerialNumber::ShowRig() {
@@ -96,5 +96,5 @@ void frmSerialNumber::ShowRig() {
     MsgBox(u"This "_s + TypeInSentence(ComponentTypeOf(component)) + u" isn't part of a rig"_s, u"No rig"_s);
     return;
   }
-  if (component != 0) ShowRigs({.rig = rig, .hideButtons = true});
+  if (component != 0) ::ShowRig(rig);
 }

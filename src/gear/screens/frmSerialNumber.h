@@ -20,7 +20,7 @@ class frmSerialNumber : public Form {
  private:
   void LoadSerials();
   void FindTyped(const QString& typed);
-  void ShowComponent();
+  void ShowDetails();
   void Select();
   void Edit();
   void ShowRig();

@@ -1,6 +1,7 @@
 #include "gear/screens/rig_browser.h"
 
 #include "gear/people.h"
+#include "gear/person_record.h"
 #include "gear/rig_rules.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
@@ -55,12 +56,20 @@ RigBrowser::RigBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<
     if (!loading_) SetPhotosHidden(hidden);
     ShowPhotos();
   });
+  for (QLabel* photo : {ui_->imageRig, ui_->lblRigPhoto, ui_->imageCanopy, ui_->lblCanopyPhoto})
+    photo->installEventFilter(this);
   connect(ui_->grid, &Grid::CellDoubleClick, this, &RigBrowser::ComponentWanted);
   connect(ui_->grid, &Grid::CellEnter, this, &RigBrowser::ComponentWanted);
+  connect(ui_->grid, &Grid::CellF2, this, &RigBrowser::QuickEditWanted);
   connect(ui_->grid, &Grid::CellChange, this, &RigBrowser::ComponentRowChange);
 }
 
 RigBrowser::~RigBrowser() = default;
+
+bool RigBrowser::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease) Q_EMIT PhotoClick();
+  return QWidget::eventFilter(watched, event);
+}
 
 void RigBrowser::AddBelowGrid(QWidget* panel) { ui_->below->addWidget(panel); }
 
@@ -115,14 +124,15 @@ void RigBrowser::LoadRigList() {
   ui_->lblSystems->setText(rigType_ == 0 ? u"Rigs (all types)"_s : u"Rigs ("_s + type + u')');
 }
 
-void RigBrowser::ReloadLists() {
+bool RigBrowser::ReloadLists() {
   LoadCustomerList();
   LoadRigList();
-  if (ui_->lstGear->FindData(rig_) < 0) {
-    ChooseRig(ShowsSelectedOnly() ? ui_->lstGear->ItemData(0) : 0);
-  } else {
+  if (rig_ != 0 && ui_->lstGear->FindData(rig_) >= 0) {
     ShowNotices();
+    return false;
   }
+  ChooseRig(ShowsSelectedOnly() ? ui_->lstGear->ItemData(0) : 0);
+  return true;
 }
 
 void RigBrowser::SelectCustomer(int id) {
@@ -139,6 +149,7 @@ void RigBrowser::ShowCustomer(int id) {
 bool RigBrowser::IsUnassigned() const { return rig_ != 0 && !PersonExists(RigOwner(rig_)); }
 
 void RigBrowser::ChooseCustomer(int id) {
+  SetLastCustomerID(id);
   const bool assigned = IsUnassigned() && ui_->fraDisplay->isEnabled() && AssignRig(rig_, id);
   const int rig = assigned ? rig_ : FirstRigOf(id);
   ShowCustomer(id);

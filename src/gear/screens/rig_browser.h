@@ -35,7 +35,7 @@ class RigBrowser : public QWidget {
   void SelectCustomer(int id);
   void SelectRig(int id);
   void SelectComponentRow(int row);
-  void ReloadLists();  ///< both lists, keeping what is selected
+  bool ReloadLists();  ///< both lists, keeping what is selected; true when that had gone and another rig is shown
   void ReloadRig();    ///< the grid and the photos
   void FocusRigs();
 
@@ -44,10 +44,15 @@ class RigBrowser : public QWidget {
   void CustomerShown(int customer);
   void SearchWanted();
   void ComponentWanted();  ///< double click or Enter in the grid
+  void QuickEditWanted();  ///< F2 in the grid
   void ComponentRowChange();
   void CommentsWanted();
+  void PhotoClick();
   void RigDeleteWanted();
   void RigWanted();  ///< double click or Enter in the list of rigs
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void LoadCustomerList();

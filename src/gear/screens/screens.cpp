@@ -1,10 +1,15 @@
 #include "gear/screens.h"
 
 #include "core/prompts.h"
+#include "gear/components.h"
+#include "gear/models.h"
+#include "gear/screens/frmComponent.h"
 #include "gear/screens/frmComponentEdit.h"
 #include "gear/screens/frmComponentVerify.h"
+#include "gear/screens/frmCurrentComponents.h"
 #include "gear/screens/frmDeleteSystem.h"
 #include "gear/screens/frmGetRig.h"
+#include "gear/screens/frmModel.h"
 #include "gear/screens/frmNewOrOld.h"
 #include "gear/screens/frmPeople.h"
 #include "gear/screens/frmPickComponent.h"
@@ -12,6 +17,19 @@
 #include "gear/screens/frmSerialNumber.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+int EditEntry(const ComponentEntry& entry) {
+  auto& form = SharedForm<frmComponentEdit>();
+  form.SetEntry(entry);
+  form.ShowModal();
+  const int result = form.Result();
+  form.UnloadForm();
+  return result;
+}
+
+}  // namespace
 
 int ShowPeople(int start, bool ownerSetup) {
   auto& form = SharedForm<frmPeople>();
@@ -51,6 +69,20 @@ void OpenRigs(const RigScreenStart& start) {
   form.Show();
 }
 
+void ShowRig(int rig) {
+  if (Forms::IsShown(u"frmGetRig"_s))
+    ConfirmRigDeletion(rig, true);
+  else
+    ShowRigs({.rig = rig, .hideButtons = true});
+}
+
+void ShowCurrentComponents(int rig) {
+  auto& form = SharedForm<frmCurrentComponents>();
+  form.SetRig(rig);
+  form.ShowModal();
+  form.UnloadForm();
+}
+
 bool PickRig(int& rig, int& customer, int rigType) {
   auto& form = SharedForm<frmPickRig>();
   form.SetStart(customer, rig, rigType);
@@ -84,16 +116,34 @@ QString AskNewOrOld(int componentType) {
   return command;
 }
 
+void ShowComponent(int component) {
+  if (!ComponentExists(component)) return;
+  auto& form = SharedForm<frmComponent>();
+  form.SetComponent(component);
+  if (form.FormIsShown()) {
+    form.Show();
+    return;
+  }
+  form.ShowModal();
+  form.UnloadForm();
+}
+
+bool EditComponentQuickly(int component) {
+  if (!ComponentExists(component)) return false;
+  auto& form = SharedForm<frmModel>();
+  form.SetComponent(component);
+  form.ShowModal();
+  const bool saved = form.Tag() == "save"_L1;
+  form.UnloadForm();
+  return saved;
+}
+
 int EditComponent(int component) {
   ComponentEntry entry;
-  if (!LoadComponentEntry(component, entry)) return 0;
-  auto& form = SharedForm<frmComponentEdit>();
-  form.SetEntry(entry);
-  form.ShowModal();
-  const int result = form.Result();
-  form.UnloadForm();
-  return result;
+  return LoadComponentEntry(component, entry) ? EditEntry(entry) : 0;
 }
+
+int EnterNewComponent(int model) { return EditEntry({.model = model, .type = ModelType(model)}); }
 
 bool VerifyComponent(int component, const QString& caption, bool exitOnly) {
   auto& form = SharedForm<frmComponentVerify>();
@@ -113,9 +163,9 @@ int PickComponentBySerial(int componentType, const QString& serial) {
   return component;
 }
 
-int PickComponent(int componentType) {
+int PickComponent(int componentType, int owner) {
   auto& form = SharedForm<frmPickComponent>();
-  form.SetComponentType(componentType);
+  form.SetChoice(componentType, owner);
   form.ShowModal();
   const int component = form.Tag() == "select"_L1 ? form.Component() : 0;
   form.UnloadForm();

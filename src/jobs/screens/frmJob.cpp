@@ -12,6 +12,7 @@
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
+#include "gear/screens.h"
 #include "jobs/delete_job.h"
 #include "jobs/job_components.h"
 #include "jobs/job_records.h"
@@ -76,7 +77,7 @@ void frmJob::ConnectControls() {
   connect(ui_->cmdPrev, &QPushButton::clicked, this, [this] { Step(&PreviousJobID, false); });
   connect(ui_->cmdNext, &QPushButton::clicked, this, [this] { Step(&NextJobID, true); });
   connect(ui_->cmdGearChange, &QPushButton::clicked, this, &frmJob::ExplainGearChange);
-  ui_->cmdCurrentComp->setEnabled(false);
+  connect(ui_->cmdCurrentComp, &QPushButton::clicked, this, [this] { ShowCurrentComponents(job_.rigID); });
   connect(ui_->cmdHelp, &QPushButton::clicked, this, [] {
     MsgBox(u"When all tasks have status COMPLETED, the job status is updated to COMPLETED."_s, u"Jobs"_s);
   });

@@ -1,158 +1,41 @@
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTest>
 
-#include "core/default_rows.h"
-#include "core/widgets/form.h"
-#include "core/widgets/grid.h"
-#include "core/widgets/list.h"
-#include "gear/components.h"
-#include "gear/models.h"
-#include "gear/person_names.h"
-#include "gear/rigs.h"
-#include "gear/screens.h"
-#include "support/screens/controls.h"
-#include "support/screens/screen_script.h"
-#include "support/scripted_prompts.h"
-#include "support/throwaway_loft.h"
+#include "gear/rig_rules.h"
+#include "gear/screens/rig_shop.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Gear {
-  ThrowAwayLoft loft;
-  int ann = Named(u"Ann Jones"_s);
-  int red = CreateRig(ann, 1, u"Red"_s);
-  int storm = AddModel(u"Storm"_s, kMainCanopy);
-  int canopy = NewComponent(storm, kMainCanopy, red, u"S1"_s);
-  int spare = NewComponent(storm, kMainCanopy, 0, u"S2"_s);
+QList<int> Ids(Form& form) {
+  QList<int> ids;
+  for (int row = 0; row < Components(form).RowCount(); ++row) ids << Components(form).RowData(row);
+  return ids;
+}
 
-  static int Named(const QString& name) {
-    int id = 0;
-    AddPersonByName(name, id);
-    return id;
-  }
-};
+/// The picker of components of a type, as long as a routine acts on it; what was chosen.
+int OnPicker(RigShop& shop, int type, const std::function<void(Form&)>& act, int owner = 0) {
+  shop.screens.WhenShown(u"frmPickComponent"_s, act);
+  return PickComponent(type, owner);
+}
+
+int OnSerials(RigShop& shop, int type, const QString& serial, const std::function<void(Form&)>& act) {
+  shop.screens.WhenShown(u"frmSerialNumber"_s, act);
+  return PickComponentBySerial(type, serial);
+}
 
 }  // namespace
 
+/// How a component is found: by a typed serial number, from the database, in the list of serial numbers.
 class TestComponentScreens : public QObject {
   Q_OBJECT
  private Q_SLOTS:
   void initTestCase() { IsolateSettings(); }
   void cleanup() { UnloadScreens(); }
 
-  void EditsAComponent() {
-    Gear gear;
-    const QStringList before = gear.loft.Snapshot();
-    ScriptedPrompts prompts;
-    ScreenScript screens;
-    screens.WhenShown(u"frmComponentEdit"_s, [&](Form& form) {
-      QCOMPARE(form.windowTitle(), u"Edit component"_s);
-      QCOMPARE(TextOf(form, u"lblSubType"_s), u"Canopy Size:"_s);
-      QCOMPARE(TextOf(form, u"txtSerial"_s), u"S1"_s);
-      QCOMPARE(TextOf(form, u"txtDom"_s), QString());
-      QCOMPARE(TextOf(form, u"txtJumps"_s), QString());
-      TypeInto(form, u"txtSubType"_s, u"150"_s);
-      TypeInto(form, u"txtColor"_s, u"red and blue"_s);
-      TypeInto(form, u"txtJumps"_s, u"1,000"_s);
-      TypeInto(form, u"txtDom"_s, u"soon"_s);
-      prompts.ExpectBox(u"DOM is invalid!"_s, u"soon is not a valid date"_s);
-      Click(form, u"cmdSave"_s);
-      TypeInto(form, u"txtDom"_s, u"1\\14\\2015"_s);
-      TypeInto(form, u"txtJumps"_s, u"9999999999"_s);
-      prompts.ExpectBox(kProgramTitle, u"Number jumps field is too high"_s);
-      Click(form, u"cmdSave"_s);
-      TypeInto(form, u"txtJumps"_s, u"1,000"_s);
-      Picture(form, u"frmComponentEdit"_s);
-      Click(form, u"cmdSave"_s);
-    });
-    QCOMPARE(EditComponent(gear.canopy), gear.canopy);
-    QCOMPARE(gear.loft.ChangesSince(before),
-             QStringList({u"-tblComponents|1|1|2|0|| |1||0|0|S1|1|0|"_s,
-                          u"+tblComponents|1|1|2|42018|150| |1|red and blue|0|1000|S1|1|0|"_s}));
-  }
-
-  void CancelWritesNothing() {
-    Gear gear;
-    const QStringList before = gear.loft.Snapshot();
-    ScreenScript screens;
-    screens.WhenShown(u"frmComponentEdit"_s, [](Form& form) {
-      TypeInto(form, u"txtSerial"_s, u"X"_s);
-      PressKey(form, Qt::Key_Escape);
-    });
-    QCOMPARE(EditComponent(gear.canopy), 0);
-    QCOMPARE(gear.loft.ChangesSince(before), QStringList());
-  }
-
-  void ASerialInUseShowsWhoHasIt() {
-    Gear gear;
-    const QStringList before = gear.loft.Snapshot();
-    ScriptedPrompts prompts;
-    ScreenScript screens;
-    screens.WhenShown(u"frmComponentEdit"_s, [&](Form& form) {
-      TypeInto(form, u"txtSerial"_s, u"s1 "_s);
-      prompts.ExpectBox(kProgramTitle, u"That serial number is already being used\nby the component shown here"_s);
-      Click(form, u"cmdSave"_s);
-      QVERIFY(form.isVisible());
-      Click(form, u"cmdCancel"_s);
-    });
-    screens.WhenShown(u"frmComponentVerify"_s, [](Form& form) {
-      QCOMPARE(form.windowTitle(), u"Serial number already exists for this model"_s);
-      QCOMPARE(TextOf(form, u"lblSerial"_s), u"S1"_s);
-      QCOMPARE(TextOf(form, u"lblRig"_s), u"Red"_s);
-      QVERIFY(!Control<QPushButton>(form, u"cmdYes"_s).isVisible());
-      QCOMPARE(TextOf(form, u"cmdNo"_s), u"Exit"_s);
-      Click(form, u"cmdNo"_s);
-    });
-    QCOMPARE(EditComponent(gear.spare), 0);
-    QCOMPARE(gear.loft.ChangesSince(before), QStringList());
-  }
-
-  void SeveralMatchesAreRefused() {
-    Gear gear;
-    NewComponent(gear.storm, kMainCanopy, 0, u"S1"_s);
-    ScriptedPrompts prompts;
-    ScreenScript screens;
-    screens.WhenShown(u"frmComponentEdit"_s, [&](Form& form) {
-      TypeInto(form, u"txtSerial"_s, u"S1"_s);
-      prompts.ExpectBox(kProgramTitle, u"there are 2 matching s/n for this model"_s);
-      Click(form, u"cmdSave"_s);
-      Click(form, u"cmdCancel"_s);
-    });
-    EditComponent(gear.spare);
-    QCOMPARE(ComponentSerial(gear.spare), u"S2"_s);
-  }
-
-  void EnterGoesFromBoxToBox() {
-    Gear gear;
-    ScreenScript screens;
-    screens.WhenShown(u"frmComponentEdit"_s, [](Form& form) {
-      PressKey(form, u"txtSubType"_s, Qt::Key_Return);
-      QCOMPARE(form.focusWidget(), &Control<QWidget>(form, u"txtSerial"_s));
-      PressKey(form, u"txtSerial"_s, Qt::Key_Down);
-      QCOMPARE(form.focusWidget(), &Control<QWidget>(form, u"txtColor"_s));
-      PressKey(form, u"txtColor"_s, Qt::Key_Up);
-      QCOMPARE(form.focusWidget(), &Control<QWidget>(form, u"txtSerial"_s));
-      QVERIFY(form.isVisible());
-      Click(form, u"cmdCancel"_s);
-    });
-    QCOMPARE(EditComponent(gear.canopy), 0);
-  }
-
-  void AComponentThatHasGoneIsNotEdited() {
-    Gear gear;
-    ScreenScript screens;
-    QCOMPARE(EditComponent(99), 0);
-  }
-
   void ATypedSerialAnswersForTheEmptyPlace() {
-    Gear gear;
-    ScriptedPrompts prompts;
-    ScreenScript screens;
-    screens.WhenShown(u"frmNewOrOld"_s, [&](Form& form) {
+    RigShop shop;
+    shop.screens.WhenShown(u"frmNewOrOld"_s, [&](Form& form) {
       QCOMPARE(form.windowTitle(), u"New main canopy"_s);
       Click(form, u"cmdEnter"_s);
       QVERIFY(form.isVisible());
@@ -160,121 +43,330 @@ class TestComponentScreens : public QObject {
       const QString text =
           u"Serial number X9 is not found in the Main Canopy database\n"
           "Would you like to create a new Main Canopy using that serial number?"_s;
-      prompts.Expect(u"Add new Main Canopy?"_s, text, Answer::No);
+      shop.prompts.Expect(u"Add new Main Canopy?"_s, text, Answer::No)
+          .WithButtons(Buttons::YesNo)
+          .WithPreset(Answer::No);
       Click(form, u"cmdEnter"_s);
       QVERIFY(form.isVisible());
-      prompts.Expect(u"Add new Main Canopy?"_s, text, Answer::Yes);
+      shop.prompts.Expect(u"Add new Main Canopy?"_s, text, Answer::Yes);
       Click(form, u"cmdEnter"_s);
     });
     QCOMPARE(AskNewOrOld(kMainCanopy), u"new with s/n:X9"_s);
-    screens.WhenShown(u"frmNewOrOld"_s, [](Form& form) {
+    shop.screens.WhenShown(u"frmNewOrOld"_s, [](Form& form) {
       QCOMPARE(form.windowTitle(), u"New Component"_s);
       PressKey(form, Qt::Key_Escape);
     });
     QCOMPARE(AskNewOrOld(0), u"cancel"_s);
   }
 
-  void PicksFromTheDatabase() {
-    Gear gear;
-    const int bob = Gear::Named(u"Bob Smith"_s);
+  void SeveralMatchesMayBeLeft() {
+    RigShop shop;
+    NewComponent(AddModel(u"Pilot"_s, kMainCanopy), kMainCanopy, 0, u"s1"_s);
+    shop.screens.WhenShown(u"frmNewOrOld"_s, [&](Form& form) {
+      TypeInto(form, u"txtSerial"_s, u"S1 "_s);
+      shop.prompts.Expect(u"Serial number S1 has 2 matches"_s,
+                          u"The Main Canopy database shows 2 components with that serial number\n"
+                          "Would you like to see them?"_s,
+                          Answer::No);
+      PressKey(form, u"txtSerial"_s, Qt::Key_Return);
+    });
+    QCOMPARE(AskNewOrOld(kMainCanopy), u"cancel"_s);
+  }
+
+  void ListsTheComponentsOfAType() {
+    RigShop shop;
+    SetComponentOwner(shop.canopy, 0);
     const int pilot = NewComponent(AddModel(u"Pilot"_s, kMainCanopy), kMainCanopy, 0);
-    SetComponentOwner(pilot, bob);
-    SetComponentOwner(gear.canopy, 0);
-    const int lost = NewComponent(AddModel(u"Vigil"_s, kAad), 0, 0, u"V1"_s);
-    gear.loft.Run(u"update tblComponents set DOM = #1/14/2015# where ID = "_s + QString::number(gear.spare));
-    ScriptedPrompts prompts;
-    ScreenScript screens;
-    screens.WhenShown(u"frmPickComponent"_s, [&](Form& form) {
-      auto& grid = Control<Grid>(form, u"Grid"_s);
-      const auto ids = [&grid] {
-        QList<int> shown;
-        for (int row = 0; row < grid.RowCount(); ++row) shown << grid.RowData(row);
-        return shown;
-      };
-      QCOMPARE(ids(), QList<int>({gear.canopy, gear.spare, pilot}));
-      QCOMPARE(grid.Text(0, 1), u"Red"_s);
-      QCOMPARE(grid.Text(0, 2), u"(none)"_s);
-      QCOMPARE(grid.Text(1, 1), u"(no rig)"_s);
-      QCOMPARE(grid.Text(1, 4), u"01/14/2015"_s);
-      QCOMPARE(grid.Text(1, 5), u"20150114"_s);
-      QCOMPARE(grid.Text(2, 3), u"(none)"_s);
+    shop.loft.Run(u"update tblComponents set DOM = #1/14/2015# where ID = %1"_s.arg(shop.spare));
+    const int picked = OnPicker(shop, kMainCanopy, [&](Form& form) {
+      QCOMPARE(form.windowTitle(), u"Select component"_s);
+      QCOMPARE(RowsOf(Components(form)), QStringList({u"Storm |Red|(none)|S1|||2|0|1"_s,
+                                                      u"Storm |(no rig)|Jones, Ann|S2|01/14/2015|20150114|3|1|0"_s,
+                                                      u"Pilot |(no rig)|(none)|(none)|||4|0|0"_s}));
       QTest::qWait(0);
       Picture(form, u"frmPickComponent"_s);
-      prompts.ExpectBox(u"Nothing selected"_s, u"Please select a component"_s);
+      shop.prompts.ExpectBox(u"Nothing selected"_s, u"Please select a component"_s);
       Click(form, u"cmdSelect"_s);
+      shop.prompts.ExpectBox(u"Nothing selected"_s, u"Please select a component"_s);
+      PressKey(Components(form), Qt::Key_Delete);
       PressKey(form, u"optInRig"_s, Qt::Key_Space);
-      QCOMPARE(ids(), QList<int>({gear.canopy}));
+      QCOMPARE(Ids(form), QList<int>({shop.canopy}));
       PressKey(form, u"optNotInRig"_s, Qt::Key_Space);
-      QCOMPARE(ids(), QList<int>({gear.spare, pilot}));
+      QCOMPARE(Ids(form), QList<int>({shop.spare, pilot}));
       PressKey(form, u"optBoth"_s, Qt::Key_Space);
-      Click(form, u"cmdSelectCustomer"_s);
-      QCOMPARE(ids(), QList<int>({pilot}));
-      QCOMPARE(TextOf(form, u"lblOwner"_s), u"Customer: Bob Smith"_s);
-      PressKey(form, u"optAnyOwner"_s, Qt::Key_Space);
-      prompts.Expect(u"Show all models?"_s, u"Would you like to show a selected model only?"_s, Answer::Yes);
-      Click(form, u"lblModels"_s);
-      QCOMPARE(ids(), QList<int>({gear.canopy, gear.spare}));
-      prompts.Expect(u"Show all models?"_s, u"Would you like to show all models?"_s, Answer::Yes);
-      Click(form, u"lblModels"_s);
-      QCOMPARE(ids().size(), 3);
-      ClickCell(grid, 2, 0);
-      prompts.Expect(u"Delete Main Canopy"_s, u"Are you sure you want to delete Pilot ?"_s, Answer::Yes);
-      PressKey(grid, Qt::Key_Delete);
-      QCOMPARE(ids().size(), 2);
       PressKey(form, u"chkAllTypes"_s, Qt::Key_Space);
-      QCOMPARE(ids().first(), lost);
-      prompts.ExpectBox(kProgramTitle,
-                        u"This component has lost its component type\n\n     Vigil \n\n"
-                        "Please select a component type on the next screen"_s);
-      prompts.Expect(kProgramTitle, u"Vigil  = AAD?\nIs this correct?"_s, Answer::Yes);
+      QCOMPARE(Ids(form), QList<int>({shop.container, shop.canopy, shop.spare, pilot}));
+      ClickCell(Components(form), 2, 0);
+      PressKey(Components(form), Qt::Key_Return);
+    });
+    QCOMPARE(picked, shop.spare);
+    QCOMPARE(OnPicker(shop, kMainCanopy, [](Form& form) { PressKey(form, Qt::Key_Escape); }), 0);
+    QCOMPARE(OnPicker(shop, kMainCanopy, [](Form& form) { Click(form, u"cmdCancel"_s); }), 0);
+  }
+
+  void AnOwnerLimitsTheList() {
+    RigShop shop;
+    const int pilot = NewComponent(AddModel(u"Pilot"_s, kMainCanopy), kMainCanopy, 0);
+    SetComponentOwner(pilot, shop.bob);
+    OnPicker(
+        shop, kMainCanopy,
+        [&](Form& form) {
+          QCOMPARE(Ids(form), QList<int>({pilot}));
+          QCOMPARE(TextOf(form, u"lblOwner"_s), u"Customer: Bob Smith"_s);
+          PressKey(form, u"optAnyOwner"_s, Qt::Key_Space);
+          QCOMPARE(Ids(form).size(), 3);
+          shop.Pick(u"jones"_s);
+          Click(form, u"cmdSelectCustomer"_s);
+          QCOMPARE(Ids(form), QList<int>({shop.canopy, shop.spare}));
+          QCOMPARE(TextOf(form, u"lblOwner"_s), u"Customer: Ann Jones"_s);
+          PressKey(form, Qt::Key_Escape);
+        },
+        shop.bob);
+    OnPicker(shop, kMainCanopy, [&](Form& form) {
+      QCOMPARE(TextOf(form, u"lblOwner"_s), u"Owner:  (none)"_s);
+      shop.Leave(u"frmPicker"_s);
+      PressKey(form, u"optSelectedOwner"_s, Qt::Key_Space);
+      QCOMPARE(Ids(form).size(), 3);
+      shop.Pick(u"smith"_s);
+      PressKey(form, u"optSelectedOwner"_s, Qt::Key_Space);
+      QCOMPARE(Ids(form), QList<int>({pilot}));
+      PressKey(form, Qt::Key_Escape);
+    });
+  }
+
+  void AModelLimitsTheList() {
+    RigShop shop;
+    const int pilot = NewComponent(AddModel(u"Pilot"_s, kMainCanopy), kMainCanopy, 0);
+    OnPicker(shop, kMainCanopy, [&](Form& form) {
+      const QString one = u"Would you like to show a selected model only?"_s;
+      shop.prompts.Expect(u"Show all models?"_s, one, Answer::No);
+      Click(form, u"lblModels"_s);
+      QCOMPARE(Ids(form).size(), 3);
+      shop.Pick(u"pilot"_s);
+      shop.prompts.Expect(u"Show all models?"_s, one, Answer::Yes);
+      Click(form, u"lblModels"_s);
+      QCOMPARE(Ids(form), QList<int>({pilot}));
+      QCOMPARE(TextOf(form, u"lblModels"_s), u"Showing Pilot only"_s);
+      shop.prompts.Expect(u"Show all models?"_s, u"Would you like to show all models?"_s, Answer::Yes);
+      Click(form, u"lblModels"_s);
+      QCOMPARE(Ids(form).size(), 3);
+      QCOMPARE(TextOf(form, u"lblModels"_s), u"Showing all models"_s);
+      PressKey(form, Qt::Key_Escape);
+    });
+  }
+
+  void HeadingsSortDatesByTheCalendar() {
+    RigShop shop;
+    shop.loft.Run(u"update tblComponents set DOM = #2/1/2015# where ID = %1"_s.arg(shop.canopy));
+    shop.loft.Run(u"update tblComponents set DOM = #1/1/2016# where ID = %1"_s.arg(shop.spare));
+    OnPicker(shop, kMainCanopy, [&](Form& form) {
+      ClickHeading(Components(form), 4);
+      QCOMPARE(Ids(form), QList<int>({shop.canopy, shop.spare}));
+      ClickHeading(Components(form), 4);
+      QCOMPARE(Ids(form), QList<int>({shop.spare, shop.canopy}));
+      PressKey(form, Qt::Key_Escape);
+    });
+  }
+
+  void ChoosingARowRepairsTheOwner() {
+    RigShop shop;
+    SetComponentOwner(shop.canopy, 0);
+    SetComponentOwner(shop.spare, 0);
+    OnPicker(shop, kMainCanopy, [&](Form& form) {
+      QCOMPARE(ComponentOwner(shop.canopy), 0);
+      ClickCell(Components(form), 0, 0);
+      QCOMPARE(ComponentOwner(shop.canopy), shop.ann);
+      ClickCell(Components(form), 1, 0);
+      QCOMPARE(ComponentOwner(shop.spare), 0);
+      PressKey(form, Qt::Key_Escape);
+    });
+  }
+
+  void ALostTypeIsAskedFor() {
+    RigShop shop;
+    const int lost = NewComponent(AddModel(u"Vigil"_s, kAad), 0, 0, u"V1"_s);
+    const QString told =
+        u"This component has lost its component type\n\n     Vigil \n\n"
+        "Please select a component type on the next screen"_s;
+    OnPicker(shop, 0, [&](Form& form) {
+      auto& grid = Components(form);
+      QCOMPARE(Ids(form).first(), lost);
+      shop.prompts.ExpectBox(kProgramTitle, told);
+      shop.Leave(u"frmPicker"_s);
+      shop.prompts.ExpectBox(kProgramTitle, u"You must select a component type"_s);
       ClickCell(grid, 0, 0);
       ClickCell(grid, 1, 0);
-      Click(form, u"cmdSelect"_s);
+      shop.prompts.ExpectBox(kProgramTitle, told);
+      shop.Pick(u"aad"_s);
+      shop.prompts.Expect(kProgramTitle, u"Vigil  = AAD?\nIs this correct?"_s, Answer::No);
+      ClickCell(grid, 0, 0);
+      QCOMPARE(ComponentTypeOf(lost), 0);
+      ClickCell(grid, 1, 0);
+      shop.prompts.ExpectBox(kProgramTitle, told);
+      shop.Pick(u"aad"_s);
+      shop.prompts.Expect(kProgramTitle, u"Vigil  = AAD?\nIs this correct?"_s, Answer::Yes);
+      ClickCell(grid, 0, 0);
+      QCOMPARE(ComponentTypeOf(lost), int{kAad});
+      PressKey(form, Qt::Key_Escape);
     });
-    screens.WhenShown(u"frmPicker"_s, [](Form& form) {
-      TypeInto(form, u"txt"_s, u"smith"_s);
-      Click(form, u"cmdSelect"_s);
+  }
+
+  void ARowChosenWhileOneIsChosenIsTold() {
+    RigShop shop;
+    NewComponent(AddModel(u"Vigil"_s, kAad), 0, 0, u"V1"_s);
+    OnPicker(shop, 0, [&](Form& form) {
+      shop.prompts
+          .ExpectBox(kProgramTitle,
+                     u"This component has lost its component type\n\n     Vigil \n\n"
+                     "Please select a component type on the next screen"_s)
+          .Meanwhile([&] { Components(form).SelectRow(1); });
+      shop.prompts.ExpectBox(kProgramTitle, u"ignoreme is already true - look into this"_s);
+      shop.Leave(u"frmPicker"_s);
+      shop.prompts.ExpectBox(kProgramTitle, u"You must select a component type"_s);
+      ClickCell(Components(form), 0, 0);
+      PressKey(form, Qt::Key_Escape);
     });
-    for (const auto& text : {u"storm"_s, u"aad"_s})
-      screens.WhenShown(u"frmPicker"_s, [text](Form& form) {
-        TypeInto(form, u"txt"_s, text);
-        Click(form, u"cmdSelect"_s);
-      });
-    QCOMPARE(PickComponent(kMainCanopy), gear.canopy);
-    QCOMPARE(ComponentOwner(gear.canopy), gear.ann);
-    QCOMPARE(ComponentTypeOf(lost), int{kAad});
-    QVERIFY(!ComponentExists(pilot));
+  }
+
+  void SelectingPutsTheTypeRight() {
+    RigShop shop;
+    SetComponentType(shop.spare, kAad);
+    const int picked = OnPicker(shop, kAad, [](Form& form) { DoubleClickCell(Components(form), 0, 0); });
+    QCOMPARE(picked, shop.spare);
+    QCOMPARE(ComponentTypeOf(shop.spare), int{kMainCanopy});
+  }
+
+  void DeletesAComponentThatNothingUses() {
+    RigShop shop;
+    const QStringList before = shop.loft.Snapshot();
+    OnPicker(shop, kMainCanopy, [&](Form& form) {
+      ClickCell(Components(form), 1, 0);
+      const QString question = u"Are you sure you want to delete Storm ?"_s;
+      shop.prompts.Expect(u"Delete Main Canopy"_s, question, Answer::No)
+          .WithButtons(Buttons::YesNo)
+          .WithPreset(Answer::No);
+      PressKey(Components(form), Qt::Key_Delete);
+      QCOMPARE(shop.Touched(before), QStringList());
+      shop.prompts.Expect(u"Delete Main Canopy"_s, question, Answer::Yes);
+      PressKey(Components(form), Qt::Key_Delete);
+      QCOMPARE(Ids(form), QList<int>({shop.canopy}));
+      PressKey(form, Qt::Key_Escape);
+    });
+    QCOMPARE(shop.Touched(before), QStringList(u"-tblComponents|3"_s));
+  }
+
+  void DeletingAUsedComponentTakesItsRowsAndNoOthers() {
+    RigShop shop;
+    for (int component : {shop.canopy, shop.container}) {
+      shop.loft.Add(u"tblJobComponents"_s, {{u"JobID"_s, 1}, {u"ComponentID"_s, component}});
+      shop.loft.Add(u"tblTaskComponents"_s, {{u"TaskID"_s, 1}, {u"CompID"_s, component}});
+      shop.loft.Add(u"tblSchedules"_s, {{u"rigID"_s, shop.red}, {u"ComponentID"_s, component}});
+    }
+    const QStringList before = shop.loft.Snapshot();
+    const QString question =
+        u"This item, Storm , is being used:\n    as part of a rig\n    is used in one or more jobs\n"
+        "    is used in one or more tasks\n    is used in one or more schedules\n"
+        "Deleting this component will affect the above items\n(You can see a list of these from the REPORTS menu)\n"
+        "Are you sure you want to delete this component?\n(not recommended)"_s;
+    OnPicker(shop, kMainCanopy, [&](Form& form) {
+      ClickCell(Components(form), 0, 0);
+      shop.prompts.Expect(u"Deleting NOT recommended"_s, question, Answer::No)
+          .WithButtons(Buttons::YesNo)
+          .WithPreset(Answer::No);
+      PressKey(Components(form), Qt::Key_Delete);
+      QCOMPARE(shop.Touched(before), QStringList());
+      shop.prompts.Expect(u"Deleting NOT recommended"_s, question, Answer::Yes);
+      PressKey(Components(form), Qt::Key_Delete);
+      PressKey(form, Qt::Key_Escape);
+    });
+    QCOMPARE(shop.Touched(before), QStringList({u"-tblComponents|2"_s, u"-tblJobComponents|1"_s, u"-tblSchedules|1"_s,
+                                                u"-tblTaskComponents|1"_s}));
+  }
+
+  void HidingThePhotoIsRemembered() {
+    RigShop shop;
+    OnPicker(shop, kMainCanopy, [](Form& form) {
+      QVERIFY(IsShown(form, u"imageComponent"_s));
+      Click(form, u"chkHidePhoto"_s);
+      QVERIFY(!IsShown(form, u"imageComponent"_s));
+      PressKey(form, Qt::Key_Escape);
+    });
+    QVERIFY(PhotosAreHidden());
   }
 
   void LooksUpASerial() {
-    Gear gear;
+    RigShop shop;
     NewComponent(AddModel(u"Vigil"_s, kAad), kAad, 0, u"S10"_s);
-    ScriptedPrompts prompts;
-    ScreenScript screens;
-    screens.WhenShown(u"frmSerialNumber"_s, [&](Form& form) {
+    NewComponent(shop.storm, kMainCanopy, 0, QString());
+    const int picked = OnSerials(shop, kMainCanopy, u"S1"_s, [&](Form& form) {
       QCOMPARE(form.windowTitle(), u"Serial Number Look Up"_s);
       auto& serials = Control<List>(form, u"lst"_s);
       QCOMPARE(serials.Count(), 2);
-      QCOMPARE(serials.ItemText(serials.ListIndex()), u"S1"_s);
+      QCOMPARE(Selected(serials), u"S1"_s);
+      QCOMPARE(TextOf(form, u"lblModel"_s), u"Storm "_s);
+      QCOMPARE(TextOf(form, u"lblOwner"_s), u"Ann Jones"_s);
+      QCOMPARE(TextOf(form, u"lblType"_s), u"Main Canopy"_s);
+      QCOMPARE(TextOf(form, u"lblDom"_s), u"(not entered)"_s);
       QCOMPARE(TextOf(form, u"lblRig"_s), u"Red"_s);
-      QVERIFY(!Control<QWidget>(form, u"lblNoSystem"_s).isVisible());
+      QVERIFY(!IsShown(form, u"lblNoSystem"_s));
       TypeInto(form, u"txtSerial"_s, u" s2"_s);
       QCOMPARE(TextOf(form, u"lblSerial"_s), u"S2"_s);
-      QVERIFY(Control<QWidget>(form, u"lblNoSystem"_s).isVisible());
+      QVERIFY(IsShown(form, u"lblNoSystem"_s));
+      QCOMPARE(TextOf(form, u"lblNoSystem"_s), u"This component is not part of a system"_s);
       Picture(form, u"frmSerialNumber"_s);
-      prompts.ExpectBox(u"No rig"_s, u"This main canopy isn't part of a rig"_s);
+      shop.prompts.ExpectBox(u"No rig"_s, u"This main canopy isn't part of a rig"_s);
       Click(form, u"cmdShowRig"_s);
       Click(form, u"chkAllTypes"_s);
-      QCOMPARE(serials.Count(), 3);
+      QCOMPARE(serials.Count(), 4);
       Click(form, u"cmdSelect"_s);
     });
-    QCOMPARE(PickComponentBySerial(kMainCanopy, u"S1"_s), gear.spare);
-    screens.WhenShown(u"frmSerialNumber"_s, [&](Form& form) {
-      prompts.ExpectBox(u"Nothing selected"_s, u"You must select a component first"_s);
+    QCOMPARE(picked, shop.spare);
+  }
+
+  void QuotesAccentsAndCaseAreFound() {
+    RigShop shop;
+    const int accented = NewComponent(shop.storm, kMainCanopy, 0, u"é'7\""_s);
+    const int picked = OnSerials(shop, 0, QString(), [](Form& form) {
+      TypeInto(form, u"txtSerial"_s, u"É'"_s);
+      QCOMPARE(TextOf(form, u"lblSerial"_s), u"é'7\""_s);
+      Click(form, u"cmdSelect"_s);
+    });
+    QCOMPARE(picked, accented);
+  }
+
+  void TheComponentAndItsRigAreShown() {
+    RigShop shop;
+    const int picked = OnSerials(shop, kMainCanopy, u"S1"_s, [&](Form& form) {
+      shop.screens.WhenShown(u"frmComponent"_s, [&](Form& component) {
+        shop.screens.WhenShown(u"frmComponentEdit"_s, [](Form& editor) {
+          TypeInto(editor, u"txtSerial"_s, u"S5"_s);
+          Click(editor, u"cmdSave"_s);
+        });
+        Click(component, u"cmdEdit"_s);
+        Click(component, u"cmdExit"_s);
+      });
       Click(form, u"cmdEdit"_s);
+      QCOMPARE(Selected(Control<List>(form, u"lst"_s)), u"S5"_s);
+      shop.screens.WhenShown(u"frmGetRig"_s, [](Form& rigs) {
+        QCOMPARE(Selected(Rigs(rigs)), u"Red"_s);
+        PressKey(rigs, Qt::Key_Escape);
+      });
+      Click(form, u"cmdShowRig"_s);
+      PressKey(form, Qt::Key_Escape);
+    });
+    QCOMPARE(picked, 0);
+  }
+
+  void NothingSelectedIsTold() {
+    RigShop shop;
+    const int picked = OnSerials(shop, kAad, QString(), [&](Form& form) {
+      shop.prompts.ExpectBox(u"Nothing selected"_s, u"You must select a component first"_s);
+      Click(form, u"cmdEdit"_s);
+      Click(form, u"cmdSelect"_s);
+      QVERIFY(form.isVisible());
       Click(form, u"cmdExit"_s);
     });
-    QCOMPARE(PickComponentBySerial(kContainer, u"S1"_s), 0);
+    QCOMPARE(picked, 0);
   }
 };
 

@@ -25,7 +25,13 @@ void TypeInto(QWidget& screen, const QString& box, const QString& text) {
   auto& widget = Control<QWidget>(screen, box);
   QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(&widget, Qt::Key_Delete);
-  QTest::keyClicks(&widget, text);
+  // Qt Test knows the keys of ASCII alone.
+  for (QChar letter : text) {
+    if (letter.unicode() < 128)
+      QTest::keyClick(&widget, letter.toLatin1());
+    else
+      QTest::sendKeyEvent(QTest::Click, &widget, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+  }
 }
 
 void PressKey(QWidget& screen, const QString& control, Qt::Key key, Qt::KeyboardModifiers modifiers) {

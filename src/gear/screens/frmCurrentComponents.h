@@ -1,0 +1,21 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+
+namespace Ui {
+class frmCurrentComponents;
+}
+
+/// The components that a rig has now; nothing can be changed here.
+class frmCurrentComponents : public Form {
+  Q_OBJECT
+ public:
+  frmCurrentComponents();
+  ~frmCurrentComponents() override;
+
+  void SetRig(int rig);
+
+ private:
+  std::unique_ptr<Ui::frmCurrentComponents> ui_;
+};
