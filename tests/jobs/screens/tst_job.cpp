@@ -194,7 +194,12 @@ class TestJob : public QObject {
     shop.Choose(u"Tools"_s, u"Refresh"_s);
     QVERIFY(shop.Shows("cmdGearChange") && shop.Shows("cmdCurrentComp"));
     Picture(shop.Screen(), u"frmJob_other_gear"_s);
-    QVERIFY(!Control<QPushButton>(shop.Screen(), u"cmdCurrentComp"_s).isEnabled());
+    shop.screens.WhenShown(u"frmCurrentComponents"_s, [](Form& form) {
+      QCOMPARE(TextOf(form, u"lblRigName"_s), u"Blue"_s);
+      QCOMPARE(Control<Grid>(form, u"Grid"_s).Text(2, 2), QString());
+      Click(form, u"cmdExit"_s);
+    });
+    Click(shop.Screen(), u"cmdCurrentComp"_s);
     shop.prompts.ExpectBox(u"Rig components may have changed"_s,
                            u"Components in this rig have changed since this job was started\n"
                            "Any components installed or removed during this\n"
