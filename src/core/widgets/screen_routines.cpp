@@ -1,7 +1,9 @@
 #include "core/widgets/screen_routines.h"
 
+#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -10,6 +12,17 @@
 #include <QWidget>
 
 #include "core/prompts.h"
+
+namespace {
+
+/// Where a text has its first letter that is not taken; -1 when it has none.
+qsizetype FreeLetter(const QString& text, const QString& taken) {
+  for (qsizetype i = 0; i < text.size(); ++i)
+    if (text[i].isLetter() && !taken.contains(text[i].toLower())) return i;
+  return -1;
+}
+
+}  // namespace
 
 void SelectAllInBox(QLineEdit* box) {
   box->selectAll();
@@ -51,19 +64,24 @@ void CentreForm(QWidget* form, const QWidget* caller) {
 }
 
 void GiveMnemonics(QMenuBar* bar) {
-  QString taken;
-  for (const QAction* action : bar->actions()) {
-    const QString text = action->text();
-    if (const qsizetype at = text.indexOf(u'&'); at >= 0 && at + 1 < text.size()) taken += text[at + 1].toLower();
-  }
+  QString inBar;
+  QString elsewhere;
+  const auto letterOf = [](const QString& text) {
+    const QString shortcut = QKeySequence::mnemonic(text).toString();
+    return shortcut.isEmpty() ? QString() : QString(shortcut.back().toLower());
+  };
+  for (const QAction* action : bar->actions()) inBar += letterOf(action->text());
+  for (const QAbstractButton* button : bar->window()->findChildren<QAbstractButton*>())
+    elsewhere += letterOf(button->text());
+  for (const QLabel* label : bar->window()->findChildren<QLabel*>())
+    if (label->buddy()) elsewhere += letterOf(label->text());
   for (QAction* action : bar->actions()) {
-    QString text = action->text();
+    const QString text = action->text();
     if (text.contains(u'&')) continue;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-      if (!text[i].isLetter() || taken.contains(text[i].toLower())) continue;
-      taken += text[i].toLower();
-      action->setText(text.insert(i, u'&'));
-      break;
-    }
+    qsizetype at = FreeLetter(text, inBar + elsewhere);
+    if (at < 0) at = FreeLetter(text, inBar);
+    if (at < 0) continue;
+    inBar += text[at].toLower();
+    action->setText(QString(text).insert(at, u'&'));
   }
 }

@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 
 frmGetRig::frmGetRig() : ui_(std::make_unique<Ui::frmGetRig>()) {
   ui_->setupUi(this);
-  ui_->browser->AddBelowGrid(ui_->panel);
+  ui_->browser->AddBelowGrid(ui_->panel, ui_->Grid2);
   ScheduleGrid::SetUp(*ui_->Grid2);
   MakeMenu();
   connect(ui_->browser, &RigBrowser::RigShown, this, &frmGetRig::ShowRig);

@@ -71,7 +71,10 @@ bool RigBrowser::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-void RigBrowser::AddBelowGrid(QWidget* panel) { ui_->below->addWidget(panel); }
+void RigBrowser::AddBelowGrid(QWidget* panel, QWidget* last) {
+  ui_->below->addWidget(panel);
+  setTabOrder(last, ui_->chkHidePhotos);
+}
 
 void RigBrowser::SetFixed(bool fixed) {
   ui_->fraDisplay->setEnabled(!fixed);

@@ -17,8 +17,8 @@ class RigBrowser : public QWidget {
 
   /// Where to begin; a rig brings its owner along. `rigType` 0 shows all types.
   void Begin(int customer, int rig, int rigType);
-  /// Puts a form's own controls below the component grid.
-  void AddBelowGrid(QWidget* panel);
+  /// Puts a form's own controls below the component grid; Tab goes on from the last of them.
+  void AddBelowGrid(QWidget* panel, QWidget* last);
   /// For a plain display: nothing can be searched or assigned.
   void SetFixed(bool fixed);
 

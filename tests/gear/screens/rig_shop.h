@@ -94,6 +94,13 @@ inline Grid& Components(Form& form) { return Control<Grid>(form, "Grid"); }
 inline Grid& Schedule(Form& form) { return Control<Grid>(form, "Grid2"); }
 inline QString Selected(const List& list) { return list.ItemText(list.ListIndex()); }
 
+inline QStringList HeadingsOf(const Grid& grid) {
+  QStringList headings;
+  for (int column = 0; column < grid.ColumnCount(); ++column)
+    if (!grid.isColumnHidden(column)) headings << grid.model()->headerData(column, Qt::Horizontal).toString();
+  return headings;
+}
+
 inline QStringList RowsOf(const Grid& grid) {
   QStringList rows;
   for (int row = 0; row < grid.RowCount(); ++row) {

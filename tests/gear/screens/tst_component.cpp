@@ -222,6 +222,21 @@ class TestComponent : public QObject {
     QCOMPARE(shop.Touched(before), QStringList({u"+tblComponents|2"_s, u"+tblModels|4"_s, u"-tblComponents|2"_s}));
   }
 
+  void AMiscItemChangesToAnotherPart() {
+    RigShop shop;
+    const int toggle = AddModel(u"Toggle"_s, kMisc);
+    const int item = NewComponent(AddModel(u"Riser"_s, kMisc), kMisc, 0);
+    OnComponent(shop, item, [&](Form& form) {
+      shop.screens.WhenShown(u"frmPicker"_s, [](Form& picker) {
+        QCOMPARE(picker.windowTitle(), u"Select Misc Item Model"_s);
+        TypeInto(picker, u"txt"_s, u"toggle"_s);
+        Click(picker, u"cmdSelect"_s);
+      });
+      Click(form, u"cmdChangeModel"_s);
+    });
+    QCOMPARE(ComponentModel(item), toggle);
+  }
+
   void RemovesItFromItsRig() {
     RigShop shop;
     shop.loft.Add(u"tblPhotos"_s, {{u"rigid"_s, shop.red}, {u"componentid"_s, shop.container}});

@@ -170,6 +170,22 @@ class TestComponentEdit : public QObject {
     QCOMPARE(EnterNewComponent(pilot), 4);
   }
 
+  void CaseAndOuterBlanksMakeNoOtherSerial() {
+    RigShop shop;
+    NewComponent(shop.storm, kMainCanopy, 0, u"É-7 "_s);
+    shop.screens.WhenShown(u"frmComponentEdit"_s, [&](Form& form) {
+      TypeInto(form, u"txtSerial"_s, u"é-7"_s);
+      shop.prompts.ExpectBox(kProgramTitle, u"That serial number is already being used\nby the component shown here"_s);
+      shop.PressInForm(u"frmComponentVerify"_s, u"cmdNo"_s);
+      Click(form, u"cmdSave"_s);
+      TypeInto(form, u"txtSerial"_s, u"   "_s);
+      Click(form, u"cmdSave"_s);
+    });
+    QCOMPARE(EditComponent(shop.spare), shop.spare);
+    shop.PressInForm(u"frmComponentEdit"_s, u"cmdSave"_s);
+    QCOMPARE(EnterNewComponent(shop.storm), 5);
+  }
+
   void ARowThatGoesMeanwhileIsTold() {
     RigShop shop;
     shop.screens.WhenShown(u"frmComponentEdit"_s, [&](Form& form) {

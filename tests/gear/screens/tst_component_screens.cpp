@@ -1,5 +1,6 @@
 #include <QPushButton>
 
+#include "core/screens/home_commands.h"
 #include "gear/rig_rules.h"
 #include "gear/screens/rig_shop.h"
 
@@ -80,6 +81,8 @@ class TestComponentScreens : public QObject {
     shop.loft.Run(u"update tblComponents set DOM = #1/14/2015# where ID = %1"_s.arg(shop.spare));
     const int picked = OnPicker(shop, kMainCanopy, [&](Form& form) {
       QCOMPARE(form.windowTitle(), u"Select component"_s);
+      QCOMPARE(HeadingsOf(Components(form)),
+               QStringList({u"Model"_s, u"Rig Name"_s, u"Owner"_s, u"Serial Number"_s, u"Date of Mfg"_s}));
       QCOMPARE(RowsOf(Components(form)), QStringList({u"Storm |Red|(none)|S1|||2|0|1"_s,
                                                       u"Storm |(no rig)|Jones, Ann|S2|01/14/2015|20150114|3|1|0"_s,
                                                       u"Pilot |(no rig)|(none)|(none)|||4|0|0"_s}));
@@ -355,6 +358,26 @@ class TestComponentScreens : public QObject {
       PressKey(form, Qt::Key_Escape);
     });
     QCOMPARE(picked, 0);
+  }
+
+  void TheHomePageLooksUpASerialToo() {
+    RigShop shop;
+    const auto lookUp = [] {
+      for (const MenuLine& line : MainMenu())
+        if (line.caption == "Serial number look up"_L1) line.run();
+    };
+    shop.screens.WhenShown(u"frmSerialNumber"_s, [](Form& form) {
+      QCOMPARE(Control<List>(form, u"lst"_s).Count(), 3);
+      TypeInto(form, u"txtSerial"_s, u"j"_s);
+      Click(form, u"cmdSelect"_s);
+    });
+    shop.screens.WhenShown(u"frmComponent"_s, [](Form& form) {
+      QCOMPARE(form.windowTitle(), u"Container"_s);
+      PressKey(form, Qt::Key_Escape);
+    });
+    lookUp();
+    shop.Leave(u"frmSerialNumber"_s);
+    lookUp();
   }
 
   void NothingSelectedIsTold() {

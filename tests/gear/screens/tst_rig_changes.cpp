@@ -304,6 +304,19 @@ class TestRigChanges : public QObject {
     });
   }
 
+  void SearchMayAddACustomer() {
+    RigShop shop;
+    shop.OnRigs(shop.ann, [&](Form& form) {
+      shop.Pick(u"(add new"_s);
+      shop.screens.WhenShown(u"frmPeople"_s, [&](Form& people) {
+        shop.Leave(u"frmPeopleEdit"_s);
+        QTest::qWait(10);
+        PressKey(people, Qt::Key_Escape);
+      });
+      Click(form, u"cmdSearch"_s);
+    });
+  }
+
   void StartsAJobOnTheRig() {
     RigShop shop;
     SetRiggerFlag(shop.bob, true);

@@ -34,6 +34,10 @@ class TestRigLists : public QObject {
       QCOMPARE(RowsOf(Components(form)),
                QStringList({u"1|Container|Javelin Odyssey |J-10021||1"_s, u"2|Main Canopy|Storm 150|S1|01/14/2015|2"_s,
                             u"3|Reserve Canopy||||0"_s, u"4|AAD||||0"_s}));
+      QCOMPARE(HeadingsOf(Components(form)),
+               QStringList({u"Component"_s, u"Name"_s, u"Serial Number"_s, u"Date of mfg"_s}));
+      QCOMPARE(HeadingsOf(Schedule(form)),
+               QStringList({u"Scheduled Task"_s, u"Date Done"_s, u"Date Due"_s, u"Time Left"_s}));
       QCOMPARE(RowsOf(Schedule(form)), QStringList(u"Storm expiration||01/14/2025|Expired!|-1"_s));
       QCOMPARE(Schedule(form).CellColour(0, 3), QColor(255, 0, 0));
       QVERIFY(!IsShown(form, u"lblNotAssigned"_s));
