@@ -102,9 +102,9 @@ void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int co
       if (!reused) rows.AddNew();
       Write(rows, row);
     }
-    ReloadScreens();
     bracket.Close();
   });
+  ReloadScreens();  // also when the row has gone because its date can't be built
 }
 
 void DeleteSchedule(int rigID, int taskLibID, int componentID) {

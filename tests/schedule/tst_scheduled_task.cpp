@@ -189,6 +189,9 @@ class TestScheduledTask : public QObject {
     shop.loft.Run(u"delete from tblTasks where ID = %1"_s.arg(repack));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
     QCOMPARE(screen.reloads, 2);
+    shop.prompts.ExpectBox(u"Sub ReplaceSchedule"_s, u"Type mismatch"_s);
+    ReplaceSchedule(shop.rig, shop.aadCheck, Day(8, 31, 2025), 1, shop.aad);
+    QCOMPARE(screen.reloads, 3);
     QCOMPARE(screen.wholeReloads, 0);
   }
 };

@@ -29,6 +29,8 @@ void SelectAllInBox(QLineEdit* box) {
   box->setFocus();
 }
 
+QString WithoutMnemonic(const QString& name) { return QString(name).replace(u'&', QStringLiteral("&&")); }
+
 void EnableControls(QWidget* form, bool enabled) {
   const auto controls = form->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
   for (QWidget* control : controls) {

@@ -1,4 +1,6 @@
 #pragma once
+#include <QString>
+
 class QLineEdit;
 class QMenuBar;
 class QWidget;
@@ -8,6 +10,9 @@ constexpr int FromTwips(int twips) { return twips / 15; }
 
 /// Selects all text of a box, from the start, and puts the cursor into it.
 void SelectAllInBox(QLineEdit* box);
+
+/// A name as the text of a button, or of a label that leads to a box: "&" is no shortcut in it.
+QString WithoutMnemonic(const QString& name);
 
 /// Enables or disables all controls of a form; labels keep their look.
 void EnableControls(QWidget* form, bool enabled);

@@ -9,6 +9,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/widgets/screen_routines.h"
 #include "gear/catalogue.h"
 #include "gear/component_editor.h"
 #include "gear/component_rules.h"
@@ -86,7 +87,7 @@ void frmComponent::ReloadForm() {
 void frmComponent::ShowFields() {
   ComponentEntry entry;
   LoadComponentEntry(component_, entry);
-  const QString type = TypeInSentence(entry.type);
+  const QString type = WithoutMnemonic(TypeInSentence(entry.type));
   setWindowTitle(ComponentTypeName(entry.type));
   ui_->txtModel->setText(ComponentDescription(component_));
   ui_->txtSerial->setText(OrWord(entry.serial, kNotEntered));

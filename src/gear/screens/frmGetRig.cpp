@@ -123,7 +123,7 @@ void frmGetRig::ReloadSchedule() {
 void frmGetRig::UpdateTask() {
   const int rig = ui_->browser->Rig();
   const int entry = ScheduleGrid::EntryToUpdate(*ui_->Grid2);
-  if (entry != 0 && UpdateScheduledTask(entry, rig, ComponentOfEntry(rig, entry))) ReloadSchedule();
+  if (entry != 0) UpdateScheduledTask(entry, rig, ComponentOfEntry(rig, entry));
 }
 
 void frmGetRig::ShowState() {

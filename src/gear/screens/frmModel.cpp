@@ -59,7 +59,7 @@ void frmModel::ChooseModel() {
   ShowModel();
 }
 
-void frmModel::ShowModel() { ui_->cmdModel->setText(ModelName(model_).replace(u'&', u"&&"_s)); }
+void frmModel::ShowModel() { ui_->cmdModel->setText(WithoutMnemonic(ModelName(model_))); }
 
 void frmModel::Save() {
   const QString serial = ui_->txtSerial->text();

@@ -1,5 +1,6 @@
 #include "gear/screens/rig_browser.h"
 
+#include "core/widgets/screen_routines.h"
 #include "gear/people.h"
 #include "gear/person_record.h"
 #include "gear/rig_rules.h"
@@ -124,7 +125,7 @@ void RigBrowser::LoadRigList() {
   if (rig_ != 0) ui_->lstGear->SelectData(rig_);
   const QString type = RigTypeName(rigType_);
   ui_->lblDisplayRigType->setText(rigType_ == 0 ? u"Displaying all rig types"_s : type + u" only"_s);
-  ui_->lblSystems->setText(rigType_ == 0 ? u"Rigs (all types)"_s : u"Rigs ("_s + type + u')');
+  ui_->lblSystems->setText(rigType_ == 0 ? u"Rigs (all types)"_s : u"Rigs ("_s + WithoutMnemonic(type) + u')');
 }
 
 bool RigBrowser::ReloadLists() {

@@ -138,6 +138,17 @@ class TestRigLists : public QObject {
     ShowRigs({.rigType = 1, .caption = u"Rig Type: Sport Rig"_s});
   }
 
+  void ARigTypesNameIsNoShortcut() {
+    RigShop shop;
+    shop.loft.Run(u"update tblRigTypes set Name = 'CRW & Swoop''s' where ID = 1"_s);
+    shop.screens.WhenShown(u"frmGetRig"_s, [](Form& form) {
+      QCOMPARE(TextOf(form, u"lblSystems"_s), u"Rigs (CRW && Swoop's)"_s);
+      QCOMPARE(TextOf(form, u"lblDisplayRigType"_s), u"CRW & Swoop's only"_s);
+      Click(form, u"cmdExit"_s);
+    });
+    ShowRigs({.rigType = 1});
+  }
+
   void ARigTypeWithoutComponentsShowsHeadingsAlone() {
     RigShop shop;
     const int bare = shop.loft.Add(u"tblRigTypes"_s, {{u"Name"_s, u"Bare"_s}});
