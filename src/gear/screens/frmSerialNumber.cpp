@@ -16,6 +16,7 @@ frmSerialNumber::frmSerialNumber() : ui_(std::make_unique<Ui::frmSerialNumber>()
   ui_->setupUi(this);
   ui_->lstTypes->Fill(LoadMajorComponentTypes());
   connect(ui_->txtSerial, &QLineEdit::textChanged, this, &frmSerialNumber::FindTyped);
+  connect(ui_->txtSerial, &QLineEdit::returnPressed, this, &frmSerialNumber::SelectTyped);
   connect(ui_->chkAllTypes, &QCheckBox::toggled, this, &frmSerialNumber::LoadSerials);
   connect(ui_->lstTypes, &List::ListChange, this, [this](int row) {
     if (row < 0) return;
@@ -25,6 +26,7 @@ frmSerialNumber::frmSerialNumber() : ui_(std::make_unique<Ui::frmSerialNumber>()
   });
   connect(ui_->lst, &List::ListChange, this, &frmSerialNumber::ShowDetails);
   connect(ui_->lst, &List::ItemDoubleClick, this, &frmSerialNumber::Select);
+  connect(ui_->lst, &List::ItemEnter, this, &frmSerialNumber::Select);
   connect(ui_->cmdSelect, &QPushButton::clicked, this, &frmSerialNumber::Select);
   connect(ui_->cmdEdit, &QPushButton::clicked, this, &frmSerialNumber::Edit);
   connect(ui_->cmdShowRig, &QPushButton::clicked, this, &frmSerialNumber::ShowRig);
@@ -41,6 +43,8 @@ void frmSerialNumber::SetSearch(int componentType, const QString& serial) {
   ui_->txtSerial->setText(serial);
 }
 
+QString frmSerialNumber::TextOfRow(int row) const { return ui_->lst->ItemText(row).toUpper(); }
+
 int frmSerialNumber::Component() const { return ui_->lst->ItemData(ui_->lst->ListIndex()); }
 
 void frmSerialNumber::LoadSerials() {
@@ -54,7 +58,7 @@ void frmSerialNumber::FindTyped(const QString& typed) {
   const QString wanted = typed.trimmed().toUpper();
   if (wanted.isEmpty()) return;
   for (int row = 0; row < ui_->lst->Count(); ++row) {
-    if (!ui_->lst->ItemText(row).toUpper().startsWith(wanted)) continue;
+    if (!TextOfRow(row).startsWith(wanted)) continue;
     ui_->lst->SetListIndex(row, QAbstractItemView::PositionAtTop);
     return;
   }
@@ -76,6 +80,12 @@ void frmSerialNumber::Select() {
   if (Component() == 0) return;
   SetTag(u"select"_s);
   Leave();
+}
+
+void frmSerialNumber::SelectTyped() {
+  // What was typed since may be no component's: the selection is then an earlier one.
+  const QString wanted = ui_->txtSerial->text().trimmed().toUpper();
+  if (TextOfRow(ui_->lst->ListIndex()).startsWith(wanted)) Select();
 }
 
 void frmSerialNumber::Edit() {

@@ -21,7 +21,9 @@ class frmSerialNumber : public Form {
   void LoadSerials();
   void FindTyped(const QString& typed);
   void ShowDetails();
+  QString TextOfRow(int row) const;
   void Select();
+  void SelectTyped();
   void Edit();
   void ShowRig();
 

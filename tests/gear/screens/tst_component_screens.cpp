@@ -337,6 +337,22 @@ class TestComponentScreens : public QObject {
     QCOMPARE(picked, accented);
   }
 
+  void EnterTakesWhatWasTypedAndNothingElse() {
+    RigShop shop;
+    const int picked = OnSerials(shop, kMainCanopy, u"S1"_s, [](Form& form) {
+      TypeInto(form, u"txtSerial"_s, u"s2x"_s);
+      QCOMPARE(TextOf(form, u"lblSerial"_s), u"S2"_s);
+      PressKey(form, u"txtSerial"_s, Qt::Key_Return);
+      QVERIFY(form.isVisible());
+      TypeInto(form, u"txtSerial"_s, u"s2"_s);
+      PressKey(form, u"txtSerial"_s, Qt::Key_Return);
+    });
+    QCOMPARE(picked, shop.spare);
+    QCOMPARE(OnSerials(shop, kMainCanopy, u"S1"_s,
+                       [](Form& form) { PressKey(Control<List>(form, u"lst"_s), Qt::Key_Return); }),
+             shop.canopy);
+  }
+
   void TheComponentAndItsRigAreShown() {
     RigShop shop;
     const int picked = OnSerials(shop, kMainCanopy, u"S1"_s, [&](Form& form) {
