@@ -15,6 +15,7 @@ frmDeleteSystem::frmDeleteSystem() : ui_(std::make_unique<Ui::frmDeleteSystem>()
   ui_->setupUi(this);
   SetRemembersPlace(false);
   RigGrid::SetUp(*ui_->grid);
+  ui_->grid->installEventFilter(this);
   connect(ui_->cmdYes, &QPushButton::clicked, this, [this] { Answer(u"yes"_s); });
   connect(ui_->cmdNo, &QPushButton::clicked, this, [this] { Answer(u"no"_s); });
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmDeleteSystem::Cancel);
@@ -36,19 +37,30 @@ void frmDeleteSystem::SetRig(int rig, bool showOnly) {
 }
 
 void frmDeleteSystem::keyPressEvent(QKeyEvent* event) {
-  if (!showOnly_ && event->modifiers() == Qt::NoModifier) {
-    switch (event->key()) {
-      case Qt::Key_Y:
-        return Answer(u"yes"_s);
-      case Qt::Key_N:
-        return Answer(u"no"_s);
-      case Qt::Key_C:
-        return Cancel();
-      default:
-        break;
-    }
+  if (!AnswerKey(*event)) Form::keyPressEvent(event);
+}
+
+// The grid would look for a row that begins with the letter.
+bool frmDeleteSystem::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && AnswerKey(static_cast<QKeyEvent&>(*event))) return true;
+  return Form::eventFilter(watched, event);
+}
+
+bool frmDeleteSystem::AnswerKey(const QKeyEvent& event) {
+  if (showOnly_ || event.modifiers() != Qt::NoModifier) return false;
+  switch (event.key()) {
+    case Qt::Key_Y:
+      Answer(u"yes"_s);
+      return true;
+    case Qt::Key_N:
+      Answer(u"no"_s);
+      return true;
+    case Qt::Key_C:
+      Cancel();
+      return true;
+    default:
+      return false;
   }
-  Form::keyPressEvent(event);
 }
 
 void frmDeleteSystem::Answer(const QString& tag) {

@@ -18,8 +18,10 @@ class frmDeleteSystem : public Form {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool AnswerKey(const QKeyEvent& event);
   void Answer(const QString& tag);
   void ShowHelp();
 

@@ -35,6 +35,7 @@ frmGetRig::frmGetRig() : ui_(std::make_unique<Ui::frmGetRig>()) {
   connect(ui_->browser, &RigBrowser::ComponentRowChange, this, &frmGetRig::ShowState);
   connect(ui_->browser, &RigBrowser::SearchWanted, this, &frmGetRig::Search);
   connect(ui_->browser, &RigBrowser::ComponentWanted, this, &frmGetRig::EnterComponent);
+  connect(ui_->browser, &RigBrowser::ComponentRemoveWanted, this, &frmGetRig::RemoveComponent);
   connect(ui_->browser, &RigBrowser::QuickEditWanted, this, &frmGetRig::EditQuickly);
   connect(ui_->browser, &RigBrowser::CommentsWanted, this, &frmGetRig::EditRigComments);
   connect(ui_->browser, &RigBrowser::RigDeleteWanted, this, &frmGetRig::DeleteRig);

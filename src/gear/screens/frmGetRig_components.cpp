@@ -82,6 +82,7 @@ void frmGetRig::OfferRepack(int component) {
 }
 
 void frmGetRig::RemoveComponent() {
+  if (hideButtons_) return;
   if (ui_->browser->SelectedRow() < 0) {
     MsgBox(u"Please select a component to delete"_s, u"Nothing selected"_s);
     return;

@@ -62,6 +62,7 @@ RigBrowser::RigBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<
   connect(ui_->grid, &Grid::CellDoubleClick, this, &RigBrowser::ComponentWanted);
   connect(ui_->grid, &Grid::CellEnter, this, &RigBrowser::ComponentWanted);
   connect(ui_->grid, &Grid::CellF2, this, &RigBrowser::QuickEditWanted);
+  connect(ui_->grid, &Grid::CellDelete, this, &RigBrowser::ComponentRemoveWanted);
   connect(ui_->grid, &Grid::CellChange, this, &RigBrowser::ComponentRowChange);
 }
 

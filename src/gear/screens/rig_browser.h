@@ -43,8 +43,9 @@ class RigBrowser : public QWidget {
   void RigShown(int rig);  ///< another rig, or none, is shown; or its components changed
   void CustomerShown(int customer);
   void SearchWanted();
-  void ComponentWanted();  ///< double click or Enter in the grid
-  void QuickEditWanted();  ///< F2 in the grid
+  void ComponentWanted();        ///< double click or Enter in the grid
+  void QuickEditWanted();        ///< F2 in the grid
+  void ComponentRemoveWanted();  ///< Delete in the grid
   void ComponentRowChange();
   void CommentsWanted();
   void PhotoClick();

@@ -125,6 +125,15 @@ class TestComponentScreens : public QObject {
           PressKey(form, Qt::Key_Escape);
         },
         shop.bob);
+    const int picked = OnPicker(
+        shop, 0,
+        [&](Form& form) {
+          QCOMPARE(Ids(form), QList<int>({shop.container, shop.canopy, shop.spare}));
+          ClickCell(Components(form), 0, 0);
+          Click(form, u"cmdSelect"_s);
+        },
+        shop.ann);
+    QCOMPARE(picked, shop.container);
     OnPicker(shop, kMainCanopy, [&](Form& form) {
       QCOMPARE(TextOf(form, u"lblOwner"_s), u"Owner:  (none)"_s);
       shop.Leave(u"frmPicker"_s);

@@ -115,6 +115,15 @@ class TestRigChoice : public QObject {
     QVERIFY(!ConfirmRigDeletion(shop.red));
   }
 
+  void TheLettersAnswerFromTheGridToo() {
+    RigShop shop;
+    shop.screens.WhenShown(u"frmDeleteSystem"_s, [](Form& form) {
+      ClickCell(Components(form), 1, 1);
+      PressKey(Components(form), Qt::Key_Y);
+    });
+    QVERIFY(ConfirmRigDeletion(shop.red));
+  }
+
   void ShowOnlyHasOneButton() {
     RigShop shop;
     shop.screens.WhenShown(u"frmDeleteSystem"_s, [](Form& form) {

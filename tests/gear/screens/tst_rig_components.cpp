@@ -51,6 +51,25 @@ class TestRigComponents : public QObject {
     QCOMPARE(ComponentOwner(shop.canopy), shop.ann);
   }
 
+  void TheDeleteKeyInTheGridIsForTheComponent() {
+    RigShop shop;
+    shop.OnRigs(shop.ann, [&](Form& form) {
+      ClickCell(Components(form), 1, 1);
+      shop.prompts.Expect(u"Remove Main Canopy?"_s,
+                          u"Remove Storm  from Red?\n\n(component will still be in the database)"_s, Answer::No);
+      PressKey(Components(form), Qt::Key_Delete);
+      ClickCell(Components(form), 2, 1);
+      PressKey(Components(form), Qt::Key_Delete);
+    });
+    shop.screens.WhenShown(u"frmGetRig"_s, [](Form& form) {
+      ClickCell(Components(form), 1, 1);
+      PressKey(Components(form), Qt::Key_Delete);
+      PressKey(form, Qt::Key_Escape);
+    });
+    ShowRigs({.rig = shop.red, .hideButtons = true});
+    QCOMPARE(ComponentRig(shop.canopy), shop.red);
+  }
+
   void OnlyContainerAndReserveTakeTheRepackAlong() {
     RigShop shop;
     const int reserve = RigShop::AddReserve(shop.red);
