@@ -1,8 +1,7 @@
 #include "gear/component_list.h"
 
-#include <QHash>
-
 #include "core/access.h"
+#include "core/remembered.h"
 #include "core/trap.h"
 #include "gear/models.h"
 #include "gear/people.h"
@@ -27,16 +26,11 @@ bool Passes(const ComponentFilter& filter, const Recordset& row) {
 
 QString RigNameOrNone(int rig) { return RigExists(rig) ? RigName(rig) : u"(no rig)"_s; }
 
-/// The names that thousands of rows share, each read once.
 struct Names {
-  QHash<int, QString> models, rigs, owners;
+  Remembered<QString> model{ModelName};
+  Remembered<QString> rig{RigNameOrNone};
+  Remembered<QString> owner{PersonSortName};
 };
-
-const QString& Name(QHash<int, QString>& known, int id, QString (*read)(int)) {
-  auto name = known.find(id);
-  if (name == known.end()) name = known.insert(id, read(id));
-  return *name;
-}
 
 ComponentListRow Read(const Recordset& row, Names& names) {
   const int rig = row[u"RigID"].ToInt();
@@ -45,9 +39,9 @@ ComponentListRow Read(const Recordset& row, Names& names) {
   return {row[u"ID"].ToInt(),
           owner,
           rig,
-          Name(names.models, row[u"ModelID"].ToInt(), ModelName) + u' ' + row[u"SubType"].ToText(),
-          Name(names.rigs, rig, RigNameOrNone),
-          Name(names.owners, owner, PersonSortName),
+          names.model(row[u"ModelID"].ToInt()) + u' ' + row[u"SubType"].ToText(),
+          names.rig(rig),
+          names.owner(owner),
           serial.trimmed().isEmpty() ? u"(none)"_s : serial,
           row[u"DOM"].ToDate()};
 }

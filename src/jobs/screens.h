@@ -15,3 +15,6 @@ void StartJobDialog(int customerID, int rigID, int componentID, int& jobID, int 
 void GotoJob(int jobID);
 /// Shows the job that was shown last. Without any job a box says so.
 void ShowJob();
+
+/// Asks for the day on which a scheduled entry was done on a rig, and records it as a job of one line.
+void ShowQuickFix(int rigID, int customerID, int taskLibID);

@@ -18,6 +18,7 @@
 #include "jobs/screens.h"
 #include "reports/screens.h"
 #include "schedule/reconstruct.h"
+#include "schedule/screens.h"
 
 using namespace Qt::StringLiterals;
 
@@ -64,9 +65,12 @@ void ShowLastJob() {
   if (GetNumberRecordsInTable(u"tblJobs"_s) > 0) ShowJob();
 }
 
+void ShowSchedule() { OpenSchedule(); }
+
 void LoadAllForms() {
   Bracket bracket;
   ShowLastJob();
+  OpenSchedule();
   ArrangeForms();
 }
 
@@ -159,6 +163,7 @@ HomeCommand ButtonCommand(const QString& button) {
   static const QHash<QString, HomeCommand> commands = {
       {u"cmdPeople"_s, ShowCustomers},
       {u"cmdRigs"_s, ShowRigDatabase},
+      {u"cmdSchedules"_s, ShowSchedule},
   };
   return commands.value(button);
 }
@@ -173,7 +178,7 @@ std::vector<FloatingEntry> FloatingMenu() {
           {u"Job list"_s, kLater},
           {u"Job"_s, ShowLastJob},
           {u"History"_s, kLater},
-          {u"Schedule"_s, kLater},
+          {u"Schedule"_s, ShowSchedule},
           {QString(), {}},
           {u"Rigging Tasks"_s, kLater},
           {u"Events"_s, kLater},

@@ -17,6 +17,7 @@
 #include "gear/screens.h"
 #include "gear/screens/frmPeopleEdit.h"
 #include "jobs/screens.h"
+#include "schedule/screens.h"
 
 #include "ui_frmPeople.h"
 
@@ -32,6 +33,7 @@ frmPeople::frmPeople() : ui_(std::make_unique<Ui::frmPeople>()) {
   connect(ui_->cmdEdit, &QPushButton::clicked, this, &frmPeople::EditPerson);
   connect(ui_->cmdDelete, &QPushButton::clicked, this, &frmPeople::DeletePerson);
   connect(ui_->cmdRigs, &QPushButton::clicked, this, &frmPeople::OpenRigs);
+  connect(ui_->cmdShowSchedule, &QPushButton::clicked, this, [this] { OpenSchedule({.customer = current_}); });
   connect(ui_->cmdNext, &QPushButton::clicked, this, [this] { Move(NextPerson(current_), true); });
   connect(ui_->cmdPrev, &QPushButton::clicked, this, [this] { Move(PreviousPerson(current_), false); });
   connect(ui_->cmdRefresh, &QPushButton::clicked, this, &frmPeople::Refresh);
@@ -183,8 +185,8 @@ void frmPeople::ShowState() {
   mnuNewJob_->setEnabled(shown);
   ui_->chkRigger->setEnabled(shown);
   for (QPushButton* button : {ui_->cmdSearch, ui_->cmdAddNew, ui_->cmdExit}) button->setEnabled(!locked_);
-  for (QPushButton* button : {ui_->cmdNext, ui_->cmdPrev, ui_->cmdRigs}) button->setEnabled(!locked_ && shown);
-  ui_->cmdShowSchedule->setEnabled(false);
+  for (QPushButton* button : {ui_->cmdNext, ui_->cmdPrev, ui_->cmdRigs, ui_->cmdShowSchedule})
+    button->setEnabled(!locked_ && shown);
   mnuMenu_->setEnabled(!locked_);
   mnuJobsDummy_->setEnabled(!locked_);
   mnuExit_->setEnabled(!locked_);

@@ -250,6 +250,17 @@ class TestPeopleScreens : public QObject {
     QCOMPARE(ShowPeople(ann), bob);
   }
 
+  void TheScheduleOpensOnThePerson() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    Named(u"Bob Smith"_s);
+    OpenPeople(ann);
+    Click(dynamic_cast<Form&>(*Forms::Find(u"frmPeople"_s)), u"cmdShowSchedule"_s);
+    auto& schedule = dynamic_cast<Form&>(*Forms::Find(u"frmSchedule"_s));
+    QVERIFY(schedule.isVisible());
+    QCOMPARE(TextOf(schedule, u"lblCustomer"_s), u"Customer:  Ann Jones"_s);
+  }
+
   void StartingWithANewPersonStaysOnThem() {
     ThrowAwayLoft loft;
     Named(u"Ann Jones"_s);

@@ -1,0 +1,26 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+
+namespace Ui {
+class frmQuickFix;
+}
+
+/// Asks for the day on which a scheduled task was done, and records it as a job of its own.
+class frmQuickFix : public Form {
+  Q_OBJECT
+ public:
+  frmQuickFix();
+  ~frmQuickFix() override;
+
+  void SetTask(int rigID, int customerID, int taskLibID);
+
+ private:
+  void Save();
+
+  std::unique_ptr<Ui::frmQuickFix> ui_;
+  int rigID_ = 0;
+  int customerID_ = 0;
+  int taskLibID_ = 0;
+};

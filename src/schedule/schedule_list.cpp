@@ -1,0 +1,144 @@
+#include "schedule/schedule_list.h"
+
+#include "core/access.h"
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/remembered.h"
+#include "core/trap.h"
+#include "gear/components.h"
+#include "gear/people.h"
+#include "gear/rigs.h"
+#include "schedule/service_life.h"
+#include "schedule/task_library.h"
+#include "schedule/time_left.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString CustomerName(int owner) { return PersonExists(owner) ? PersonSortName(owner) : u"none"_s; }
+
+/// "Mirage G4.1, Optimum 143": what a line of work touched.
+QString ComponentsOfTask(int taskID) {
+  QStringList names;
+  for (const Recordset& row : Rows(u"Select * from tblTaskComponents where TaskID = %1"_s.arg(taskID)))
+    names << ComponentDescription(row[u"CompID"].ToInt()).trimmed();
+  return names.join(u", "_s);
+}
+
+class Loader {
+ public:
+  explicit Loader(const ScheduleFilter& filter) : filter_(filter) {}
+
+  QList<ScheduleEntry> Load() {
+    const QString only = filter_.taskLibID == 0 ? QString() : u" where TaskLibID = %1"_s.arg(filter_.taskLibID);
+    for (const Recordset& row : Rows(u"Select * from tblSchedules"_s + only + u" order by DateDue"_s)) AddEntry(row);
+    if (filter_.taskLibID == 0) DoComponentExpiration();
+    return std::move(list_);
+  }
+
+ private:
+  bool Ok2Load(int owner, int rig) const {
+    switch (filter_.whose) {
+      case ScheduleFilter::Whose::Customer:
+        return owner == filter_.customer;
+      case ScheduleFilter::Whose::Rig:
+        return rig == filter_.rig;
+      default:
+        return true;
+    }
+  }
+
+  void AddEntry(const Recordset& row) {
+    ScheduleEntry entry{.id = row[u"ID"].ToInt(),
+                        .done = row[u"DateDone"].ToDate(),
+                        .due = row[u"DateDue"].ToDate(),
+                        .taskLibID = row[u"TaskLibID"].ToInt(),
+                        .rigID = row[u"rigID"].ToInt(),
+                        .taskID = row[u"TaskID"].ToInt(),
+                        .componentID = row[u"ComponentID"].ToInt()};
+    const bool byRig = entry.rigID != 0;
+    entry.ownerID = byRig ? rigOwner_(entry.rigID) : ComponentOwner(entry.componentID);
+    if (!byRig) entry.rigID = ComponentRig(entry.componentID);
+    if (!Ok2Load(entry.ownerID, entry.rigID)) return;
+    entry.gear = byRig && rigExists_(entry.rigID) ? rigName_(entry.rigID) + u'/' + ComponentsOfTask(entry.taskID)
+                                                  : LoadComponent(entry.componentID);
+    entry.customer = customer_(entry.ownerID);
+    entry.task = task_(entry.taskLibID);
+    entry.dateDone = entry.done.IsNone() ? QString() : Format(entry.done, u"mm/dd/yyyy"_s);
+    entry.timeLeft = TimeLeftText(entry.due);
+    list_ << entry;
+  }
+
+  void DoComponentExpiration() {
+    QList<int> models;
+    GetArrayOfModelsWithServiceLife(models);
+    for (int model : models) {
+      if (model == 0) continue;
+      for (const Recordset& row : Rows(u"Select * from tblComponents where ModelID = %1"_s.arg(model))) AddEnd(row);
+    }
+  }
+
+  void AddEnd(const Recordset& row) {
+    const int component = row[u"ID"].ToInt();
+    const int owner = row[u"OwnerID"].ToInt();
+    const int rig = row[u"RigID"].ToInt();
+    if (!Ok2Load(owner, rig)) return;
+    const Date expiry = ServiceLifeExpiry(component);
+    if (expiry.IsNone()) return;
+    const QString description = ComponentDescription(component).trimmed();
+    list_ << ScheduleEntry{
+        .id = kServiceLifeRow,
+        .customer = customer_(owner),
+        .gear = rigExists_(rig) ? description + u'/' + rigName_(rig) : description + u" (not part of a rig)"_s,
+        .task = u"End of service life"_s,
+        .dateDone = u"Expires on:"_s,
+        .done = {},
+        .due = expiry,
+        .timeLeft = ExpiryTimeLeftText(expiry),
+        .taskLibID = kServiceLifeRow,
+        .rigID = rig,
+        .taskID = kServiceLifeRow,
+        .ownerID = owner,
+        .componentID = component};
+  }
+
+  ScheduleFilter filter_;
+  QList<ScheduleEntry> list_;
+  Remembered<QString> customer_{CustomerName};
+  Remembered<QString> task_{TaskLibName};
+  Remembered<QString> rigName_{RigName};
+  Remembered<int> rigOwner_{RigOwner};
+  Remembered<bool> rigExists_{RigExists};
+};
+
+void OfferToDeleteLostRows() {
+  for (Recordset& row : Rows(u"Select * from tblSchedules where rigid = 0 and componentID = 0"_s))
+    if (AskYes(Lines({u"tblSchedule - rigID = 0 and ComponentID =0"_s, u"found record.  delete it?"_s}), kProgramTitle))
+      row.Delete();
+}
+
+}  // namespace
+
+QList<ScheduleEntry> LoadSchedule(const ScheduleFilter& filter) {
+  QList<ScheduleEntry> list;
+  Trap(u"Sub LoadSchedule"_s, [&] {
+    Bracket bracket;
+    OfferToDeleteLostRows();
+    list = Loader(filter).Load();
+    bracket.Close();
+  });
+  return list;
+}
+
+QString LoadComponent(int componentID) {
+  const QString description = ComponentDescription(componentID).trimmed();
+  const int rig = ComponentRig(componentID);
+  return RigExists(rig) ? RigName(rig) + u" / "_s + description : description + u" (not part of a rig)"_s;
+}
+
+bool DeleteScheduleEntry(int id, const QString& rigName) {
+  if (id == kServiceLifeRow || !AskYes(u"Delete this item from the schedule?"_s, rigName)) return false;
+  DeleteRecordsFromTable(u"tblSchedules"_s, u"ID"_s, id);
+  return true;
+}
