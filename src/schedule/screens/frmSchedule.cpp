@@ -206,7 +206,7 @@ void frmSchedule::DisplayRig() {
   const QString description = ComponentDescription(component).trimmed();
   if (AskYes(Lines({description + u" is not part of a rig"_s, u"Would you like to see "_s + description + u'?'}),
              u"No rig"_s))
-    VerifyComponent(component, {}, true);
+    ShowComponent(component);
 }
 
 void frmSchedule::DisplayComponent() {
@@ -215,7 +215,7 @@ void frmSchedule::DisplayComponent() {
   if (entry->componentID == 0)
     MsgBox(u"schedule has multiple components"_s);
   else
-    VerifyComponent(entry->componentID, {}, true);
+    ShowComponent(entry->componentID);
 }
 
 void frmSchedule::DisplayCustomer() {

@@ -198,6 +198,8 @@ class TestScheduleScreen : public QObject {
     QVERIFY(Forms::IsShown(u"frmGetRig"_s));
     ChooseMenu(form, {u"Customer"_s, u"Display customer"_s});
     QVERIFY(Forms::IsShown(u"frmPeople"_s));
+    screens.WhenShown(u"frmComponent"_s, [](Form& component) { PressKey(component, Qt::Key_Escape); });
+    ChooseMenu(form, {u"Component"_s, u"Display component"_s});
   }
 
   void FollowsWhateverChangesTheSchedule() {
