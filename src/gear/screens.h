@@ -72,3 +72,6 @@ int PickComponent(int componentType, int owner = 0);
 
 /// Tells the picker how people, rigs and gear are added and deleted.
 void RegisterGearPickers();
+
+/// Shows the places of the shop; the one that was chosen, 0 for none. `location` is selected when the screen opens.
+int ShowLocations(int location = 0);

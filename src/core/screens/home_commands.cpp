@@ -88,7 +88,7 @@ std::vector<MenuLine> MainMenu() {
       {setUp, u"Component Types"_s, kLater},
       {setUp, u"Repack prices"_s, kLater},
       {setUp, u"Set Repack Cycle"_s, AskRepackCycle},
-      {setUp, u"Locations"_s, kLater},
+      {setUp, u"Locations"_s, [] { ShowLocations(); }},
       {setUp, u"Task Library"_s, kLater},
       {setUp, u"Event Library"_s, kLater},
       {setUp, u"Set default photo size"_s, kLater},

@@ -20,6 +20,7 @@
 #include "jobs/screens.h"
 #include "schedule/rig_audit.h"
 #include "schedule/scheduled_task.h"
+#include "schedule/screens.h"
 
 #include "ui_frmGetRig.h"
 
@@ -79,7 +80,9 @@ void frmGetRig::MakeMenu() {
   later(jobs, u"Review jobs"_s);
   later(MenuBar()->addMenu(u"Photos"_s), u"Add/view more photos"_s);
   later(MenuBar()->addMenu(u"History"_s), u"Show this rig's history"_s);
-  later(MenuBar()->addMenu(u"Schedule"_s), u"Show schedule"_s);
+  MenuBar()->addMenu(u"Schedule"_s)->addAction(u"Show schedule"_s, this, [this] {
+    OpenSchedule({.rig = ui_->browser->Rig()});
+  });
   auto* types = MenuBar()->addMenu(u"Rig Types"_s);
   types->addAction(u"Display all rig types"_s, this, [this] { ui_->browser->SetRigTypeFilter(0); });
   types->addAction(u"Display selected rig type only"_s, this, &frmGetRig::FilterByType);

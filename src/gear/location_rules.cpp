@@ -1,0 +1,123 @@
+#include "gear/location_rules.h"
+
+#include "core/access.h"
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/trap.h"
+#include "gear/locations.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What the other cities of a state say of its rate.
+struct StateRates {
+  QString cities;  ///< a line to each
+  std::optional<double> inForce;
+};
+
+StateRates OtherRates(const QString& state, double rate, int id) {
+  StateRates others;
+  for (const Recordset& row : Rows(u"Select * from tblLocation where State = '"_s + state + u'\'')) {
+    if (row[u"State"].ToText().toUpper() != state || (id != 0 && row[u"ID"].ToInt() == id)) continue;
+    const double other = row[u"TaxRate"].ToDouble();
+    others.cities += row[u"City"].ToText() + u"  ("_s + ShownTaxRate(other) + u"%)\n"_s;
+    if (other != rate) others.inForce = other;
+  }
+  return others;
+}
+
+}  // namespace
+
+QString ShownTaxRate(double rate) { return Format(rate, u"#0.00"_s); }
+
+IdList LoadLocations() {
+  IdList list;
+  Trap(u"Sub LoadLocations"_s, [&] {
+    Bracket bracket;
+    for (const Recordset& row : Rows(u"Select * from tblLocation order by City"_s)) {
+      const int id = row[u"ID"].ToInt();
+      list.Add(LocationText(id) + (row[u"Default"].ToBool() ? u"  (default location)"_s : QString()), id);
+    }
+    bracket.Close();
+  });
+  return list;
+}
+
+bool LoadLocation(int id, LocationEntry& entry) {
+  bool found = false;
+  Trap(u"Sub LoadLocation"_s, [&] {
+    Bracket bracket;
+    for (const Recordset& row : Rows(u"Select * from tblLocation where id = "_s + QString::number(id))) {
+      entry = {row[u"City"].ToText(), row[u"State"].ToText(), ShownTaxRate(row[u"TaxRate"].ToDouble()),
+               row[u"Default"].ToBool()};
+      found = true;
+    }
+    bracket.Close();
+  });
+  return found;
+}
+
+void CheckTax(LocationEntry& entry, int id) {
+  Trap(u"Sub CheckTax"_s, [&] {
+    Bracket bracket;
+    const QString state = entry.state.trimmed().toUpper();
+    const double rate = Val(entry.taxRate);
+    const StateRates others = OtherRates(state, rate, id);
+    if (others.inForce) {
+      const QString percent = ShownTaxRate(rate) + u'%';
+      if (AskYes(others.cities + Lines({QString(), u"The tax rate entered ("_s + percent + u") doesn't"_s,
+                                        u"match other cities in "_s + state, QString(),
+                                        u"Do you want to use "_s + percent + u" for "_s + entry.city.trimmed() + u'?'}),
+                 u"Tax rate doesn't match - "_s + percent)) {
+        if (AskYes(u"Do you want to use "_s + percent + u" for all cities in "_s + state + u'?',
+                   u"Change other city tax rates?"_s))
+          UpdateTable(u"tblLocation"_s, u"TaxRate"_s, rate, u"State"_s, u'\'' + state + u'\'');
+      } else {
+        entry.taxRate = ShownTaxRate(*others.inForce);
+        MsgBox(u"Tax rate changed to "_s + entry.taxRate);
+      }
+    }
+    bracket.Close();
+  });
+}
+
+int SaveLocation(LocationEntry& entry, int id) {
+  if (entry.city.trimmed().isEmpty()) {
+    MsgBox(u"You must enter a City"_s, u"No city"_s);
+    return 0;
+  }
+  CheckTax(entry, id);
+  int saved = 0;
+  Trap(u"Sub SaveLocation"_s, [&] {
+    Bracket bracket;
+    if (entry.isDefault) TurnOffAllLocationDefaults();
+    {
+      Recordset row(id == 0 ? u"tblLocation"_s : u"Select * from tblLocation where id = "_s + QString::number(id));
+      if (id == 0)
+        row.AddNew();
+      else if (!RecordsetHasRows(row))
+        MsgBox(u"you shouldn't be here"_s);
+      row.Set(u"Default", entry.isDefault);
+      row.Set(u"location", QString());
+      row.Set(u"City", entry.city.trimmed());
+      row.Set(u"State", entry.state.trimmed().toUpper());
+      row.Set(u"TaxRate", Val(entry.taxRate));
+      row.Update();
+      saved = row[u"ID"].ToInt();
+    }
+    bracket.Close();
+  });
+  return saved;
+}
+
+bool DeleteLocation(int id) {
+  const int jobs = NumberOfJobsAtLocation(id);
+  QStringList lines;
+  if (jobs == 1) lines << u"There is one job for that location"_s << QString();
+  if (jobs > 1) lines << u"There are "_s + QString::number(jobs) + u" jobs for that location"_s << QString();
+  lines << u"Are you sure you want to delete this location?"_s;
+  if (!AskYes(Lines(lines), u"Delete "_s + LocationText(id) + u'?')) return false;
+  DeleteRecordsFromTable(u"tblLocation"_s, u"ID"_s, id);
+  return true;
+}
