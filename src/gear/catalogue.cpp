@@ -1,6 +1,7 @@
 #include "gear/catalogue.h"
 
 #include "core/access.h"
+#include "core/default_rows.h"
 #include "core/trap.h"
 #include "gear/models.h"
 
@@ -93,6 +94,19 @@ NewModel AddModelByAsking(int type, int manufacturer, const QString& buttonCapti
   int existing = 0;
   if (RefuseDuplicateModel(name, type, existing)) return {existing, false};
   return {AddModelOfManufacturer(name, type, qMax(manufacturer, 0)), true};
+}
+
+NewModel AddPart(const QString& name, Money price, int manufacturer) {
+  int existing = 0;
+  if (RefuseDuplicateModel(name, kMisc, existing)) return {existing, false};
+  const int id = AddModelOfManufacturer(name, kMisc, qMax(manufacturer, 0));
+  UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
+  return {id, true};
+}
+
+void SavePart(int id, const QString& name, Money price) {
+  UpdateTable(u"tblModels"_s, u"Name"_s, name, u"ID"_s, id);
+  UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
 }
 
 int AddModelFromPicker(int type) {

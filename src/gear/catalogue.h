@@ -2,6 +2,7 @@
 #include <QString>
 
 #include "core/lists.h"
+#include "core/money.h"
 
 /// Adding, renaming, linking and deleting models and manufacturers, with their questions.
 
@@ -26,6 +27,10 @@ struct NewModel {
 };
 /// Asks for the name of a new model of a major type and adds it. `buttonCaption` names the button to come back to.
 NewModel AddModelByAsking(int type, int manufacturer, const QString& buttonCaption);
+/// Adds a part, a model of type Misc, by the name and price that were entered; a name in use is told.
+NewModel AddPart(const QString& name, Money price, int manufacturer);
+/// Writes the name and the price of a part; duplicates are not looked for.
+void SavePart(int id, const QString& name, Money price);
 /// Tells that a model has this name already; true when it does. `existing` is that model.
 bool RefuseDuplicateModel(const QString& name, int type, int& existing);
 /// Asks for the name of a model that a pick list lacks and adds it; 0 when nothing came of it.

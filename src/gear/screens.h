@@ -75,3 +75,23 @@ void RegisterGearPickers();
 
 /// Shows the places of the shop; the one that was chosen, 0 for none. `location` is selected when the screen opens.
 int ShowLocations(int location = 0);
+
+/// What the models screen opens on.
+struct ModelScreenStart {
+  int type = 0;                  ///< a component type; Misc shows the parts and nothing else
+  bool onManufacturers = false;  ///< the list of makers has the cursor
+  bool create = false;           ///< ends as soon as a model was added
+};
+/// Opens the models beside the other screens, or brings them forward.
+void OpenModels(const ModelScreenStart& start = {});
+/// Lets a person add a model of a type; its id, 0 when none was added.
+int CreateModel(int type);
+
+/// Lets a person choose a model; `type` and `model` are selected when the screen opens and receive the choice. False
+/// when cancelled.
+bool SelectModel(int& type, int& model);
+
+/// Shows the component types, modally.
+void ShowComponentTypes();
+/// Opens the rig types beside the other screens, or brings them forward.
+void OpenRigTypes();

@@ -1,5 +1,8 @@
 #pragma once
+#include <QString>
+
 #include "core/date.h"
+#include "core/money.h"
 
 /// The doors to the job screens.
 
@@ -18,3 +21,16 @@ void ShowJob();
 
 /// Asks for the day on which a scheduled entry was done on a rig, and records it as a job of one line.
 void ShowQuickFix(int rigID, int customerID, int taskLibID);
+
+/// A part as it is entered.
+struct MiscItem {
+  QString name;
+  Money price;
+};
+struct MiscItemQuestion {
+  QString caption = QStringLiteral("Enter New Misc Item");
+  bool nameIsFixed = false;
+  bool thisJobOnly = false;  ///< tells that the library keeps its own name and price
+};
+/// Asks for the name and price of a part, `item` proposed. False, and nothing changed, when it was left or has no name.
+bool EnterMiscItem(MiscItem& item, const MiscItemQuestion& question = {});

@@ -4,6 +4,7 @@
 
 #include "core/access.h"
 #include "core/clock.h"
+#include "core/default_rows.h"
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
@@ -65,6 +66,12 @@ void ShowLastJob() {
   if (GetNumberRecordsInTable(u"tblJobs"_s) > 0) ShowJob();
 }
 
+void ShowModels() { OpenModels(); }
+
+void ShowParts() { OpenModels({.type = kMisc}); }
+
+void ShowManufacturers() { OpenModels({.onManufacturers = true}); }
+
 void ShowSchedule() { OpenSchedule(); }
 
 void LoadAllForms() {
@@ -84,8 +91,8 @@ std::vector<MenuLine> MainMenu() {
       history{u"History"_s}, reports{u"Reports"_s}, tools{u"Tools"_s}, photos{u"Tools"_s, u"Photos"_s},
       email{u"Email"_s}, database{u"Database"_s}, install{u"Database"_s, u"Install backup database"_s}, help{u"Help"_s};
   return {
-      {setUp, u"Rig Types"_s, kLater},
-      {setUp, u"Component Types"_s, kLater},
+      {setUp, u"Rig Types"_s, OpenRigTypes},
+      {setUp, u"Component Types"_s, ShowComponentTypes},
       {setUp, u"Repack prices"_s, kLater},
       {setUp, u"Set Repack Cycle"_s, AskRepackCycle},
       {setUp, u"Locations"_s, [] { ShowLocations(); }},
@@ -107,12 +114,12 @@ std::vector<MenuLine> MainMenu() {
       {library, u"Create New Task"_s, kLater},
       {library, u"View All tasks"_s, kLater},
       {library, u"Set Repack Cycle"_s, AskRepackCycle},
-      {parts, u"Add/Edit"_s, kLater},
+      {parts, u"Add/Edit"_s, ShowParts},
       {gear, u"Rig Database"_s, ShowRigDatabase},
       {gear, u"Gear List"_s, kLater},
-      {gear, u"Component Models"_s, kLater},
+      {gear, u"Component Models"_s, ShowModels},
       {gear, u"Components Entered"_s, kLater},
-      {gear, u"Manufactures"_s, kLater},
+      {gear, u"Manufactures"_s, ShowManufacturers},
       {gear, u"Photos"_s, kLater},
       {gearHistory, u"History by rig"_s, kLater},
       {gearHistory, u"History by component (canopy, container, etc)"_s, kLater},
@@ -164,6 +171,7 @@ HomeCommand ButtonCommand(const QString& button) {
       {u"cmdPeople"_s, ShowCustomers},
       {u"cmdRigs"_s, ShowRigDatabase},
       {u"cmdSchedules"_s, ShowSchedule},
+      {u"cmdModels"_s, ShowModels},
   };
   return commands.value(button);
 }
@@ -173,7 +181,7 @@ std::vector<FloatingEntry> FloatingMenu() {
           {u"Customers"_s, ShowCustomers},
           {QString(), {}},
           {u"Components"_s, kLater},
-          {u"Models"_s, kLater},
+          {u"Models"_s, ShowModels},
           {u"Rigs"_s, ShowRigsPlainly},
           {u"Job list"_s, kLater},
           {u"Job"_s, ShowLastJob},

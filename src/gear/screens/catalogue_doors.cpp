@@ -1,5 +1,9 @@
 #include "gear/screens.h"
+#include "gear/screens/frmComponentModels.h"
+#include "gear/screens/frmComponentTypes.h"
 #include "gear/screens/frmLocation.h"
+#include "gear/screens/frmRigTypes.h"
+#include "gear/screens/frmSelectModel.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,3 +15,39 @@ int ShowLocations(int location) {
   form.UnloadForm();
   return chosen;
 }
+
+void OpenModels(const ModelScreenStart& start) {
+  auto& form = SharedForm<frmComponentModels>();
+  form.SetStart(start);
+  form.Show();
+}
+
+int CreateModel(int type) {
+  auto& form = SharedForm<frmComponentModels>();
+  form.SetStart({.type = type, .create = true});
+  form.ShowModal();
+  const int created = form.CreatedModel();
+  form.UnloadForm();
+  return created;
+}
+
+bool SelectModel(int& type, int& model) {
+  auto& form = SharedForm<frmSelectModel>();
+  form.SetModel(type, model);
+  form.ShowModal();
+  const bool chosen = form.Tag() == "select"_L1;
+  if (chosen) {
+    type = form.Type();
+    model = form.Model();
+  }
+  form.UnloadForm();
+  return chosen;
+}
+
+void ShowComponentTypes() {
+  auto& form = SharedForm<frmComponentTypes>();
+  form.ShowModal();
+  form.UnloadForm();
+}
+
+void OpenRigTypes() { SharedForm<frmRigTypes>().Show(); }

@@ -1,0 +1,64 @@
+#include "jobs/screens/frmNewMisc.h"
+
+#include <QKeyEvent>
+
+#include "core/format.h"
+#include "core/widgets/screen_routines.h"
+
+#include "ui_frmNewMisc.h"
+
+using namespace Qt::StringLiterals;
+
+frmNewMisc::frmNewMisc() : ui_(std::make_unique<Ui::frmNewMisc>()) {
+  ui_->setupUi(this);
+  SetRemembersPlace(false);
+  ui_->txtName->installEventFilter(this);
+  ui_->txtCost->installEventFilter(this);
+  connect(ui_->cmdOK, &QPushButton::clicked, this, &frmNewMisc::Leave);
+  connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmNewMisc::Cancel);
+}
+
+frmNewMisc::~frmNewMisc() = default;
+
+void frmNewMisc::SetItem(const MiscItem& item, const MiscItemQuestion& question) {
+  setWindowTitle(question.caption);
+  ui_->lblTaskOnly->setVisible(question.thisJobOnly);
+  ui_->txtName->setReadOnly(question.nameIsFixed);
+  ui_->txtName->setText(item.name);
+  ui_->txtCost->setText(item.name.isEmpty() ? QString() : Format(item.price, u"########0.00"_s));
+  SelectAllInBox(question.nameIsFixed ? ui_->txtCost : ui_->txtName);
+}
+
+MiscItem frmNewMisc::Item() const { return {ui_->txtName->text().trimmed(), Money::FromText(ui_->txtCost->text())}; }
+
+void frmNewMisc::Cancel() {
+  ui_->txtName->clear();
+  ui_->txtCost->clear();
+  Form::Cancel();
+}
+
+/// Enter moves from the name to the price, and from the price to OK.
+bool frmNewMisc::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      if (watched == ui_->txtName)
+        SelectAllInBox(ui_->txtCost);
+      else
+        ui_->cmdOK->setFocus();
+      return true;
+    }
+  }
+  return Form::eventFilter(watched, event);
+}
+
+bool EnterMiscItem(MiscItem& item, const MiscItemQuestion& question) {
+  auto& form = SharedForm<frmNewMisc>();
+  form.SetItem(item, question);
+  form.ShowModal();
+  const MiscItem entered = form.Item();
+  form.UnloadForm();
+  if (entered.name.isEmpty()) return false;
+  item = entered;
+  return true;
+}
