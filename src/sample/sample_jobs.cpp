@@ -3,6 +3,7 @@
 #include "core/clock.h"
 #include "core/default_rows.h"
 #include "core/format.h"
+#include "gear/catalogue.h"
 #include "gear/rigs.h"
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
@@ -26,7 +27,7 @@ class Jobs {
     SetClock(day);
     const int job = Start(rig, u"%1 %2"_s.arg(RigName(rig.id), Format(day, u"m/d/yyyy"_s)), day);
     AddLibraryTask(JobContextOf(job), RepackTaskLibID, day, true);
-    if (Draw(4) == 0) AddCustom(job, {u"Replace closing loop"_s, Money::Whole(6), true});
+    if (Draw(4) == 0) AddPartLine(job, shop_.closingLoop);
     if (rig.type == kTandemRig && Draw(3) == 0) AddCustom(job, {u"Tandem line check"_s, Money::Whole(20), true});
     if (Draw(9) == 0) AddCustom(job, {u"Patch small hole in main"_s, Money::Whole(35), true});
     Finish(job, day);
@@ -46,7 +47,7 @@ class Jobs {
   int Start(const SampleRig& rig, const QString& title, Date day) {
     int job = 0;
     CreateNewJob(title, rig.owner, rig.id, 0, job, shop_.riggers[Draw(3) == 0 ? 1 : 0],
-                 shop_.locations.isEmpty() ? 0 : shop_.locations[Draw(5) == 0 ? 1 : 0], day);
+                 shop_.locations[Draw(5) == 0 ? 1 : 0], day);
     SetJobDatePromised(job, day + 7);
     return job;
   }
@@ -54,6 +55,11 @@ class Jobs {
   void AddCustom(int job, const CustomLine& line) {
     int task = 0;
     AddCustomLine(JobContextOf(job), line, Today(), task);
+  }
+
+  void AddPartLine(int job, int part) {
+    int task = 0;
+    AddTaskToJob(JobContextOf(job), part, true, Today(), task);
   }
 
   void Finish(int job, Date day) {
@@ -71,9 +77,13 @@ class Jobs {
 
 }  // namespace
 
-void AddSampleLibrary() {
+void AddSampleLibrary(SampleShop& shop) {
   CheckIR(Money::Whole(75));
   SaveByType(kTandemRig, Money::Whole(110));
+  shop.closingLoop = AddPart(u"Closing loop"_s, Money::FromText(u"6.50"_s), 0).id;
+  AddPart(u"Rubber bands (bag of 100)"_s, Money::Whole(4), 0);
+  AddPart(u"AAD battery"_s, Money::Whole(89), 0);
+  AddPart(u"Slider grommet"_s, Money::FromText(u"12.75"_s), 0);
 }
 
 void AddSampleJobs(QList<SampleRig> rigs, const SampleShop& shop, Date start, Date today, std::mt19937& random) {

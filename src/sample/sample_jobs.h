@@ -7,10 +7,11 @@
 struct SampleShop {
   QList<int> riggers;
   QList<int> locations;
+  int closingLoop = 0;  ///< the part that repacks use up
 };
 
-/// Prices, library entries and parts that the jobs use.
-void AddSampleLibrary();
+/// Repack prices, and parts with theirs.
+void AddSampleLibrary(SampleShop& shop);
 
 /// The jobs from `start` to `today`, each on its day: repacks when they are due or when the owner remembers them, other
 /// work and parts beside them, events, and the jobs that are on the bench now.

@@ -7,6 +7,7 @@
 #include "core/default_rows.h"
 #include "core/files.h"
 #include "dbcare/check_fields.h"
+#include "gear/location_rules.h"
 #include "gear/models_file.h"
 #include "gear/people.h"
 #include "jobs/repack_price.h"
@@ -33,6 +34,15 @@ QList<int> AddPeople() {
   return ids;
 }
 
+/// The loft itself, and the airfield where it packs at weekends.
+QList<int> AddLocations() {
+  QList<int> ids;
+  for (LocationEntry place : {LocationEntry{u"Fairhaven"_s, u"CA"_s, u"7.75"_s, true},
+                              LocationEntry{u"Cedar Flats"_s, u"AZ"_s, u"5.6"_s, false}})
+    ids << SaveLocation(place, 0);
+  return ids;
+}
+
 /// Lets the clock run again, whatever happened.
 struct ClockReset {
   ~ClockReset() { SetClock({}); }
@@ -51,9 +61,9 @@ void MakeSampleLoft(Date today) {
   CreateDefaultRows();
   CheckModelsFile();
   SetRepackCycle(180);
-  AddSampleLibrary();
   const QList<int> people = AddPeople();
-  const SampleShop shop{people.first(kSampleRiggers), {}};
+  SampleShop shop{people.first(kSampleRiggers), AddLocations()};
+  AddSampleLibrary(shop);
   AddSampleJobs(AddSampleGear(people.mid(kSampleRiggers), start, random), shop, start, today, random);
   bracket.Close();
 }

@@ -67,6 +67,8 @@ class SampleLoftTest : public QObject {
     QCOMPARE(Number(u"SELECT count(*) FROM tblPeople WHERE rigger = -1"_s), 2);
     QVERIFY(Number(u"SELECT count(*) FROM tblRig"_s) >= 55);
     QCOMPARE(Number(u"SELECT count(DISTINCT TypeID) FROM tblRig"_s), 4);
+    QCOMPARE(Number(u"SELECT count(*) FROM tblLocation WHERE TaxRate > 0"_s), 2);
+    QVERIFY(Number(u"SELECT count(*) FROM tblTasks WHERE PartID > 0"_s) >= 10);
     QVERIFY(Number(u"SELECT count(*) FROM tblJobs"_s) >= 200);
     QVERIFY(Number(u"SELECT count(*) FROM tblJobs WHERE JobStatus = 0"_s) >= 2);
     QVERIFY(Number(u"SELECT count(*) FROM tblTasks WHERE IsEvent = -1"_s) >= 2);

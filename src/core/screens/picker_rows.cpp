@@ -33,8 +33,12 @@ QString CustomerText(const Recordset& row) {
   return PersonSortName(id) + " ("_L1 + QString::number(id) + u')';
 }
 
+/// Locations carry no name of their own; the city stands for it.
 QString LocationRowText(const Recordset& row) {
-  return row[u"Location"].ToText() + (row[u"Default"].ToBool() ? u" (default)"_s : QString());
+  QStringList parts;
+  for (QStringView field : {u"Location", u"City", u"State"})
+    if (const QString part = row[field].ToText().trimmed(); !part.isEmpty()) parts << part;
+  return parts.join(u", "_s) + (row[u"Default"].ToBool() ? u" (default)"_s : QString());
 }
 
 QString ModelStatement(int modelTypeId) {

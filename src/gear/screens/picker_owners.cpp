@@ -1,6 +1,7 @@
 #include "core/picker.h"
 #include "gear/catalogue.h"
 #include "gear/component_types.h"
+#include "gear/location_rules.h"
 #include "gear/models.h"
 #include "gear/person_deletion.h"
 #include "gear/person_names.h"
@@ -23,6 +24,13 @@ void RegisterGearPickers() {
                                       .removeAsks = true});
   RegisterPickerOwner(kPickMiscItem, {.add = [](const QString& name, int type) { return AddModel(name, type); },
                                       .remove = [](int id) { return DeleteModel(id) == ModelDeletion::Deleted; },
+                                      .removeAsks = true});
+  RegisterPickerOwner(kPickLocation, {.add =
+                                          [](const QString& name, int) {
+                                            LocationEntry entry{.city = name};
+                                            return SaveLocation(entry, 0);
+                                          },
+                                      .remove = DeleteLocation,
                                       .removeAsks = true});
   RegisterPickerOwner(kPickRigType, {.remove = [](int id) { return DeleteRigType(id) == RigTypeDeletion::Deleted; },
                                      .removeAsks = true});

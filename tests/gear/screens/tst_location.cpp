@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QtTest>
 
+#include "core/screens.h"
 #include "core/widgets/list.h"
 #include "gear/locations.h"
 #include "gear/screens.h"
@@ -256,6 +257,28 @@ class TestLocationScreen : public QObject {
     QCOMPARE(shop.loft.TouchedSince(before),
              QStringList({u"-tblLocation|%1"_s.arg(shop.perris), u"-tblLocation|%1"_s.arg(shop.lodi)}));
     QCOMPARE(DefaultLocation(), shop.eloy);  // the one that is left
+  }
+
+  void ThePickerShowsAddsAndDeletesLocations() {
+    Places shop;
+    RegisterGearPickers();
+    shop.screens.WhenShown(u"frmPicker"_s, [&](Form& form) {
+      QCOMPARE(Items(form), QStringList({u"Perris, CA"_s, u"Lodi, CA"_s, u"Eloy, AZ"_s}));
+      TypeInto(form, u"txt"_s, u"Davis"_s);
+      shop.prompts.Expect(
+          u"Add new location?"_s,
+          u"Can't find 'Davis' anywhere in the location database\n\nWould you like to add a new location?"_s,
+          Answer::Yes);
+      Click(form, u"cmdSelect"_s);
+      QCOMPARE(TextOf(form, u"txt"_s), u"Davis"_s);
+      Control<List>(form, u"lst"_s).SelectData(shop.eloy);
+      shop.prompts.Expect(u"Delete Eloy, AZ?"_s, u"Are you sure you want to delete this location?"_s, Answer::Yes);
+      Click(form, u"cmdDelete"_s);
+      Control<List>(form, u"lst"_s).SelectData(4);
+      Click(form, u"cmdSelect"_s);
+    });
+    QCOMPARE(PickItem(kPickLocation).id, 4);
+    QCOMPARE(shop.Rows(), QStringList({u"Perris|CA|7.25|0"_s, u"Lodi|CA|7.25|0"_s, u"Davis||0.0|0"_s}));
   }
 
   void NamesKeepTheirApostrophesAndAStateWithOneIsTold() {
