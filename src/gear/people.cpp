@@ -110,6 +110,14 @@ std::pair<int, int> EndsByLastName() {
   return ids.isEmpty() ? std::pair(0, 0) : std::pair(ids.first(), ids.last());
 }
 
+bool RiggersExist() {
+  if (NumberOfRiggers() > 0) return true;
+  MsgBox(Lines({u"There are no riggers in your database"_s, u"To designate a person as a rigger, go to the"_s,
+                u"customers form and check the RIGGER check box"_s}),
+         u"No riggers found"_s);
+  return false;
+}
+
 int NumberOfRiggers() { return GetNumberRecordsComplex(u"Select * from tblPeople where rigger = true"_s).ToInt(); }
 
 int DefaultRigger() {

@@ -29,6 +29,8 @@ int FirstPerson();
 std::pair<int, int> EndsByLastName();
 
 int NumberOfRiggers();
+/// False, told, when nobody is a rigger.
+bool RiggersExist();
 /// The rigger proposed for new jobs, 0 for none. One whose row has gone is read once more and cleared.
 int DefaultRigger();
 void SetDefaultRigger(int id);

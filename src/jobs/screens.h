@@ -34,3 +34,11 @@ struct MiscItemQuestion {
 };
 /// Asks for the name and price of a part, `item` proposed. False, and nothing changed, when it was left or has no name.
 bool EnterMiscItem(MiscItem& item, const MiscItemQuestion& question = {});
+
+/// What the job list opens on.
+struct JobListStart {
+  int customer = 0;   ///< the jobs of this customer; 0 for all
+  int taskLibID = 0;  ///< the jobs with a line of this library entry; 0 for all
+};
+/// Opens the job list beside the other screens, or brings it forward.
+void OpenJobList(const JobListStart& start = {});

@@ -16,21 +16,24 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTandemRig = 2;
-constexpr int kBenchDays = 12;  ///< jobs started in the last days are still on the bench
+constexpr int kOnTheBench = 5;  ///< jobs that are not done yet
 
 class Jobs {
  public:
   Jobs(const SampleShop& shop, Date today, std::mt19937& random) : shop_(shop), today_(today), random_(random) {}
 
   /// A repack with what else came up, done within some days.
-  void Repack(const SampleRig& rig, Date day) {
+  void Repack(const SampleRig& rig, Date day) { Finish(Begin(rig, day), day); }
+
+  /// The same, not done yet. The job.
+  int Begin(const SampleRig& rig, Date day) {
     SetClock(day);
     const int job = Start(rig, u"%1 %2"_s.arg(RigName(rig.id), Format(day, u"m/d/yyyy"_s)), day);
     AddLibraryTask(JobContextOf(job), RepackTaskLibID, day, true);
     if (Draw(4) == 0) AddPartLine(job, shop_.closingLoop);
     if (rig.type == kTandemRig && Draw(3) == 0) AddCustom(job, {u"Tandem line check"_s, Money::Whole(20), true});
     if (Draw(9) == 0) AddCustom(job, {u"Patch small hole in main"_s, Money::Whole(35), true});
-    Finish(job, day);
+    return job;
   }
 
   void Reserve(const SampleRig& rig, Date day) {
@@ -97,4 +100,5 @@ void AddSampleJobs(QList<SampleRig> rigs, const SampleShop& shop, Date start, Da
       rig.nextRepack = stops ? Date() : day + rig.days + jobs.Draw(25);
     }
   }
+  for (int i = 0; i < kOnTheBench; ++i) jobs.Begin(rigs[3 + 10 * i], today - (1 + i));
 }

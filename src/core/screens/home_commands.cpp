@@ -66,6 +66,12 @@ void ShowLastJob() {
   if (GetNumberRecordsInTable(u"tblJobs"_s) > 0) ShowJob();
 }
 
+void ShowJobList() { OpenJobList(); }
+
+void ShowJobsOfTask() {
+  if (const int task = PickItem(kPickTask).id; task > 0) OpenJobList({.taskLibID = task});
+}
+
 void ShowModels() { OpenModels(); }
 
 void ShowParts() { OpenModels({.type = kMisc}); }
@@ -76,6 +82,7 @@ void ShowSchedule() { OpenSchedule(); }
 
 void LoadAllForms() {
   Bracket bracket;
+  ShowJobList();
   ShowLastJob();
   OpenSchedule();
   ArrangeForms();
@@ -106,8 +113,8 @@ std::vector<MenuLine> MainMenu() {
       {forms, u"Load all forms"_s, LoadAllForms},
       {forms, u"Show menu"_s, ShowFloatingMenu},
       {jobs, u"Start new job"_s, StartJobForCustomer},
-      {jobs, u"Review/Edit jobs"_s, kLater},
-      {jobs, u"Show jobs which use a selected task type"_s, kLater},
+      {jobs, u"Review/Edit jobs"_s, ShowJobList},
+      {jobs, u"Show jobs which use a selected task type"_s, ShowJobsOfTask},
       {customers, u"Select / Edit"_s, ShowCustomers},
       {customers, u"Add new"_s, AddCustomer},
       {library, u"Reserve Repack Prices"_s, kLater},
@@ -133,7 +140,7 @@ std::vector<MenuLine> MainMenu() {
       {reports, u"Component history (canopy, container, etc)"_s, kLater},
       {reports, u"Task Report"_s, kLater},
       {reports, u"Event Report"_s, kLater},
-      {reports, u"Show jobs which use a selected task type"_s, kLater},
+      {reports, u"Show jobs which use a selected task type"_s, ShowJobsOfTask},
       {reports, u"Service bulletins"_s, kLater},
       {tools, u"Check database fields"_s, CheckDatabaseFields},
       {tools, u"Audit repack entries"_s, kLater},
@@ -168,10 +175,8 @@ std::vector<MenuLine> MainMenu() {
 
 HomeCommand ButtonCommand(const QString& button) {
   static const QHash<QString, HomeCommand> commands = {
-      {u"cmdPeople"_s, ShowCustomers},
-      {u"cmdRigs"_s, ShowRigDatabase},
-      {u"cmdSchedules"_s, ShowSchedule},
-      {u"cmdModels"_s, ShowModels},
+      {u"cmdPeople"_s, ShowCustomers},   {u"cmdRigs"_s, ShowRigDatabase}, {u"cmdJobs"_s, ShowJobList},
+      {u"cmdSchedules"_s, ShowSchedule}, {u"cmdModels"_s, ShowModels},
   };
   return commands.value(button);
 }
@@ -183,7 +188,7 @@ std::vector<FloatingEntry> FloatingMenu() {
           {u"Components"_s, kLater},
           {u"Models"_s, ShowModels},
           {u"Rigs"_s, ShowRigsPlainly},
-          {u"Job list"_s, kLater},
+          {u"Job list"_s, ShowJobList},
           {u"Job"_s, ShowLastJob},
           {u"History"_s, kLater},
           {u"Schedule"_s, ShowSchedule},

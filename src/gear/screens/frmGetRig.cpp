@@ -77,7 +77,7 @@ void frmGetRig::MakeMenu() {
   rigCommands_ << add(rigs, u"Rename rig"_s, &frmGetRig::RenameRig);
   auto* jobs = MenuBar()->addMenu(u"Jobs"_s);
   add(jobs, u"Start new job"_s, [this] { StartNewJob(ui_->browser->Customer(), ui_->browser->Rig(), 0, Today()); });
-  later(jobs, u"Review jobs"_s);
+  jobs->addAction(u"Review jobs"_s, this, [this] { OpenJobList({.customer = ui_->browser->Customer()}); });
   later(MenuBar()->addMenu(u"Photos"_s), u"Add/view more photos"_s);
   later(MenuBar()->addMenu(u"History"_s), u"Show this rig's history"_s);
   MenuBar()->addMenu(u"Schedule"_s)->addAction(u"Show schedule"_s, this, [this] {

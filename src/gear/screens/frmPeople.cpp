@@ -54,7 +54,7 @@ void frmPeople::MakeMenu() {
   mnuEditCustomer_ = mnuMenu_->addAction(u"Edit this customer"_s, this, &frmPeople::EditPerson);
   mnuDeleteCustomer_ = mnuMenu_->addAction(u"Delete this customer"_s, this, &frmPeople::DeletePerson);
   mnuJobsDummy_ = MenuBar()->addMenu(u"Jobs"_s);
-  mnuJobsDummy_->addAction(u"Review jobs"_s)->setEnabled(false);
+  mnuReviewJobs_ = mnuJobsDummy_->addAction(u"Review jobs"_s, this, [this] { OpenJobList({.customer = current_}); });
   mnuNewJob_ = mnuJobsDummy_->addAction(u"Start new job"_s, this, [this] { StartNewJob(current_, 0, 0, Today()); });
   mnuExit_ = MenuBar()->addAction(u"Exit"_s, this, &frmPeople::Cancel);
 }
@@ -183,6 +183,7 @@ void frmPeople::ShowState() {
   mnuEditCustomer_->setEnabled(shown);
   mnuDeleteCustomer_->setEnabled(shown);
   mnuNewJob_->setEnabled(shown);
+  mnuReviewJobs_->setEnabled(shown);
   ui_->chkRigger->setEnabled(shown);
   for (QPushButton* button : {ui_->cmdSearch, ui_->cmdAddNew, ui_->cmdExit}) button->setEnabled(!locked_);
   for (QPushButton* button : {ui_->cmdNext, ui_->cmdPrev, ui_->cmdRigs, ui_->cmdShowSchedule})

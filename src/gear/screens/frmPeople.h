@@ -56,6 +56,7 @@ class frmPeople : public Form {
   QAction* mnuEditCustomer_ = nullptr;
   QAction* mnuDeleteCustomer_ = nullptr;
   QAction* mnuNewJob_ = nullptr;
+  QAction* mnuReviewJobs_ = nullptr;
   int start_ = 0;
   int current_ = -1;
   bool ownerSetup_ = false;

@@ -17,6 +17,7 @@
 #include "jobs/job_components.h"
 #include "jobs/job_records.h"
 #include "jobs/screens.h"
+#include "jobs/screens/gear_grid.h"
 
 #include "ui_frmJob.h"
 
@@ -56,15 +57,7 @@ frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(th
   txtAny_->hide();
   BuildMenus();
   SetUpLines();
-  ui_->grid->SetColumns({{.heading = QString(), .width = 0, .sort = GridSort::Number, .name = u"Type"_s},
-                         {.heading = u"Component"_s, .width = FromTwips(1900)},
-                         {.heading = u"Name"_s, .width = FromTwips(1500)},
-                         {.heading = u"Serial Number"_s, .width = FromTwips(1500)},
-                         {.heading = u"Date of mfg"_s, .width = FromTwips(1500), .sort = GridSort::Date},
-                         {.heading = QString(), .width = 0, .name = u"ID"_s}});
-  ui_->grid->SetSortable(false);
-  ui_->grid->SetSelectsRows(true);
-  ui_->grid->SetStretchColumn(2);
+  SetUpGearGrid(*ui_->grid);
   for (const QString& text : kJobItems) ui_->lstTasks->AddItem(text);
   ConnectControls();
   ConnectHeader();
@@ -140,16 +133,7 @@ void frmJob::changeEvent(QEvent* event) {
 }
 
 void frmJob::LoadSystemInfo() {
-  std::vector<GridRow> rows;
-  for (const GearPlace& place : LoadJobGear(job_.jobID, RigExists(job_.rigID) ? job_.rigID : 0)) {
-    const int id = place.componentID;
-    const Date dom = id == 0 ? Date() : ComponentDom(id);
-    rows.push_back({{QString::number(place.componentType), ComponentTypeName(place.componentType),
-                     id == 0 ? QString() : ComponentDescription(id), id == 0 ? QString() : ComponentSerial(id),
-                     dom.IsNone() ? QString() : Format(dom, u"mm/dd/yyyy"_s), QString::number(id)},
-                    id});
-  }
-  ui_->grid->Fill(std::move(rows));
+  FillGearGrid(*ui_->grid, job_.jobID, RigExists(job_.rigID) ? job_.rigID : 0);
   CheckRigChange();
 }
 

@@ -128,12 +128,7 @@ Date frmJob::WorkDate() const {
 }
 
 void frmJob::ChangeRigger() {
-  if (NumberOfRiggers() == 0) {
-    MsgBox(Lines({u"There are no riggers in your database"_s, u"To designate a person as a rigger, go to the"_s,
-                  u"customers form and check the RIGGER check box"_s}),
-           u"No riggers found"_s);
-    return;
-  }
+  if (!RiggersExist()) return;
   const Picked picked = PickItem(kPickRigger, 0, job_.riggerID);
   if (picked.id < 1 || picked.id == job_.riggerID) return;
   SetJobRiggerID(job_.jobID, picked.id);

@@ -41,7 +41,7 @@ void frmJob::BuildMenus() {
     if (picked.id > 0) StartJobDialog(picked.id, 0, 0, jobID, 0, 0, Today());
   });
   AddMissing(jobs, u"Create a new rig"_s);
-  AddMissing(jobs, u"Load different Job"_s);
+  jobs->addAction(u"Load different Job"_s, this, [] { OpenJobList(); });
   jobs->addAction(u"Delete this job"_s, this, &frmJob::DeleteThisJob);
   jobs->addAction(u"Change rigger for job"_s, this, &frmJob::ChangeRigger);
   AddMissing(jobs, u"Change location"_s);

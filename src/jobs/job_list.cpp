@@ -1,0 +1,45 @@
+#include "jobs/job_list.h"
+
+#include "core/access.h"
+#include "core/format.h"
+#include "core/trap.h"
+#include "jobs/job_records.h"
+#include "jobs/task_rules.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Status = JobListFilter::Status;
+
+bool OK2ShowByJob(Status status, Date completed) {
+  return status == Status::Any || completed.IsNone() == (status == Status::Active);
+}
+
+/// All dates are of one width, so the titles line up behind them.
+QString RowText(const Recordset& job, Status status, Date completed) {
+  QString invoice = job[u"InvoiceNumber"].ToText();
+  if (invoice.trimmed().isEmpty()) invoice = GetInvoiceNumber(job[u"ID"].ToInt());
+  return Format(job[u"DateStarted"].ToDate(), u"mm/dd/yy"_s) + u"    "_s + job[u"JobTitle"].ToText() + u" - "_s +
+         invoice + (status == Status::Any && !completed.IsNone() ? u" (completed)"_s : QString());
+}
+
+}  // namespace
+
+IdList LoadListJobs(const JobListFilter& filter) {
+  IdList list;
+  Trap(u"Sub LoadListJobs"_s, [&] {
+    Bracket bracket;
+    const QString whose =
+        filter.customer == 0 ? QString() : u" where CustomerID = "_s + QString::number(filter.customer);
+    for (const Recordset& job : Rows(u"Select * from tblJobs"_s + whose + u" order by DateStarted desc, ID DESC"_s)) {
+      const int id = job[u"ID"].ToInt();
+      const Date completed = job[u"DateCompleted"].ToDate();
+      if (!OK2ShowByJob(filter.status, completed) || job[u"JobTitle"].ToText().trimmed().isEmpty()) continue;
+      if (filter.taskLibID == 0 || TaskOnJob(id, filter.taskLibID))
+        list.Add(RowText(job, filter.status, completed), id);
+    }
+    bracket.Close();
+  });
+  return list;
+}

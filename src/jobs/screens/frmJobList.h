@@ -1,0 +1,47 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+#include "jobs/job_list.h"
+#include "jobs/screens.h"
+
+namespace Ui {
+class frmJobList;
+}
+
+/// All jobs, of one customer or of everyone, and the gear that each was done on.
+class frmJobList : public Form {
+  Q_OBJECT
+ public:
+  frmJobList();
+  ~frmJobList() override;
+
+  void SetStart(const JobListStart& start);
+  void ReloadForm() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void BuildMenus();
+  int Customer() const;
+  int Job() const;
+  int Rig() const;
+  JobListFilter Filter() const;
+  void LoadCustomers(int select);
+  void LoadJobs(int select);
+  void ShowJob();
+  void ShowPhotos();
+  void Search();
+  void Select();
+  void NarrowByTask();
+  void StartJob();
+  void DeleteSelectedJob();
+  void AddNewCustomer();
+  void DeleteSelectedCustomer();
+  void ShowThisRig();
+  void ShowRigNow();
+
+  std::unique_ptr<Ui::frmJobList> ui_;
+  int taskLibID_ = 0;
+};
