@@ -15,6 +15,8 @@
 #include "gear/screens/frmGetRig.h"
 #include "gear/screens/frmPeople.h"
 #include "gear/screens/frmPickComponent.h"
+#include "jobs/screens/frmJobList.h"
+#include "schedule/screens/frmSchedule.h"
 
 namespace {
 
@@ -57,7 +59,7 @@ BENCHMARK(OpenRigsOfAllCustomers)->Unit(benchmark::kMillisecond);
 
 void OpenPickerOfAllComponents(benchmark::State& state) {
   OpenScreen<frmPickComponent>(state, [](frmPickComponent& form) {
-    form.SetComponentType(0);
+    form.SetChoice(0, 0);
     form.show();
   });
 }
@@ -67,7 +69,7 @@ void SortPickerOfAllComponents(benchmark::State& state) {
   BenchApplication();
   UseBenchmarkLoft();
   auto& form = SharedForm<frmPickComponent>();
-  form.SetComponentType(0);
+  form.SetChoice(0, 0);
   form.show();
   QApplication::processEvents();
   auto* grid = form.findChild<Grid*>();
@@ -81,6 +83,16 @@ void SortPickerOfAllComponents(benchmark::State& state) {
   form.UnloadForm();
 }
 BENCHMARK(SortPickerOfAllComponents)->Unit(benchmark::kMillisecond);
+
+void OpenJobListOfAllCustomers(benchmark::State& state) {
+  OpenScreen<frmJobList>(state, [](frmJobList&) { OpenJobList(); });
+}
+BENCHMARK(OpenJobListOfAllCustomers)->Unit(benchmark::kMillisecond);
+
+void OpenScheduleOfAllCustomers(benchmark::State& state) {
+  OpenScreen<frmSchedule>(state, [](frmSchedule&) { OpenSchedule(); });
+}
+BENCHMARK(OpenScheduleOfAllCustomers)->Unit(benchmark::kMillisecond);
 
 /// Reads the rows of a table as plain SQLite does, all their fields.
 void PlainRead(benchmark::State& state, const char* statement) {
@@ -100,6 +112,9 @@ void PlainRead(benchmark::State& state, const char* statement) {
 }
 BENCHMARK_CAPTURE(PlainRead, people, "SELECT * FROM tblPeople ORDER BY LastName")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(PlainRead, rigs, "SELECT * FROM tblRig ORDER BY rigAlias")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(PlainRead, jobs, "SELECT * FROM tblJobs ORDER BY DateStarted DESC, ID DESC")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(PlainRead, schedules, "SELECT * FROM tblSchedules ORDER BY DateDue")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(PlainRead, components, "SELECT * FROM tblComponents ORDER BY ID")->Unit(benchmark::kMillisecond);
 
 }  // namespace
