@@ -84,6 +84,8 @@ struct ModelScreenStart {
 };
 /// Opens the models beside the other screens, or brings them forward.
 void OpenModels(const ModelScreenStart& start = {});
+/// The same, modally.
+void ShowModels(const ModelScreenStart& start);
 /// Lets a person add a model of a type; its id, 0 when none was added.
 int CreateModel(int type);
 
@@ -95,3 +97,5 @@ bool SelectModel(int& type, int& model);
 void ShowComponentTypes();
 /// Opens the rig types beside the other screens, or brings them forward.
 void OpenRigTypes();
+/// The same, modally.
+void ShowRigTypes();

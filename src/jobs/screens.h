@@ -42,3 +42,8 @@ struct JobListStart {
 };
 /// Opens the job list beside the other screens, or brings it forward.
 void OpenJobList(const JobListStart& start = {});
+
+/// Shows the prices of the reserve repack, modally.
+void ShowRepackPrices();
+/// Opens the repack calculator beside the other screens, or brings it forward.
+void OpenRepackCalculator();

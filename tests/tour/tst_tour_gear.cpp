@@ -207,6 +207,31 @@ class TourOfGear : public QObject {
     form.UnloadForm();
   }
 
+  void PricesAndTheCalculator() {
+    ScreenScript screens;
+    screens.WhenShown(u"frmRepack"_s, [](Form& form) {
+      QCOMPARE(TextOf(form, u"txtIR"_s), u"75.00"_s);
+      QCOMPARE(GridOf(form, u"Grid1"_s).Text(1, 2), u"110.00"_s);
+      Picture(form, u"52-repack-prices"_s);
+      Click(form, u"cmdCancel"_s);
+    });
+    ChooseMenu(Shown(u"frmMain2"_s), {u"Set up"_s, u"Repack prices"_s});
+    Click(Shown(u"frmMain2"_s), u"cmdCalc"_s);
+    Picture(Shown(u"frmCalc"_s), u"53-repack-calculator"_s);
+    Shown(u"frmCalc"_s).UnloadForm();
+  }
+
+  void TheJobList() {
+    Click(Shown(u"frmMain2"_s), u"cmdJobs"_s);
+    Form& form = Shown(u"frmJobList"_s);
+    QCOMPARE(ListOf(form, u"lstJobs"_s).Count(), Id(u"SELECT count(*) FROM tblJobs"_s));
+    Control<QRadioButton>(form, u"optStatusActive"_s).click();
+    QCOMPARE(ListOf(form, u"lstJobs"_s).Count(), Id(u"SELECT count(*) FROM tblJobs WHERE JobStatus = 0"_s));
+    ListOf(form, u"lstJobs"_s).SetListIndex(1);
+    Picture(form, u"54-job-list"_s);
+    form.UnloadForm();
+  }
+
   void AJobWithItsLines() {
     GotoJob(Id(u"SELECT JobID FROM tblTasks WHERE PartID > 0 ORDER BY ID DESC"_s));
     Form& form = Shown(u"frmJob"_s);

@@ -72,7 +72,7 @@ void ShowJobsOfTask() {
   if (const int task = PickItem(kPickTask).id; task > 0) OpenJobList({.taskLibID = task});
 }
 
-void ShowModels() { OpenModels(); }
+void ShowAllModels() { OpenModels(); }
 
 void ShowParts() { OpenModels({.type = kMisc}); }
 
@@ -100,7 +100,7 @@ std::vector<MenuLine> MainMenu() {
   return {
       {setUp, u"Rig Types"_s, OpenRigTypes},
       {setUp, u"Component Types"_s, ShowComponentTypes},
-      {setUp, u"Repack prices"_s, kLater},
+      {setUp, u"Repack prices"_s, ShowRepackPrices},
       {setUp, u"Set Repack Cycle"_s, AskRepackCycle},
       {setUp, u"Locations"_s, [] { ShowLocations(); }},
       {setUp, u"Task Library"_s, kLater},
@@ -117,14 +117,14 @@ std::vector<MenuLine> MainMenu() {
       {jobs, u"Show jobs which use a selected task type"_s, ShowJobsOfTask},
       {customers, u"Select / Edit"_s, ShowCustomers},
       {customers, u"Add new"_s, AddCustomer},
-      {library, u"Reserve Repack Prices"_s, kLater},
+      {library, u"Reserve Repack Prices"_s, ShowRepackPrices},
       {library, u"Create New Task"_s, kLater},
       {library, u"View All tasks"_s, kLater},
       {library, u"Set Repack Cycle"_s, AskRepackCycle},
       {parts, u"Add/Edit"_s, ShowParts},
       {gear, u"Rig Database"_s, ShowRigDatabase},
       {gear, u"Gear List"_s, kLater},
-      {gear, u"Component Models"_s, ShowModels},
+      {gear, u"Component Models"_s, ShowAllModels},
       {gear, u"Components Entered"_s, kLater},
       {gear, u"Manufactures"_s, ShowManufacturers},
       {gear, u"Photos"_s, kLater},
@@ -175,8 +175,8 @@ std::vector<MenuLine> MainMenu() {
 
 HomeCommand ButtonCommand(const QString& button) {
   static const QHash<QString, HomeCommand> commands = {
-      {u"cmdPeople"_s, ShowCustomers},   {u"cmdRigs"_s, ShowRigDatabase}, {u"cmdJobs"_s, ShowJobList},
-      {u"cmdSchedules"_s, ShowSchedule}, {u"cmdModels"_s, ShowModels},
+      {u"cmdPeople"_s, ShowCustomers},      {u"cmdRigs"_s, ShowRigDatabase},   {u"cmdJobs"_s, ShowJobList},
+      {u"cmdCalc"_s, OpenRepackCalculator}, {u"cmdSchedules"_s, ShowSchedule}, {u"cmdModels"_s, ShowAllModels},
   };
   return commands.value(button);
 }
@@ -186,7 +186,7 @@ std::vector<FloatingEntry> FloatingMenu() {
           {u"Customers"_s, ShowCustomers},
           {QString(), {}},
           {u"Components"_s, kLater},
-          {u"Models"_s, ShowModels},
+          {u"Models"_s, ShowAllModels},
           {u"Rigs"_s, ShowRigsPlainly},
           {u"Job list"_s, ShowJobList},
           {u"Job"_s, ShowLastJob},
@@ -196,7 +196,7 @@ std::vector<FloatingEntry> FloatingMenu() {
           {u"Rigging Tasks"_s, kLater},
           {u"Events"_s, kLater},
           {u"Logbook"_s, kLater},
-          {u"Repack Calculator"_s, kLater},
+          {u"Repack Calculator"_s, OpenRepackCalculator},
           {u"Arrange forms"_s, ArrangeForms},
           {QString(), {}},
           {u"Hide forms"_s, HideForms},

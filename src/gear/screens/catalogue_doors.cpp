@@ -22,6 +22,13 @@ void OpenModels(const ModelScreenStart& start) {
   form.Show();
 }
 
+void ShowModels(const ModelScreenStart& start) {
+  auto& form = SharedForm<frmComponentModels>();
+  form.SetStart(start);
+  form.ShowModal();
+  form.UnloadForm();
+}
+
 int CreateModel(int type) {
   auto& form = SharedForm<frmComponentModels>();
   form.SetStart({.type = type, .create = true});
@@ -51,3 +58,9 @@ void ShowComponentTypes() {
 }
 
 void OpenRigTypes() { SharedForm<frmRigTypes>().Show(); }
+
+void ShowRigTypes() {
+  auto& form = SharedForm<frmRigTypes>();
+  form.ShowModal();
+  form.UnloadForm();
+}

@@ -1,0 +1,34 @@
+#pragma once
+#include <memory>
+
+#include "core/money.h"
+#include "core/widgets/form.h"
+
+class Grid;
+
+namespace Ui {
+class frmRepack;
+}
+
+/// The prices of a reserve repack: the default one, by rig type and by container model.
+class frmRepack : public Form {
+  Q_OBJECT
+ public:
+  frmRepack();
+  ~frmRepack() override;
+
+  /// Used while the program is being set up: saving shows no box.
+  void SetSetUpMode(bool setUp) { setUp_ = setUp; }
+  void ReloadForm() override;
+
+ private:
+  void SetUpGrid(Grid& grid, const QString& heading);
+  void LoadTypes();
+  void LoadModels();
+  void HandleKey(Grid& grid, int key, bool& handled);
+  void Save();
+  void ClearAll(bool byType);
+
+  std::unique_ptr<Ui::frmRepack> ui_;
+  bool setUp_ = false;
+};
