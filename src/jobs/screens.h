@@ -47,3 +47,6 @@ void OpenJobList(const JobListStart& start = {});
 void ShowRepackPrices();
 /// Opens the repack calculator beside the other screens, or brings it forward.
 void OpenRepackCalculator();
+
+/// Edits one line outside its job; true when it was written. A line that has gone is not shown.
+bool EditTask(int taskID);

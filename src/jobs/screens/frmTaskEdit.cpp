@@ -1,0 +1,102 @@
+#include "jobs/screens/frmTaskEdit.h"
+
+#include <QKeyEvent>
+
+#include "core/clock.h"
+#include "core/value.h"
+#include "core/widgets/screen_routines.h"
+#include "jobs/lines.h"
+#include "jobs/screens.h"
+
+#include "ui_frmTaskEdit.h"
+
+using namespace Qt::StringLiterals;
+
+frmTaskEdit::frmTaskEdit() : ui_(std::make_unique<Ui::frmTaskEdit>()) {
+  ui_->setupUi(this);
+  SetRemembersPlace(false);
+  ui_->txtName->installEventFilter(this);
+  ui_->txtCost->installEventFilter(this);
+  const QString today = Value(Today()).ToText();
+  connect(ui_->cmdTodayStart, &QPushButton::clicked, this, [this, today] { ui_->txtDateStarted->setText(today); });
+  connect(ui_->cmdTodayComplete, &QPushButton::clicked, this, [this, today] { ui_->txtDateCompleted->setText(today); });
+  for (QRadioButton* option : {ui_->optComplete, ui_->optIncomplete, ui_->optWaiting})
+    connect(option, &QRadioButton::clicked, this, &frmTaskEdit::ChooseStatus);
+  connect(ui_->txtName, &QLineEdit::textChanged, this,
+          [this](const QString& name) { ui_->cmdRestoreName->setEnabled(!original_.isEmpty() && name != original_); });
+  connect(ui_->cmdRestoreName, &QPushButton::clicked, this, [this] { ui_->txtName->setText(original_); });
+  connect(ui_->cmdOK, &QPushButton::clicked, this, &frmTaskEdit::Save);
+  connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmTaskEdit::Cancel);
+}
+
+frmTaskEdit::~frmTaskEdit() = default;
+
+bool frmTaskEdit::SetTask(int taskID) {
+  taskID_ = taskID;
+  TaskEntry entry;
+  if (!LoadTaskEntry(taskID, entry)) return false;
+  ui_->lblTaskName->setText(OriginalTaskName(taskID));
+  original_ = TaskLibIDOf(taskID) == 0 ? QString() : OriginalTaskName(taskID);
+  ui_->chkRiggerLog->setVisible(!LineIsPart(taskID));
+  ShowEntry(entry);
+  ui_->cmdRestoreName->setEnabled(!original_.isEmpty() && entry.name != original_);
+  SelectAllInBox(ui_->txtName);
+  return true;
+}
+
+TaskEntry frmTaskEdit::Entry() const {
+  return {ui_->txtName->text(),
+          ui_->txtCost->text(),
+          ui_->chkRiggerLog->isChecked(),
+          ui_->optComplete->isChecked()  ? kComplete
+          : ui_->optWaiting->isChecked() ? kWaitingOnParts
+                                         : kIncomplete,
+          ui_->txtDateStarted->text(),
+          ui_->txtDateCompleted->text()};
+}
+
+void frmTaskEdit::ShowEntry(const TaskEntry& entry) {
+  ui_->txtName->setText(entry.name);
+  ui_->txtCost->setText(entry.price);
+  ui_->chkRiggerLog->setChecked(entry.logBook);
+  (entry.status == kComplete         ? ui_->optComplete
+   : entry.status == kWaitingOnParts ? ui_->optWaiting
+                                     : ui_->optIncomplete)
+      ->setChecked(true);
+  ui_->txtDateStarted->setText(entry.dateStarted);
+  ui_->txtDateCompleted->setText(entry.dateCompleted);
+}
+
+void frmTaskEdit::ChooseStatus() {
+  ui_->txtDateCompleted->setText(ui_->optComplete->isChecked() ? Value(Today()).ToText() : QString());
+}
+
+void frmTaskEdit::Save() {
+  TaskEntry entry = Entry();
+  if (!SaveTaskEntry(taskID_, entry)) return;
+  SetTag(u"ok"_s);
+  Leave();
+}
+
+/// Enter moves from the name to the price, and from the price to the button.
+bool frmTaskEdit::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      if (watched == ui_->txtName)
+        SelectAllInBox(ui_->txtCost);
+      else
+        ui_->cmdOK->setFocus();
+      return true;
+    }
+  }
+  return Form::eventFilter(watched, event);
+}
+
+bool EditTask(int taskID) {
+  auto& form = SharedForm<frmTaskEdit>();
+  if (form.SetTask(taskID)) form.ShowModal();
+  const bool saved = form.Tag() == "ok"_L1;
+  form.UnloadForm();
+  return saved;
+}
