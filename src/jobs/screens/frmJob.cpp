@@ -38,7 +38,7 @@ const QStringList kJobItems = {u"Reserve Repack"_s,
                                u"Install component"_s,
                                u"Remove component"_s};
 
-bool IsBuilt(int item) { return item == kReserveRepack; }
+bool IsBuilt(int item) { return item == kReserveRepack || item == kSelectPart || item == kCustomPartItem; }
 
 /// Remembers what is shown, for the screens that open on it.
 void RememberShown(const JobContext& job, int componentID) {
@@ -178,6 +178,8 @@ void frmJob::RunListItem() {
     return;
   }
   if (item == kReserveRepack && RepackIsPossible(job_.rigID)) AddLine(RepackTaskLibID);
+  if (item == kSelectPart) SelectPart();
+  if (item == kCustomPartItem) EnterCustomPart();
 }
 
 void frmJob::keyPressEvent(QKeyEvent* event) {

@@ -55,6 +55,7 @@ class frmJob : public Form {
   void RepairWorkingDate();
   Date WorkDate() const;
   void ChangeRigger();
+  void ChangeLocation();
   void EditJobComments();
   void ShowDateHelp();
 
@@ -69,6 +70,8 @@ class frmJob : public Form {
   void ToggleLine(int row);
   void CompleteAll(bool complete);
   void AddLine(int taskLibID);
+  void SelectPart();
+  void EnterCustomPart();
   void DeleteCurrentTask();
   void DeleteAllTasks();
   void ChangeTaskRigger();

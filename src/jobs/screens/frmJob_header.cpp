@@ -7,6 +7,7 @@
 #include "core/widgets/screen_routines.h"
 #include "gear/locations.h"
 #include "gear/people.h"
+#include "gear/screens.h"
 #include "jobs/job_records.h"
 #include "jobs/screens/frmJob.h"
 
@@ -32,6 +33,7 @@ void frmJob::ConnectHeader() {
               [this](const QString&) { return EditResult{.shown = ui_->lblDateCompleted->text()}; });
   });
   connect(ui_->lblRigger, &ClickLabel::Asked, this, &frmJob::ChangeRigger);
+  connect(ui_->lblLocation, &ClickLabel::Asked, this, &frmJob::ChangeLocation);
   connect(ui_->cmdToday, &QPushButton::clicked, this, [this] { ui_->txtDate->setText(HeaderDate(Today())); });
   connect(ui_->cmdDateHelp, &QPushButton::clicked, this, &frmJob::ShowDateHelp);
 }
@@ -135,6 +137,15 @@ void frmJob::ChangeRigger() {
   job_.riggerID = picked.id;
   OfferRiggerForTasks(job_.jobID, picked.id);
   LoadTasksGrid();
+}
+
+/// Lines that are on the job already keep the place where they were done.
+void frmJob::ChangeLocation() {
+  const int chosen = ShowLocations(job_.locationID != 0 ? job_.locationID : DefaultLocation());
+  if (chosen == 0) return;
+  SetJobLocationID(job_.jobID, chosen);
+  job_.locationID = chosen;
+  LoadHeader();
 }
 
 void frmJob::EditJobComments() {

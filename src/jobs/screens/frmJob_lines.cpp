@@ -1,12 +1,16 @@
 #include "core/format.h"
+#include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "core/trap.h"
 #include "core/widgets/screen_routines.h"
+#include "gear/catalogue.h"
 #include "jobs/completion.h"
 #include "jobs/job_lines.h"
 #include "jobs/job_records.h"
 #include "jobs/line_edits.h"
+#include "jobs/parts.h"
+#include "jobs/screens.h"
 #include "jobs/screens/frmJob.h"
 
 #include "ui_frmJob.h"
@@ -148,6 +152,21 @@ void frmJob::AddLine(int taskLibID) {
   const Date date = WorkingDate(ui_->txtDate->text());
   if (AddLibraryTask(job_, taskLibID, date, rigComponentsCurrent_) != LibraryOutcome::Added) return;
   LoadTasksGrid();
+}
+
+void frmJob::SelectPart() {
+  int part = PickItem(kPickMiscItem).id;
+  if (part == kPickAddNew) {
+    MiscItem item;
+    part = EnterMiscItem(item) ? AddPart(item.name, item.price, 0).id : 0;
+  }
+  if (part > 0 && AddPartToJob(job_, part, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
+}
+
+void frmJob::EnterCustomPart() {
+  MiscItem item;
+  if (!EnterMiscItem(item, {.caption = u"Enter Custom Item"_s})) return;
+  if (AddCustomPart(job_, item.name, item.price, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
 }
 
 void frmJob::DeleteCurrentTask() {

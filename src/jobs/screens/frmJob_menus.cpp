@@ -14,6 +14,7 @@
 #include "jobs/screens.h"
 #include "jobs/screens/frmJob.h"
 #include "reports/screens.h"
+#include "schedule/screens.h"
 
 #include "ui_frmJob.h"
 
@@ -44,7 +45,7 @@ void frmJob::BuildMenus() {
   jobs->addAction(u"Load different Job"_s, this, [] { OpenJobList(); });
   jobs->addAction(u"Delete this job"_s, this, &frmJob::DeleteThisJob);
   jobs->addAction(u"Change rigger for job"_s, this, &frmJob::ChangeRigger);
-  AddMissing(jobs, u"Change location"_s);
+  jobs->addAction(u"Change location"_s, this, &frmJob::ChangeLocation);
 
   QMenu* tasks = bar->addMenu(u"&Tasks"_s);
   AddMissing(tasks, u"Add a task to this job"_s);
@@ -88,7 +89,7 @@ void frmJob::BuildMenus() {
   component->addAction(u"Edit selected component"_s, this, &frmJob::EditSelectedComponent);
   AddMissing(component, u"Add a component"_s);
   bar->addMenu(u"&Invoice"_s)->addAction(u"View/Print/Email invoice"_s, this, &frmJob::ShowInvoice);
-  AddMissing(bar->addMenu(u"&Schedule"_s), u"Show schedule"_s);
+  bar->addMenu(u"&Schedule"_s)->addAction(u"Show schedule"_s, this, [this] { OpenSchedule({.rig = job_.rigID}); });
   AddMissing(bar->addMenu(u"&History"_s), u"Show history"_s);
   bar->addMenu(u"&Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
 
