@@ -1,5 +1,6 @@
 #include "core/recordset.h"
 
+#include <algorithm>
 #include <sqlite3.h>
 
 #include "core/connection.h"
@@ -50,6 +51,7 @@ bool Recordset::Eof() const {
 
 void Recordset::MoveFirst() {
   goingLast_ = false;
+  ReadRest();
   if (IsStreaming() && at_ > 0) ReadAll();
   at_ = 0;
 }
@@ -66,6 +68,7 @@ void Recordset::MoveNext() {
 
 void Recordset::MovePrevious() {
   Arrive();
+  ReadRest();
   if (IsStreaming()) ReadAll();
   if (at_ >= 0) --at_;
 }
@@ -75,6 +78,7 @@ void Recordset::MoveLast() {
 }
 
 int Recordset::RecordCount() {
+  ReadRest();
   if (!IsStreaming()) return static_cast<int>(rows_.size());
   Prepared* counting = database_->Take(source_, Database::Want::Count);
   int count = 0;
@@ -109,7 +113,26 @@ void Recordset::ReadAll() {
   at_ = at;
 }
 
+// What was added here stands at the end already; nothing else has been written since, or Freeze would have come first.
+void Recordset::ReadRest() {
+  if (!restWaits_) return;
+  restWaits_ = false;
+  const std::vector<Row> added = std::move(rows_);
+  const qsizetype at = at_;
+  prepared_ = database_->Take(source_);
+  ReadAll();
+  std::erase_if(rows_, [&](const Row& row) {
+    return std::any_of(added.begin(), added.end(), [&](const Row& own) { return own.id == row.id; });
+  });
+  at_ = at + static_cast<qsizetype>(rows_.size());
+  rows_.insert(rows_.end(), added.begin(), added.end());
+}
+
+/// A recordset that was opened to add rows need not read those of a long table.
+bool Recordset::OnlyAdds() const { return restWaits_ || (adding_ && IsStreaming() && at_ == 0 && !goingLast_); }
+
 void Recordset::Freeze() {
+  ReadRest();
   if (IsStreaming()) ReadAll();
 }
 
@@ -164,11 +187,18 @@ void Recordset::Update() {
   if (!edits_) return;
   Arrive();
   if (table_.isEmpty()) throw Failure(u"Current Recordset does not support updating."_s);
+  const bool onlyAdds = OnlyAdds();
+  restWaits_ = false;
+  if (onlyAdds && IsStreaming()) {
+    Database::GiveBack(prepared_);
+    prepared_ = nullptr;
+  }
   database_->FreezeRecordsets();
   if (adding_)
     WriteNewRow();
   else
     WriteChanges();
+  restWaits_ = onlyAdds;
   edits_.reset();
   adding_ = false;
 }

@@ -55,6 +55,8 @@ class Recordset {
 
   void Freeze();  // reads the rest, so that the statement can be given back
   void ReadAll();
+  void ReadRest();
+  bool OnlyAdds() const;
   void Arrive() const;  // MoveLast puts off its reading until a row is wanted
   Row ReadRow() const;
   Row& Current();
@@ -70,6 +72,7 @@ class Recordset {
   std::shared_ptr<const std::vector<Field>> fields_;
   bool streamedRow_ = false;  // the statement stands on a row
   bool goingLast_ = false;    // MoveLast was asked for; a count alone needs no row
+  bool restWaits_ = false;    // rows_ holds the added rows alone; those before them are read when they are asked for
   std::vector<Row> rows_;
   qsizetype at_ = 0;  // -1 before the first row
   std::optional<std::vector<std::pair<int, Value>>> edits_;

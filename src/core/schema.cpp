@@ -216,7 +216,7 @@ QByteArray ColumnText(const QString& field, int type, int size) {
 
 struct Index {
   const char* table;
-  const char* field;
+  const char* fields;  // between commas, the first one the one most often asked for alone
 };
 constexpr Index kIndexes[] = {{"tblComponents", "RigID"},
                               {"tblComponents", "OwnerID"},
@@ -242,7 +242,7 @@ constexpr Index kIndexes[] = {{"tblComponents", "RigID"},
                               {"tblTaskLibParts", "TaskLibID"},
                               {"tblTaskLibRigType", "TaskLibID"},
                               {"tblTasks", "JobID"},
-                              {"tblTasks", "SystemID"},
+                              {"tblTasks", "SystemID,TaskLibID"},
                               {"tblTasks", "TaskLibID"},
                               {"tblTasks", "CustomerID"}};
 
@@ -278,8 +278,10 @@ void CreateIndexes() {
     return;
   }
   for (const Index& index : kIndexes) {
-    const QByteArray name = QByteArray("idx_") + index.table + '_' + index.field;
-    database.ChangeSchema("CREATE INDEX IF NOT EXISTS [" + name + "] ON [" + index.table + "] ([" + index.field + "])");
+    const QByteArrayList fields = QByteArray(index.fields).split(',');
+    const QByteArray name = QByteArray("idx_") + index.table + '_' + fields.join('_');
+    database.ChangeSchema("CREATE INDEX IF NOT EXISTS [" + name + "] ON [" + index.table + "] ([" +
+                          fields.join("], [") + "])");
   }
   bracket.Close();
 }

@@ -105,6 +105,49 @@ class RecordsetTest : public QObject {
     QCOMPARE(LastNames(u"Select * from tblPeople order by ID"_s), (QStringList{u"a"_s, u"c"_s, u"d!"_s}));
   }
 
+  void ARowAddedToATableStandsBehindTheOthers() {
+    AddPeople({u"a"_s, u"b"_s});
+    Bracket bracket;
+    Recordset people(u"tblPeople"_s);
+    people.AddNew();
+    people.Set(u"LastName", u"c"_s);
+    people.Update();
+    people.Set(u"FirstName", u"Cid"_s);  // the row that was added is still the current one
+    people.Update();
+    people.AddNew();
+    people.Set(u"LastName", u"d"_s);
+    people.Update();
+    QCOMPARE(people[u"ID"].ToInt(), 4);
+    QVERIFY(!people.Eof() && !people.Bof());
+    QCOMPARE(people.RecordCount(), 4);
+    people.MovePrevious();
+    QCOMPARE(people[u"FirstName"].ToText(), u"Cid"_s);
+    people.MovePrevious();
+    QCOMPARE(people[u"LastName"].ToText(), u"b"_s);
+    people.MoveFirst();
+    QCOMPARE(people[u"LastName"].ToText(), u"a"_s);
+  }
+
+  void WhatOthersWriteAfterAnAddDoesNotShow() {
+    AddPeople({u"a"_s, u"b"_s});
+    Bracket bracket;
+    Recordset people(u"tblPeople"_s);
+    people.AddNew();
+    people.Set(u"LastName", u"c"_s);
+    people.Update();
+    UpdateTableBySQL(u"update tblPeople set LastName = 'x' where ID < 3"_s);
+    UpdateTableBySQL(u"insert into tblPeople (LastName) values ('y')"_s);
+    QCOMPARE(people[u"LastName"].ToText(), u"c"_s);
+    people.MoveNext();
+    QVERIFY(people.Eof());
+    people.MoveFirst();
+    QCOMPARE(people[u"LastName"].ToText(), u"a"_s);
+    QCOMPARE(people.RecordCount(), 3);
+    people.MoveLast();
+    people.Delete();
+    QCOMPARE(LastNames(u"Select * from tblPeople order by ID"_s), (QStringList{u"x"_s, u"x"_s, u"y"_s}));
+  }
+
   void IsStatic() {
     AddPeople({u"a"_s, u"b"_s, u"c"_s});
     Bracket bracket;

@@ -1,0 +1,83 @@
+// What a click on a job costs on the loft of the benchmarks, and the rebuilding of its schedule beside one statement of
+// plain SQLite that computes the same rows.
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include "bench/application.h"
+#include "bench/loft_generator.h"
+#include "core/access.h"
+#include "core/connection.h"
+#include "jobs/completion.h"
+#include "jobs/job_records.h"
+#include "jobs/lines.h"
+#include "jobs/parts.h"
+#include "jobs/screens.h"
+#include "jobs/screens/frmJob.h"
+#include "schedule/reconstruct.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kJob = 20000;
+
+void StatusClickWithItsSchedule(benchmark::State& state) {
+  UseBenchmarkLoft();
+  const int line = LinesOfJob(kJob).value(0);
+  for (auto _ : state) ToggleComplete(line, JobDateStarted(kJob), true);
+  if (!LineIsDone(line)) ToggleComplete(line, JobDateStarted(kJob), true);
+}
+BENCHMARK(StatusClickWithItsSchedule)->Unit(benchmark::kMillisecond);
+
+void LoadJobOf20Lines(benchmark::State& state) {
+  BenchApplication();
+  UseBenchmarkLoft();
+  const int part = GetValueFromTableBySQL(u"Select * from tblModels where TypeID = 7"_s, u"ID"_s).ToInt();
+  QList<int> added;
+  while (LinesOfJob(kJob).size() < 20) added << AddPartToJob(JobContextOf(kJob), part, JobDateStarted(kJob));
+  CompleteAllTasks(kJob, true, JobDateStarted(kJob), true);
+  for (auto _ : state) {
+    GotoJob(kJob);
+    QApplication::processEvents();
+  }
+  SharedForm<frmJob>().UnloadForm();
+  for (int line : added) DeleteTask(line);
+}
+BENCHMARK(LoadJobOf20Lines)->Unit(benchmark::kMillisecond);
+
+void RebuildSchedule(benchmark::State& state) {
+  UseBenchmarkLoft();
+  for (auto _ : state) ReconstructSchedules();
+  state.counters["rows"] = GetNumberRecordsInTable(u"tblSchedules"_s);
+}
+BENCHMARK(RebuildSchedule)->Unit(benchmark::kMillisecond);
+
+/// The latest complete repack of each container that is in a rig, and the cycle after it.
+constexpr char kSameRows[] =
+    "INSERT INTO made SELECT c.RigID, 1, max(t.DateTaskCompleted), max(t.DateTaskCompleted) + 180, t.ID FROM "
+    "tblComponents "
+    "c JOIN tblTaskComponents tc ON tc.CompID = c.ID AND tc.Complete = -1 JOIN tblTasks t ON t.ID = tc.TaskID AND "
+    "t.TaskLibID = 1 WHERE c.TypeID = 1 AND c.RigID > 0 GROUP BY c.ID";
+
+void PlainScheduleOfOneStatement(benchmark::State& state) {
+  UseBenchmarkLoft();
+  ReleaseDatabaseFile();
+  sqlite3* handle = nullptr;
+  sqlite3_open(DatabasePath().toUtf8().constData(), &handle);
+  const auto run = [&](const char* sql) {
+    char* error = nullptr;
+    if (sqlite3_exec(handle, sql, nullptr, nullptr, &error) != SQLITE_OK) state.SkipWithError(error);
+  };
+  run("CREATE TEMP TABLE made (rigID, TaskLibID, DateDone, DateDue, TaskID)");
+  for (auto _ : state) {
+    run("DELETE FROM made");
+    run(kSameRows);
+  }
+  state.counters["rows"] = sqlite3_changes(handle);
+  sqlite3_close(handle);
+}
+BENCHMARK(PlainScheduleOfOneStatement)->Unit(benchmark::kMillisecond);
+
+}  // namespace
