@@ -13,11 +13,7 @@ IdList LoadNames(const QString& source) {
   IdList list;
   Trap(u"Function LoadNames"_s, [&] {
     Bracket bracket;
-    {
-      Recordset rows(source);
-      if (RecordsetHasRows(rows))
-        for (; !rows.Eof(); rows.MoveNext()) list.Add(rows[u"Name"].ToText(), rows[u"ID"].ToInt());
-    }
+    for (const Recordset& row : Rows(source)) list.Add(row[u"Name"].ToText(), row[u"ID"].ToInt());
     bracket.Close();
   });
   return list;

@@ -21,15 +21,10 @@ int CountSerials(const QString& source, const QString& serial, int& id) {
   if (wanted.isEmpty()) return count;
   Trap(u"Function CountSerials"_s, [&] {
     Bracket bracket;
-    {
-      Recordset components(source);
-      if (RecordsetHasRows(components)) {
-        for (; !components.Eof(); components.MoveNext()) {
-          if (components[u"SerialNumber"].ToText().trimmed().toUpper() != wanted) continue;
-          ++count;
-          id = components[u"ID"].ToInt();
-        }
-      }
+    for (const Recordset& component : Rows(source)) {
+      if (component[u"SerialNumber"].ToText().trimmed().toUpper() != wanted) continue;
+      ++count;
+      id = component[u"ID"].ToInt();
     }
     bracket.Close();
   });

@@ -9,12 +9,8 @@ double GetTaxRate(const QString& state) {
   double rate = 0;
   Trap(u"Function GetTaxRate"_s, [&] {
     Bracket bracket;
-    {
-      Recordset locations(u"Select * from tblLocation where State = '"_s + state + u'\'');
-      if (RecordsetHasRows(locations))
-        for (; !locations.Eof(); locations.MoveNext())
-          if (locations[u"State"].ToText().toUpper() == state) rate = locations[u"TaxRate"].ToDouble();
-    }
+    for (const Recordset& location : Rows(u"Select * from tblLocation where State = '"_s + state + u'\''))
+      if (location[u"State"].ToText().toUpper() == state) rate = location[u"TaxRate"].ToDouble();
     bracket.Close();
   });
   return rate;
@@ -40,16 +36,11 @@ int DefaultLocation() {
 void SetDefault(int id) {
   Trap(u"Sub SetDefault"_s, [&] {
     Bracket bracket;
-    {
-      Recordset locations(u"tblLocation"_s);
-      if (RecordsetHasRows(locations)) {
-        for (; !locations.Eof(); locations.MoveNext()) {
-          const bool isDefault = locations[u"ID"].ToInt() == id;
-          if (!isDefault && !locations[u"Default"].ToBool()) continue;
-          locations.Set(u"Default", isDefault);
-          locations.Update();
-        }
-      }
+    for (Recordset& location : Rows(u"tblLocation"_s)) {
+      const bool isDefault = location[u"ID"].ToInt() == id;
+      if (!isDefault && !location[u"Default"].ToBool()) continue;
+      location.Set(u"Default", isDefault);
+      location.Update();
     }
     bracket.Close();
   });

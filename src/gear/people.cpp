@@ -37,11 +37,7 @@ QList<int> IdsInOrder(const QString& order) {
   QList<int> ids;
   Trap(u"Function IdsInOrder"_s, [&] {
     Bracket bracket;
-    {
-      Recordset people(u"Select * from tblPeople order by "_s + order);
-      if (RecordsetHasRows(people))
-        for (; !people.Eof(); people.MoveNext()) ids << people[u"ID"].ToInt();
-    }
+    for (const Recordset& person : Rows(u"Select * from tblPeople order by "_s + order)) ids << person[u"ID"].ToInt();
     bracket.Close();
   });
   return ids;

@@ -55,11 +55,7 @@ QHash<int, int> CountRigs() {
   QHash<int, int> counts;
   Trap(u"Function CountRigs"_s, [&] {
     Bracket bracket;
-    {
-      Recordset rigs(u"select * from tblRig"_s);
-      if (RecordsetHasRows(rigs))
-        for (; !rigs.Eof(); rigs.MoveNext()) ++counts[rigs[u"OwnerID"].ToInt()];
-    }
+    for (const Recordset& rig : Rows(u"select * from tblRig"_s)) ++counts[rig[u"OwnerID"].ToInt()];
     bracket.Close();
   });
   return counts;
@@ -78,14 +74,9 @@ IdList LoadRigs(int owner, int type) {
   IdList list;
   Trap(u"Function LoadRigs"_s, [&] {
     Bracket bracket;
-    {
-      Recordset rigs(owner == 0 ? u"select * from tblRig"_s
-                                : u"select * from tblRig where Ownerid = "_s + QString::number(owner));
-      if (RecordsetHasRows(rigs)) {
-        for (; !rigs.Eof(); rigs.MoveNext())
-          if (type == 0 || rigs[u"TypeID"].ToInt() == type) list.Add(RigText(rigs), rigs[u"ID"].ToInt());
-      }
-    }
+    for (const Recordset& rig : Rows(owner == 0 ? u"select * from tblRig"_s
+                                                : u"select * from tblRig where Ownerid = "_s + QString::number(owner)))
+      if (type == 0 || rig[u"TypeID"].ToInt() == type) list.Add(RigText(rig), rig[u"ID"].ToInt());
     bracket.Close();
   });
   return list;

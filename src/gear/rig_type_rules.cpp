@@ -32,11 +32,8 @@ IdList LoadRigTypesById() {
   IdList list;
   Trap(u"Function LoadRigTypesById"_s, [&] {
     Bracket bracket;
-    {
-      Recordset types(u"Select * from tblRigTypes order by ID"_s);
-      if (RecordsetHasRows(types))
-        for (; !types.Eof(); types.MoveNext()) list.Add(types[u"Name"].ToText(), types[u"ID"].ToInt());
-    }
+    for (const Recordset& type : Rows(u"Select * from tblRigTypes order by ID"_s))
+      list.Add(type[u"Name"].ToText(), type[u"ID"].ToInt());
     bracket.Close();
   });
   return list;

@@ -23,15 +23,11 @@ QList<int> ComponentTypesOfRigType(int id, bool orderedById) {
   QList<int> types;
   Trap(u"Function ComponentTypesOfRigType"_s, [&] {
     Bracket bracket;
-    {
-      Recordset components(u"Select * from tblRigTypeComponents where rigTypeID = "_s + QString::number(id) +
-                           (orderedById ? u" order by ComponentTypeID"_s : QString()));
-      if (RecordsetHasRows(components)) {
-        for (; !components.Eof(); components.MoveNext()) {
-          const int type = components[u"ComponentTypeID"].ToInt();
-          if (type != 0) types << type;
-        }
-      }
+    for (const Recordset& component :
+         Rows(u"Select * from tblRigTypeComponents where rigTypeID = "_s + QString::number(id) +
+              (orderedById ? u" order by ComponentTypeID"_s : QString()))) {
+      const int type = component[u"ComponentTypeID"].ToInt();
+      if (type != 0) types << type;
     }
     bracket.Close();
   });

@@ -37,12 +37,7 @@ QList<JobLine> LinesFrom(const QString& statement) {
   QList<JobLine> lines;
   Trap(u"Sub LoadTasksGrid"_s, [&] {
     Bracket bracket;
-    {
-      Recordset rows(statement);
-      if (RecordsetHasRows(rows)) {
-        for (; !rows.Eof(); rows.MoveNext()) lines.append(LineOf(rows));
-      }
-    }
+    for (const Recordset& row : Rows(statement)) lines.append(LineOf(row));
     bracket.Close();
   });
   return lines;

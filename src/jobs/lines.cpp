@@ -100,18 +100,13 @@ void AddCustomLine(const JobContext& job, const CustomLine& line, Date date, int
 void AddLibraryParts(const JobContext& job, int taskLibID, Date date) {
   Trap(u"Sub AddLibraryParts"_s, [&] {
     Bracket bracket;
-    {
-      Recordset parts(u"Select * from tblTaskLibParts where TaskLibID = %1"_s.arg(taskLibID));
-      if (RecordsetHasRows(parts)) {
-        for (; !parts.Eof(); parts.MoveNext()) {
-          const int partID = parts[u"PartID"].ToInt();
-          int taskID = 0;
-          if (ModelExists(partID))
-            AddTaskToJob(job, partID, true, date, taskID);
-          else
-            parts.Delete();
-        }
-      }
+    for (Recordset& part : Rows(u"Select * from tblTaskLibParts where TaskLibID = %1"_s.arg(taskLibID))) {
+      const int partID = part[u"PartID"].ToInt();
+      int taskID = 0;
+      if (ModelExists(partID))
+        AddTaskToJob(job, partID, true, date, taskID);
+      else
+        part.Delete();
     }
     bracket.Close();
   });

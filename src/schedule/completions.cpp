@@ -74,18 +74,14 @@ Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
   taskID = 0;
   Trap(u"Function LastCompletionForComponent"_s, [&] {
     Bracket bracket;
-    {
-      Recordset rows(u"Select * from tblTaskComponents where CompID = %1 and Complete = true"_s.arg(componentID));
-      if (RecordsetHasRows(rows)) {
-        for (; !rows.Eof(); rows.MoveNext()) {
-          const int id = rows[u"TaskID"].ToInt();
-          if (GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"TaskLibID"_s).ToInt() != taskLibID) continue;
-          const Date done = GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"DateTaskCompleted"_s).ToDate();
-          if (done <= date) continue;
-          date = done;
-          taskID = id;
-        }
-      }
+    for (const Recordset& row :
+         Rows(u"Select * from tblTaskComponents where CompID = %1 and Complete = true"_s.arg(componentID))) {
+      const int id = row[u"TaskID"].ToInt();
+      if (GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"TaskLibID"_s).ToInt() != taskLibID) continue;
+      const Date done = GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"DateTaskCompleted"_s).ToDate();
+      if (done <= date) continue;
+      date = done;
+      taskID = id;
     }
     bracket.Close();
   });
@@ -98,17 +94,12 @@ Date LastRepackOfPair(int containerID, int reserveID, int& taskID) {
   if (containerID == 0 || reserveID == 0) return date;
   Trap(u"Function LastRepackOfPair"_s, [&] {
     Bracket bracket;
-    {
-      Recordset rows(u"Select * from tblTaskComponents where CompID = %1"_s.arg(containerID));
-      if (RecordsetHasRows(rows)) {
-        for (; !rows.Eof(); rows.MoveNext()) {
-          const int id = rows[u"TaskID"].ToInt();
-          const Date done = DateOfRepack(id);
-          if (done <= date || !TaskTouched(id, reserveID)) continue;
-          date = done;
-          taskID = id;
-        }
-      }
+    for (const Recordset& row : Rows(u"Select * from tblTaskComponents where CompID = %1"_s.arg(containerID))) {
+      const int id = row[u"TaskID"].ToInt();
+      const Date done = DateOfRepack(id);
+      if (done <= date || !TaskTouched(id, reserveID)) continue;
+      date = done;
+      taskID = id;
     }
     bracket.Close();
   });

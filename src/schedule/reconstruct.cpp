@@ -47,12 +47,8 @@ void ReconstructSchedules() {
     Bracket bracket;
     const QList<Entry> entries = ScheduledEntries();
     DeleteAllRecords(u"tblSchedules"_s, false);
-    {
-      Recordset components(u"Select * from tblComponents order by TypeID"_s);
-      if (RecordsetHasRows(components)) {
-        for (; !components.Eof(); components.MoveNext()) AddRowsOf(components, entries);
-      }
-    }
+    for (const Recordset& component : Rows(u"Select * from tblComponents order by TypeID"_s))
+      AddRowsOf(component, entries);
     bracket.Close();
   });
 }
@@ -61,17 +57,12 @@ void AuditScheduleTaskLib() {
   Trap(u"Sub AuditScheduleTaskLib"_s, [] {
     int updates = 0;
     Bracket bracket;
-    {
-      Recordset rows(u"Select * from tblSchedules"_s);
-      if (RecordsetHasRows(rows)) {
-        for (; !rows.Eof(); rows.MoveNext()) {
-          const Value entry = GetValueFromTable(u"tblTasks"_s, u"ID"_s, rows[u"TaskID"].ToInt(), u"TaskLibID"_s);
-          if (entry.IsEmpty() || entry.ToInt() == rows[u"TaskLibID"].ToInt()) continue;
-          rows.Set(u"TaskLibID", entry.ToInt());
-          rows.Update();
-          ++updates;
-        }
-      }
+    for (Recordset& row : Rows(u"Select * from tblSchedules"_s)) {
+      const Value entry = GetValueFromTable(u"tblTasks"_s, u"ID"_s, row[u"TaskID"].ToInt(), u"TaskLibID"_s);
+      if (entry.IsEmpty() || entry.ToInt() == row[u"TaskLibID"].ToInt()) continue;
+      row.Set(u"TaskLibID", entry.ToInt());
+      row.Update();
+      ++updates;
     }
     bracket.Close();
     QString message = u"%1 updates were performed"_s.arg(updates);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,7 +23,32 @@ qsizetype FreeLetter(const QString& text, const QString& taken) {
   return -1;
 }
 
+/// Lives with the last button.
+class EnterMoves : public QObject {
+ public:
+  EnterMoves(const QList<QLineEdit*>& boxes, QAbstractButton* last) : QObject(last), boxes_(boxes), last_(last) {
+    for (QLineEdit* box : boxes) box->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    const qsizetype next = boxes_.indexOf(static_cast<QLineEdit*>(watched)) + 1;
+    if (next < boxes_.size())
+      SelectAllInBox(boxes_[next]);
+    else
+      last_->setFocus();
+    return true;
+  }
+
+ private:
+  QList<QLineEdit*> boxes_;
+  QAbstractButton* last_;
+};
+
 }  // namespace
+
+void MoveOnWithEnter(const QList<QLineEdit*>& boxes, QAbstractButton* last) { new EnterMoves(boxes, last); }
 
 void SelectAllInBox(QLineEdit* box) {
   box->selectAll();

@@ -1,6 +1,8 @@
 #pragma once
+#include <QList>
 #include <QString>
 
+class QAbstractButton;
 class QLineEdit;
 class QMenuBar;
 class QWidget;
@@ -10,6 +12,9 @@ constexpr int FromTwips(int twips) { return twips / 15; }
 
 /// Selects all text of a box, from the start, and puts the cursor into it.
 void SelectAllInBox(QLineEdit* box);
+
+/// Enter moves from each box to the next one, and from the last one to the button, in place of pressing it.
+void MoveOnWithEnter(const QList<QLineEdit*>& boxes, QAbstractButton* last);
 
 /// A name as the text of a button, or of a label that leads to a box: "&" is no shortcut in it.
 QString WithoutMnemonic(const QString& name);

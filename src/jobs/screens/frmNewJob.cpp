@@ -1,7 +1,5 @@
 #include "jobs/screens/frmNewJob.h"
 
-#include <QKeyEvent>
-
 #include "core/clock.h"
 #include "core/dates.h"
 #include "core/prompts.h"
@@ -16,8 +14,7 @@ using namespace Qt::StringLiterals;
 frmNewJob::frmNewJob() : ui_(std::make_unique<Ui::frmNewJob>()) {
   ui_->setupUi(this);
   SetRemembersPlace(false);
-  ui_->txtName->installEventFilter(this);
-  ui_->txtDate->installEventFilter(this);
+  MoveOnWithEnter({ui_->txtName, ui_->txtDate}, ui_->cmdOK);
   connect(ui_->cmdToday, &QPushButton::clicked, this, [this] { ui_->txtDate->setText(Value(Today()).ToText()); });
   connect(ui_->cmdOK, &QPushButton::clicked, this, &frmNewJob::Accept);
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmNewJob::Cancel);
@@ -37,21 +34,6 @@ QString frmNewJob::JobName() const { return ui_->txtName->text().trimmed(); }
 void frmNewJob::showEvent(QShowEvent* event) {
   Form::showEvent(event);
   SelectAllInBox(ui_->txtName);
-}
-
-/// Enter moves from the name to the date, and from the date to OK.
-bool frmNewJob::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      if (watched == ui_->txtName)
-        SelectAllInBox(ui_->txtDate);
-      else
-        ui_->cmdOK->setFocus();
-      return true;
-    }
-  }
-  return Form::eventFilter(watched, event);
 }
 
 void frmNewJob::Accept() {

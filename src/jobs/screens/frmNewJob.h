@@ -22,7 +22,6 @@ class frmNewJob : public Form {
   int JobToLoad() const { return jobToLoad_; }
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:

@@ -1,7 +1,5 @@
 #include "jobs/screens/frmNewMisc.h"
 
-#include <QKeyEvent>
-
 #include "core/format.h"
 #include "core/widgets/screen_routines.h"
 
@@ -12,8 +10,7 @@ using namespace Qt::StringLiterals;
 frmNewMisc::frmNewMisc() : ui_(std::make_unique<Ui::frmNewMisc>()) {
   ui_->setupUi(this);
   SetRemembersPlace(false);
-  ui_->txtName->installEventFilter(this);
-  ui_->txtCost->installEventFilter(this);
+  MoveOnWithEnter({ui_->txtName, ui_->txtCost}, ui_->cmdOK);
   connect(ui_->cmdOK, &QPushButton::clicked, this, &frmNewMisc::Leave);
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmNewMisc::Cancel);
 }
@@ -35,21 +32,6 @@ void frmNewMisc::Cancel() {
   ui_->txtName->clear();
   ui_->txtCost->clear();
   Form::Cancel();
-}
-
-/// Enter moves from the name to the price, and from the price to OK.
-bool frmNewMisc::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      if (watched == ui_->txtName)
-        SelectAllInBox(ui_->txtCost);
-      else
-        ui_->cmdOK->setFocus();
-      return true;
-    }
-  }
-  return Form::eventFilter(watched, event);
 }
 
 bool EnterMiscItem(MiscItem& item, const MiscItemQuestion& question) {

@@ -20,7 +20,6 @@ class frmNewMisc : public Form {
 
  protected:
   void Cancel() override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   std::unique_ptr<Ui::frmNewMisc> ui_;

@@ -1,7 +1,5 @@
 #include "jobs/screens/frmTaskEdit.h"
 
-#include <QKeyEvent>
-
 #include "core/clock.h"
 #include "core/value.h"
 #include "core/widgets/screen_routines.h"
@@ -15,8 +13,7 @@ using namespace Qt::StringLiterals;
 frmTaskEdit::frmTaskEdit() : ui_(std::make_unique<Ui::frmTaskEdit>()) {
   ui_->setupUi(this);
   SetRemembersPlace(false);
-  ui_->txtName->installEventFilter(this);
-  ui_->txtCost->installEventFilter(this);
+  MoveOnWithEnter({ui_->txtName, ui_->txtCost}, ui_->cmdOK);
   const QString today = Value(Today()).ToText();
   connect(ui_->cmdTodayStart, &QPushButton::clicked, this, [this, today] { ui_->txtDateStarted->setText(today); });
   connect(ui_->cmdTodayComplete, &QPushButton::clicked, this, [this, today] { ui_->txtDateCompleted->setText(today); });
@@ -76,21 +73,6 @@ void frmTaskEdit::Save() {
   if (!SaveTaskEntry(taskID_, entry)) return;
   SetTag(u"ok"_s);
   Leave();
-}
-
-/// Enter moves from the name to the price, and from the price to the button.
-bool frmTaskEdit::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      if (watched == ui_->txtName)
-        SelectAllInBox(ui_->txtCost);
-      else
-        ui_->cmdOK->setFocus();
-      return true;
-    }
-  }
-  return Form::eventFilter(watched, event);
 }
 
 bool EditTask(int taskID) {

@@ -18,9 +18,6 @@ class frmTaskEdit : public Form {
   /// False when the line has gone.
   bool SetTask(int taskID);
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
   TaskEntry Entry() const;
   void ShowEntry(const TaskEntry& entry);
