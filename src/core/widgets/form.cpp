@@ -58,6 +58,7 @@ void Form::Show() {
     Place();
     setWindowModality(Qt::NonModal);
   }
+  StayAbove(QApplication::activeModalWidget());
   if (isMinimized()) {
     showNormal();
   } else {
@@ -78,16 +79,27 @@ void Form::ShowModal() {
   tag_.clear();
   QWidget* caller = Caller();
   Place();
-  winId();  // makes the window, which a caller's window is set to stay below
-  if (caller && caller->windowHandle()) windowHandle()->setTransientParent(caller->windowHandle());
+  StayAbove(caller);
   modal_ = true;
   ++modalDepth;
   exec();
   --modalDepth;
   modal_ = false;
-  if (windowHandle()) windowHandle()->setTransientParent(nullptr);
+  if (windowHandle()) {
+    windowHandle()->setTransientParent(nullptr);
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+      if (window->transientParent() == windowHandle()) window->setTransientParent(nullptr);
+  }
   if (unloaded_) Bury();
   if (modalDepth == 0) EmptyGraves();
+}
+
+void Form::StayAbove(const QWidget* other) {
+  if (!other || other == this || !other->windowHandle()) return;
+  winId();  // makes the window
+  QWindow* below = other->windowHandle();
+  if (windowHandle()->isAncestorOf(below, QWindow::IncludeTransients)) below->setTransientParent(nullptr);
+  windowHandle()->setTransientParent(below);
 }
 
 void Form::UnloadForm() {

@@ -21,7 +21,7 @@ class Form : public QDialog, public LoadedForm {
   /// Hides the form and takes it out of the collection at once; it is deleted when no code of it can be running.
   void UnloadForm() override;
 
-  void Show();       ///< beside the other screens, or brings it forward
+  void Show();       ///< beside the other screens, or brings it forward; above a modal one that is on show
   void ShowModal();  ///< blocks until the form is hidden
 
   /// How a modal use ended: "cancel", "new", "end" and the like; cleared by each showing.
@@ -48,6 +48,8 @@ class Form : public QDialog, public LoadedForm {
 
  private:
   QWidget* Caller() const;
+  /// Keeps this window above another one, by which it is then not blocked.
+  void StayAbove(const QWidget* other);
   void Place();
   void RememberPlace() const;
   void Bury();

@@ -4,9 +4,11 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "core/widgets/form.h"
 #include "core/widgets/qt_prompts.h"
@@ -43,6 +45,8 @@ class frmSample : public Form {
 
 class frmOther : public Form {
   Q_OBJECT
+ public:
+  frmOther() { (new QPushButton(u"Press"_s, this))->setObjectName(u"cmdPress"_s); }
 };
 
 class TestForm : public QObject {
@@ -106,6 +110,39 @@ class TestForm : public QObject {
     SharedForm<frmSample>().Show();
     PressKey(SharedForm<frmSample>(), u"txt"_s, Qt::Key_Escape);
     QVERIFY(!FormIfLoaded<frmSample>());
+  }
+
+  void AFormShownFromAModalOneCanBeUsed() {
+    ScreenScript screens;
+    screens.WhenShown(u"frmSample"_s, [](Form& shown) {
+      auto& other = SharedForm<frmOther>();
+      other.Show();
+      QVERIFY(!other.isModal());
+      QSignalSpy pressed(&Control<QPushButton>(other, u"cmdPress"_s), &QPushButton::clicked);
+      const QPoint inButton(5, 5);
+      QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, inButton);  // by way of the window, as a person does
+      QCOMPARE(pressed.count(), 1);
+      shown.close();
+    });
+    SharedForm<frmSample>().ShowModal();
+    QVERIFY(SharedForm<frmOther>().isVisible());
+    QVERIFY(!SharedForm<frmOther>().windowHandle()->transientParent());
+  }
+
+  void AFormBroughtForwardFromItsOwnModalFormCanBeUsed() {
+    ScreenScript screens;
+    auto& other = SharedForm<frmOther>();
+    other.Show();
+    screens.WhenShown(u"frmSample"_s, [&](Form& shown) {
+      QCOMPARE(shown.windowHandle()->transientParent(), other.windowHandle());
+      other.Show();
+      QCOMPARE(other.windowHandle()->transientParent(), shown.windowHandle());
+      QVERIFY(!shown.windowHandle()->transientParent());
+      shown.close();
+    });
+    SharedForm<frmSample>().SetCaller(&other);
+    SharedForm<frmSample>().ShowModal();
+    QVERIFY(!other.windowHandle()->transientParent());
   }
 
   void EnterPressesTheFocusedElseTheDefaultButton() {

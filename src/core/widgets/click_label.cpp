@@ -1,4 +1,4 @@
-#include "jobs/screens/click_label.h"
+#include "core/widgets/click_label.h"
 
 #include <QKeyEvent>
 

@@ -1,7 +1,8 @@
 #pragma once
 #include <QLabel>
 
-/// A label whose text can be changed in place: a click, Enter, F2 or Space asks for it.
+/// A label that does something when it is asked, by a click, Enter, F2 or Space: mostly, lets its text be changed in
+/// place.
 class ClickLabel : public QLabel {
   Q_OBJECT
  public:
