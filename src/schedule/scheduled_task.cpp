@@ -68,6 +68,7 @@ void WriteTouched(int taskID, const QList<int>& components) {
 QList<int> TouchedComponents(int taskLibID, int rigID, int componentID) {
   if (componentID != 0) return {componentID};
   QList<int> components;
+  if (rigID == 0) return components;  // gear in no rig is not the gear of one
   for (int type : RequiredComponentTypes(taskLibID))
     if (const int component = ComponentOfTypeInRig(rigID, type); component != 0) components << component;
   return components;
@@ -96,6 +97,12 @@ Answer AskUseRepack(Date repack) {
 
 }  // namespace
 
+int WriteJoblessTask(int taskLibID, int rigID, int componentID, Date date) {
+  const int taskID = WriteLine(taskLibID, rigID, date);
+  WriteTouched(taskID, TouchedComponents(taskLibID, rigID, componentID));
+  return taskID;
+}
+
 bool CreateJoblessTask(int taskLibID, int rigID, int componentID, Date date, Date minimum) {
   if (taskLibID < 1) {
     MsgBox(
@@ -111,8 +118,7 @@ bool CreateJoblessTask(int taskLibID, int rigID, int componentID, Date date, Dat
   bool written = false;
   Trap(u"Sub CreateJoblessTask"_s, [&] {
     Bracket bracket;
-    const int taskID = WriteLine(taskLibID, rigID, performed);
-    WriteTouched(taskID, TouchedComponents(taskLibID, rigID, componentID));
+    const int taskID = WriteJoblessTask(taskLibID, rigID, componentID, performed);
     ReplaceSchedule(rigID, taskLibID, performed, taskID, componentID);
     bracket.Close();
     written = true;

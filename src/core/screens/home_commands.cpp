@@ -15,6 +15,7 @@
 #include "core/screens/window_habits.h"
 #include "dbcare/check_fields.h"
 #include "gear/screens.h"
+#include "history/screens.h"
 #include "jobs/repack_price.h"
 #include "jobs/screens.h"
 #include "reports/screens.h"
@@ -80,6 +81,12 @@ void ShowManufacturers() { OpenModels({.onManufacturers = true}); }
 
 void ShowSchedule() { OpenSchedule(); }
 
+void ShowRigHistory() { OpenRigHistory(); }
+
+void ShowComponentHistory() {
+  if (const int component = PickComponent(0); component != 0) OpenComponentHistory(component);
+}
+
 void LoadAllForms() {
   Bracket bracket;
   ShowJobList();
@@ -128,16 +135,16 @@ std::vector<MenuLine> MainMenu() {
       {gear, u"Components Entered"_s, kLater},
       {gear, u"Manufactures"_s, ShowManufacturers},
       {gear, u"Photos"_s, kLater},
-      {gearHistory, u"History by rig"_s, kLater},
-      {gearHistory, u"History by component (canopy, container, etc)"_s, kLater},
+      {gearHistory, u"History by rig"_s, ShowRigHistory},
+      {gearHistory, u"History by component (canopy, container, etc)"_s, ShowComponentHistory},
       {gearHistory, u"Serial number look up"_s, LookUpSerialNumber},
       {history, u"Rigger Logbook"_s, kLater},
-      {history, u"Show rig history"_s, kLater},
-      {history, u"Component history (canopy, container, etc)"_s, kLater},
+      {history, u"Show rig history"_s, ShowRigHistory},
+      {history, u"Component history (canopy, container, etc)"_s, ShowComponentHistory},
       {reports, u"Rigger Log Book"_s, kLater},
       {reports, u"Gear List Reports"_s, kLater},
-      {reports, u"Gear History"_s, kLater},
-      {reports, u"Component history (canopy, container, etc)"_s, kLater},
+      {reports, u"Gear History"_s, ShowRigHistory},
+      {reports, u"Component history (canopy, container, etc)"_s, ShowComponentHistory},
       {reports, u"Task Report"_s, kLater},
       {reports, u"Event Report"_s, kLater},
       {reports, u"Show jobs which use a selected task type"_s, ShowJobsOfTask},
@@ -177,6 +184,7 @@ HomeCommand ButtonCommand(const QString& button) {
   static const QHash<QString, HomeCommand> commands = {
       {u"cmdPeople"_s, ShowCustomers},      {u"cmdRigs"_s, ShowRigDatabase},   {u"cmdJobs"_s, ShowJobList},
       {u"cmdCalc"_s, OpenRepackCalculator}, {u"cmdSchedules"_s, ShowSchedule}, {u"cmdModels"_s, ShowAllModels},
+      {u"cmdHistory"_s, ShowRigHistory},
   };
   return commands.value(button);
 }
@@ -190,7 +198,7 @@ std::vector<FloatingEntry> FloatingMenu() {
           {u"Rigs"_s, ShowRigsPlainly},
           {u"Job list"_s, ShowJobList},
           {u"Job"_s, ShowLastJob},
-          {u"History"_s, kLater},
+          {u"History"_s, ShowRigHistory},
           {u"Schedule"_s, ShowSchedule},
           {QString(), {}},
           {u"Rigging Tasks"_s, kLater},

@@ -21,6 +21,7 @@
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/schedule_grid.h"
+#include "history/screens.h"
 #include "schedule/scheduled_task.h"
 
 #include "ui_frmComponent.h"
@@ -68,7 +69,7 @@ void frmComponent::MakeMenu() {
     photo->addAction(text)->setEnabled(false);
   MenuBar()->addMenu(u"Owner"_s)->addAction(u"Select/Change Owner"_s, this, &frmComponent::ChangeOwner);
   MenuBar()->addAction(u"Rig"_s, this, &frmComponent::ShowItsRig);
-  MenuBar()->addAction(u"History"_s)->setEnabled(false);
+  MenuBar()->addAction(u"History"_s, this, [this] { OpenComponentHistory(component_); });
   MenuBar()->addAction(u"Exit"_s, this, &frmComponent::Cancel);
 }
 

@@ -17,6 +17,7 @@
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "gear/screens/schedule_grid.h"
+#include "history/screens.h"
 #include "jobs/screens.h"
 #include "schedule/rig_audit.h"
 #include "schedule/scheduled_task.h"
@@ -79,7 +80,7 @@ void frmGetRig::MakeMenu() {
   add(jobs, u"Start new job"_s, [this] { StartNewJob(ui_->browser->Customer(), ui_->browser->Rig(), 0, Today()); });
   jobs->addAction(u"Review jobs"_s, this, [this] { OpenJobList({.customer = ui_->browser->Customer()}); });
   later(MenuBar()->addMenu(u"Photos"_s), u"Add/view more photos"_s);
-  later(MenuBar()->addMenu(u"History"_s), u"Show this rig's history"_s);
+  MenuBar()->addMenu(u"History"_s)->addAction(u"Show this rig's history"_s, this, &frmGetRig::ShowHistory);
   MenuBar()->addMenu(u"Schedule"_s)->addAction(u"Show schedule"_s, this, [this] {
     OpenSchedule({.rig = ui_->browser->Rig()});
   });
@@ -227,6 +228,14 @@ void frmGetRig::DeleteRig() {
   if (!ConfirmRigDeletion(rig)) return;
   ::DeleteRig(rig);
   ui_->browser->ReloadLists();
+}
+
+void frmGetRig::ShowHistory() {
+  const int rig = ui_->browser->Rig();
+  if (rig == 0)
+    MsgBox(u"You must select a rig"_s, u"Rig History"_s);
+  else
+    OpenRigHistory(rig);
 }
 
 void frmGetRig::FilterByType() {

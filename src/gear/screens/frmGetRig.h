@@ -38,6 +38,7 @@ class frmGetRig : public Form {
   void ChangeOwner();
   void ChangeType();
   void DeleteRig();
+  void ShowHistory();
   void FilterByType();
   void EditRigComments();
   void EnterComponent();

@@ -85,6 +85,7 @@ class frmJob : public Form {
   void Locate(int pickerType);
   void ShowInvoice();
   void ShowThisRig();
+  void ShowHistory();
   void EditSelectedComponent();
 
   std::unique_ptr<Ui::frmJob> ui_;

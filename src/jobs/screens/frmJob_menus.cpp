@@ -7,6 +7,7 @@
 #include "core/screens.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
+#include "history/screens.h"
 #include "jobs/completion.h"
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
@@ -90,7 +91,7 @@ void frmJob::BuildMenus() {
   AddMissing(component, u"Add a component"_s);
   bar->addMenu(u"&Invoice"_s)->addAction(u"View/Print/Email invoice"_s, this, &frmJob::ShowInvoice);
   bar->addMenu(u"&Schedule"_s)->addAction(u"Show schedule"_s, this, [this] { OpenSchedule({.rig = job_.rigID}); });
-  AddMissing(bar->addMenu(u"&History"_s), u"Show history"_s);
+  bar->addMenu(u"&History"_s)->addAction(u"Show history"_s, this, &frmJob::ShowHistory);
   bar->addMenu(u"&Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
 
   QMenu* tools = bar->addMenu(u"T&ools"_s);
@@ -148,6 +149,16 @@ void frmJob::ShowThisRig() {
   }
   ShowRigs({.customer = RigOwner(job_.rigID), .rig = job_.rigID});
   ReloadForm();
+}
+
+void frmJob::ShowHistory() {
+  const int component = JobComponentID(job_.jobID);
+  if (job_.rigID != 0)
+    OpenRigHistory(job_.rigID);
+  else if (component != 0)
+    OpenComponentHistory(component);
+  else
+    MsgBox(u"There is no rig for this job"_s, u"No Rig"_s);
 }
 
 void frmJob::EditSelectedComponent() {

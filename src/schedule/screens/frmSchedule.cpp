@@ -12,6 +12,7 @@
 #include "gear/people.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
+#include "history/screens.h"
 #include "jobs/schedule_jobs.h"
 #include "jobs/screens.h"
 
@@ -90,7 +91,7 @@ void frmSchedule::BuildMenus() {
   jobs->addAction(u"Start new job"_s, this, &frmSchedule::StartJob);
   jobs->addSeparator();
   jobs->addAction(u"Quick Fix"_s, this, &frmSchedule::StartQuickFix);
-  bar->addMenu(u"&History"_s)->addAction(u"Show history"_s)->setEnabled(false);
+  bar->addMenu(u"&History"_s)->addAction(u"Show history"_s, this, &frmSchedule::ShowHistory);
   bar->addMenu(u"&Print"_s)->addAction(u"Print schedule"_s)->setEnabled(false);
   bar->addMenu(u"&Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
   bar->addAction(u"E&xit"_s, this, &frmSchedule::Cancel);
@@ -244,6 +245,15 @@ void frmSchedule::StartQuickFix() {
     MsgBox(u"Please select a rig"_s, u"No rig selected"_s);
   else
     ShowQuickFix(entry->rigID, entry->ownerID, entry->taskLibID);
+}
+
+void frmSchedule::ShowHistory() {
+  const ScheduleEntry* entry = Selected();
+  if (!entry) return;
+  if (entry->rigID != 0)
+    OpenRigHistory(entry->rigID);
+  else
+    OpenComponentHistory(entry->componentID);
 }
 
 void OpenSchedule(const ScheduleStart& start) {

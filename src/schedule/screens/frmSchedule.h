@@ -37,6 +37,7 @@ class frmSchedule : public Form {
   void DisplayJob();
   void StartJob();
   void StartQuickFix();
+  void ShowHistory();
 
   std::unique_ptr<Ui::frmSchedule> ui_;
   QList<ScheduleEntry> entries_;

@@ -292,7 +292,7 @@ class HomeTest : public QObject {
     for (const QAction* action : home.MenuBar()->actions())
       if (action->text() == u"Email"_s)
         for (const QAction* line : action->menu()->actions()) QVERIFY(!line->isEnabled());
-    QVERIFY(!Control<QPushButton>(home, u"cmdHistory"_s).isEnabled());
+    QVERIFY(!Control<QPushButton>(home, u"cmdLogbook"_s).isEnabled());
   }
 
   void TheSupportListingNamesTheFiles() {
