@@ -17,12 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString KindOf(int taskLibID) { return TaskLibIsEvent(taskLibID) ? u"event"_s : u"task"_s; }
-
 /// An entry that may stand on a job only once is there already.
 bool IsDuplicate(int jobID, int taskLibID) {
   if (TaskLibAllowMultiple(taskLibID) || !TaskOnJob(jobID, taskLibID)) return false;
-  const QString kind = KindOf(taskLibID);
+  const QString kind = TaskLibKind(taskLibID);
   QStringList lines{u"This job already has the %1 '%2'"_s.arg(kind, TaskLibName(taskLibID)),
                     u"This %1 is only allowed once per job"_s.arg(kind)};
   if (TaskLibIsEvent(taskLibID))
@@ -52,7 +50,7 @@ bool RequiredComponentsPresent(int jobID, int taskLibID, int& missingType) {
     missingType = type;
     const QString name = ComponentTypeName(type).toLower();
     MsgBox(JobSystemID(jobID) != 0 ? u"There is no %1 in this rig"_s.arg(name)
-                                   : u"This %1 requires %2%3"_s.arg(KindOf(taskLibID), ArticleFor(name), name),
+                                   : u"This %1 requires %2%3"_s.arg(TaskLibKind(taskLibID), ArticleFor(name), name),
            u"Can't add "_s + TaskLibName(taskLibID));
     return false;
   }

@@ -1,6 +1,8 @@
 #include "schedule/task_library.h"
 
 #include "core/access.h"
+#include "core/default_rows.h"
+#include "core/lists.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +22,20 @@ bool TaskLibAllowMultiple(int taskLibID) { return LibraryField(taskLibID, u"Allo
 bool TaskLibIsEvent(int taskLibID) { return LibraryField(taskLibID, u"IsEvent"_s).ToBool(); }
 int TaskLibModelID(int taskLibID) { return LibraryField(taskLibID, u"ModelID"_s).ToInt(); }
 bool TaskLibExists(int taskLibID) { return LibraryField(taskLibID, u"ID"_s).ToInt() != 0; }
+
+QString TaskLibKind(int taskLibID) { return TaskLibIsEvent(taskLibID) ? u"event"_s : u"task"_s; }
+
+int FindTaskLib(const QString& name) {
+  const IdList entries = LoadTaskList();
+  for (qsizetype i = 0; i < entries.Size(); ++i)
+    if (entries.texts.at(i).trimmed().toLower() == name.trimmed().toLower()) return entries.ids.at(i);
+  return 0;
+}
+
+bool IsFixedTask(int taskLibID) {
+  return taskLibID == RepackTaskLibID || taskLibID == InstallTaskLibID || taskLibID == RemoveTaskLibID;
+}
+
 int IntervalNumber(int taskLibID) { return LibraryField(taskLibID, u"IntervalNumber"_s).ToInt(); }
 int IntervalType(int taskLibID) { return LibraryField(taskLibID, u"IntervalType"_s).ToInt(); }
 

@@ -15,6 +15,12 @@ bool TaskLibIsEvent(int taskLibID);
 /// The one model that the entry is tied to; 0 for any.
 int TaskLibModelID(int taskLibID);
 bool TaskLibExists(int taskLibID);
+/// "task" or "event".
+QString TaskLibKind(int taskLibID);
+/// The entry of this name, outer blanks and case aside; tasks and events share one name space. 0 when the name is free.
+int FindTaskLib(const QString& name);
+/// The repack, the installation and the removal of a component can't be deleted.
+bool IsFixedTask(int taskLibID);
 
 /// Length of the service interval; 0 when the entry is not scheduled.
 int IntervalNumber(int taskLibID);

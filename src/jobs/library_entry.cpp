@@ -1,0 +1,257 @@
+#include "jobs/library_entry.h"
+
+#include "core/access.h"
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/trap.h"
+#include "gear/models.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString EntryStatement(int taskLibID) { return u"select * from tblTaskLib where id = %1"_s.arg(taskLibID); }
+
+/// The ids that a side table ties to an entry; an entry without any has none.
+QList<int> TiedIDs(const QString& table, const QString& field, int taskLibID) {
+  QList<int> ids;
+  GetRecordsFromTable(table, u"TaskLibID"_s, taskLibID, field, ids);
+  ids.removeAll(0);
+  return ids;
+}
+
+/// Ties these ids to an entry in the place of those before.
+void TieIDs(const QString& table, const QString& field, int taskLibID, const QList<int>& ids) {
+  DeleteRecordsFromTable(table, u"TaskLibID"_s, taskLibID);
+  Recordset rows(table);
+  for (int id : ids) {
+    rows.AddNew();
+    rows.Set(u"TaskLibID", taskLibID);
+    rows.Set(field, id);
+    rows.Update();
+  }
+}
+
+void UpdateTaskLibRigTypes(int taskLibID, const QList<int>& rigTypes) {
+  TieIDs(u"tblTaskLibRigType"_s, u"RigType"_s, taskLibID, rigTypes);
+}
+
+void UpdateTaskLibComponentTypes(int taskLibID, const QList<int>& types) {
+  TieIDs(u"tblTaskLibComponentTypes"_s, u"ComponentTypeID"_s, taskLibID, types);
+}
+
+/// A new entry's name is in use; `taskLibID` becomes the one that has it when the person wants to see that.
+std::optional<EntrySaved> FindDuplicate(const QString& kind, const QString& name, int& taskLibID) {
+  if (taskLibID != 0) return std::nullopt;
+  const int existing = FindTaskLib(name);
+  if (existing == 0) return std::nullopt;
+  if (!AskYes(Lines({u"There is already %1 named '%2'"_s.arg(kind == "event"_L1 ? u"an event"_s : u"a task"_s,
+                                                             name.trimmed()),
+                     u"Would you like to see it?"_s}),
+              u"Duplicate %1 name"_s.arg(kind)))
+    return EntrySaved::Refused;
+  taskLibID = existing;
+  return EntrySaved::ShowExisting;
+}
+
+bool SavesWithoutComponents(const QString& kind) {
+  return !AskYes(
+      Lines({u"You didn't select any required components."_s, u"Would you like to select one or more components"_s,
+             u"before saving this %1 type?"_s.arg(kind)}),
+      u"No Required Components?"_s);
+}
+
+bool FailedIntervalAudit(const TaskTypeEntry& entry) {
+  if (!entry.scheduled) return false;
+  if (entry.unit == kNoInterval) {
+    MsgBox(u"You must select an interval type (day, months, years)"_s, u"Interval?"_s);
+    return true;
+  }
+  if (Val(entry.interval) >= 1) return false;
+  MsgBox(Lines({u"You must enter a frequency"_s, u"(This task must be peformed every ___ )"_s}), u"Interval?"_s);
+  return true;
+}
+
+bool FailedRigTypeAudit(const TaskTypeEntry& entry) {
+  if (!entry.rigTypeSpecific) return false;
+  if (entry.rigTypes.isEmpty()) {
+    MsgBox(Lines({u"You must select one or more rig types or uncheck the"_s,
+                  u"check box called 'Task is rig specific'"_s}),
+           u"No rig types checked"_s);
+    return true;
+  }
+  if (entry.rigTypes.size() < GetNumberRecordsInTable(u"tblRigTypes"_s)) return false;
+  MsgBox(Lines({u"You have selected every rig type.  If you want to"_s,
+                u"have a task available for all rig types, it is best"_s,
+                u"to uncheck the check box called 'Task is rig specific'"_s}),
+         u"All rig types checked"_s);
+  return true;
+}
+
+/// Why a task can't be saved as it stands; nothing when it can.
+std::optional<EntrySaved> FailedAudit(const TaskTypeEntry& entry, int& taskLibID) {
+  if (entry.name.trimmed().isEmpty()) {
+    MsgBox(u"Task must have a name"_s, u"No task name"_s);
+    return EntrySaved::Refused;
+  }
+  if (const auto duplicate = FindDuplicate(u"task"_s, entry.name, taskLibID)) return duplicate;
+  if (FailedIntervalAudit(entry)) return EntrySaved::Refused;
+  if (entry.componentTypes.isEmpty() && !SavesWithoutComponents(u"task"_s)) return EntrySaved::Refused;
+  if (FailedRigTypeAudit(entry)) return EntrySaved::Refused;
+  return std::nullopt;
+}
+
+std::optional<EntrySaved> FailedAudit(const EventTypeEntry& entry, int& taskLibID) {
+  if (entry.name.trimmed().isEmpty()) {
+    MsgBox(u"Event must have a name"_s, u"No name"_s);
+    return EntrySaved::Refused;
+  }
+  if (const auto duplicate = FindDuplicate(u"event"_s, entry.name, taskLibID)) return duplicate;
+  if (entry.componentTypes.isEmpty() && !SavesWithoutComponents(u"event"_s)) return EntrySaved::Refused;
+  return std::nullopt;
+}
+
+/// Writes the fields of one entry, on a new row for id 0, by `write`. False, after a box, when the row has gone.
+template <typename Write>
+bool WriteEntry(int& taskLibID, Write&& write) {
+  Recordset row(taskLibID == 0 ? u"tblTaskLib"_s : EntryStatement(taskLibID));
+  if (taskLibID == 0) {
+    row.AddNew();
+  } else if (!RecordsetHasRows(row)) {
+    MsgBox(u"You shouldn't be here"_s);
+    return false;
+  }
+  write(row);
+  row.Update();
+  taskLibID = row[u"ID"].ToInt();
+  return true;
+}
+
+bool UpdateTaskType(const TaskTypeEntry& entry, int& taskLibID) {
+  const bool isNew = taskLibID == 0;
+  const bool written = WriteEntry(taskLibID, [&](Recordset& row) {
+    row.Set(u"Name", entry.name.trimmed());
+    row.Set(u"FlatRate", entry.flatRate);
+    row.Set(u"HourlyRate", entry.hourlyRate);
+    row.Set(u"ModelID", ModelExists(entry.modelID) ? entry.modelID : 0);
+    row.Set(u"LogBook", entry.logBook);
+    row.Set(u"AllowMultiple", entry.allowMultiple);
+    row.Set(u"IsRigTypeSpecific", entry.rigTypeSpecific);
+    row.Set(u"IntervalNumber", entry.scheduled ? Value(Val(entry.interval)).ToInt() : 0);
+    row.Set(u"IntervalType", static_cast<int>(entry.scheduled ? entry.unit : kNoInterval));
+    if (isNew) row.Set(u"IsEvent", false);
+  });
+  if (!written) return false;
+  UpdateTaskLibRigTypes(taskLibID, entry.rigTypes);
+  UpdateTaskLibComponentTypes(taskLibID, entry.componentTypes);
+  UpdateTable(u"tblTasks"_s, u"LogBook"_s, entry.logBook, u"TaskLibID"_s, taskLibID);
+  TieIDs(u"tblTaskLibParts"_s, u"PartID"_s, taskLibID, entry.parts);
+  return true;
+}
+
+bool UpdateEventType(const EventTypeEntry& entry, int& taskLibID) {
+  const bool written = WriteEntry(taskLibID, [&](Recordset& row) {
+    row.Set(u"Name", entry.name.trimmed());
+    row.Set(u"FlatRate", Money());
+    row.Set(u"HourlyRate", Money());
+    row.Set(u"IsEvent", true);
+    row.Set(u"AllowMultiple", entry.allowMultiple);
+    row.Set(u"ModelID", 0);
+    row.Set(u"IntervalNumber", 0);
+    row.Set(u"IntervalType", static_cast<int>(kNoInterval));
+  });
+  if (written) UpdateTaskLibComponentTypes(taskLibID, entry.componentTypes);
+  return written;
+}
+
+/// Saves an entry as a whole or not at all.
+template <typename Save>
+EntrySaved SaveWhole(const QString& routine, int& taskLibID, Save&& save) {
+  int id = taskLibID;
+  bool saved = false;
+  Trap(routine, [&] {
+    Bracket bracket;
+    saved = save(id);
+    bracket.Close();
+  });
+  if (!saved) return EntrySaved::Refused;
+  taskLibID = id;
+  return EntrySaved::Saved;
+}
+
+}  // namespace
+
+bool LoadTaskType(int taskLibID, TaskTypeEntry& entry) {
+  bool found = false;
+  Trap(u"Function LoadTaskType"_s, [&] {
+    Bracket bracket;
+    for (const Recordset& row : Rows(EntryStatement(taskLibID))) {
+      found = true;
+      entry = {.name = row[u"Name"].ToText(),
+               .flatRate = row[u"FlatRate"].ToMoney(),
+               .hourlyRate = row[u"HourlyRate"].ToMoney(),
+               .scheduled = row[u"IntervalNumber"].ToInt() != 0,
+               .unit = static_cast<IntervalUnit>(row[u"IntervalType"].ToInt()),
+               .allowMultiple = row[u"AllowMultiple"].ToBool(),
+               .logBook = row[u"LogBook"].ToBool(),
+               .modelID = row[u"ModelID"].ToInt(),
+               .rigTypeSpecific = row[u"IsRigTypeSpecific"].ToBool()};
+      if (entry.scheduled) entry.interval = row[u"IntervalNumber"].ToText();
+    }
+    entry.rigTypes = TiedIDs(u"tblTaskLibRigType"_s, u"RigType"_s, taskLibID);
+    entry.componentTypes = RequiredComponentTypes(taskLibID);
+    entry.parts = TiedIDs(u"tblTaskLibParts"_s, u"PartID"_s, taskLibID);
+    bracket.Close();
+  });
+  return found;
+}
+
+bool LoadEventType(int taskLibID, EventTypeEntry& entry) {
+  const Bracket bracket;
+  if (!TaskLibExists(taskLibID)) return false;
+  entry = {TaskLibName(taskLibID), TaskLibAllowMultiple(taskLibID), RequiredComponentTypes(taskLibID)};
+  return true;
+}
+
+EntrySaved SaveTaskType(const TaskTypeEntry& entry, int& taskLibID) {
+  if (const auto failed = FailedAudit(entry, taskLibID)) return *failed;
+  const bool isNew = taskLibID == 0;
+  const EntrySaved saved =
+      SaveWhole(u"Sub UpdateTaskType"_s, taskLibID, [&](int& id) { return UpdateTaskType(entry, id); });
+  if (saved == EntrySaved::Saved) MsgBox(isNew ? u"Task saved to task library"_s : u"Task type updated"_s, u"Done"_s);
+  return saved;
+}
+
+EntrySaved SaveEventType(const EventTypeEntry& entry, int& taskLibID) {
+  if (const auto failed = FailedAudit(entry, taskLibID)) return *failed;
+  const bool isNew = taskLibID == 0;
+  const EntrySaved saved =
+      SaveWhole(u"Sub UpdateEventType"_s, taskLibID, [&](int& id) { return UpdateEventType(entry, id); });
+  if (saved == EntrySaved::Saved)
+    MsgBox(isNew ? u"Event saved to event library"_s : u"Event library updated"_s, u"Done"_s);
+  return saved;
+}
+
+int SaveCustomEventToLib(const QString& desc, const QList<int>& CompsReq, bool AllowMultiple) {
+  int id = 0;
+  SaveWhole(u"Sub SaveCustomEventToLib"_s, id, [&](int& newID) {
+    if (!UpdateEventType({.name = desc, .allowMultiple = AllowMultiple}, newID)) return false;
+    for (int type : CompsReq) AddNewRecordToTblTaskLibComponentTypes(type, newID);
+    return true;
+  });
+  return id;
+}
+
+void AddNewRecordToTblTaskLibComponentTypes(int MyType, int TaskLibID) {
+  Recordset types(u"tblTaskLibComponentTypes"_s);
+  types.AddNew();
+  types.Set(u"TaskLibID", TaskLibID);
+  types.Set(u"ComponentTypeID", MyType);
+  types.Update();
+}
+
+void SaveInstallRemovePrice(int taskLibID, Money price) {
+  if (price == TaskLibFlatRate(taskLibID)) return;
+  UpdateTable(u"tblTaskLib"_s, u"FlatRate"_s, price, u"ID"_s, taskLibID);
+  MsgBox(u"Price updated"_s);
+}
