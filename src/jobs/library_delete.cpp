@@ -1,6 +1,7 @@
 #include "jobs/library_delete.h"
 
 #include "core/access.h"
+#include "core/forms.h"
 #include "core/prompts.h"
 #include "core/trap.h"
 #include "schedule/task_library.h"
@@ -54,6 +55,8 @@ void DeleteTaskType(int taskLibID, bool Ask, bool& cancelled) {
     }
     bracket.Close();
   });
+  Forms::ReloadIfLoaded(u"frmJob"_s);
+  Forms::ReloadSchedules();
 }
 
 bool DeleteTaskTypeOfForm(int taskLibID) {

@@ -250,6 +250,20 @@ void AddNewRecordToTblTaskLibComponentTypes(int MyType, int TaskLibID) {
   types.Update();
 }
 
+IdList LoadTasksByComponentType(int componentType, bool events) {
+  IdList entries;
+  Trap(u"Function LoadTasksByComponentType"_s, [&] {
+    Bracket bracket;
+    for (const Recordset& row :
+         Rows(u"Select TaskLibID from tblTaskLibComponentTypes where ComponentTypeID = %1"_s.arg(componentType))) {
+      const int id = row[u"TaskLibID"].ToInt();
+      if (TaskLibExists(id) && TaskLibIsEvent(id) == events) entries.Add(TaskLibName(id), id);
+    }
+    bracket.Close();
+  });
+  return entries;
+}
+
 void SaveInstallRemovePrice(int taskLibID, Money price) {
   if (price == TaskLibFlatRate(taskLibID)) return;
   UpdateTable(u"tblTaskLib"_s, u"FlatRate"_s, price, u"ID"_s, taskLibID);

@@ -2,6 +2,7 @@
 #include <QList>
 #include <QString>
 
+#include "core/lists.h"
 #include "core/money.h"
 #include "schedule/task_library.h"
 
@@ -44,6 +45,9 @@ EntrySaved SaveEventType(const EventTypeEntry& entry, int& taskLibID);
 /// Adds an event that was entered on a job; its id, 0 after a failure.
 int SaveCustomEventToLib(const QString& desc, const QList<int>& CompsReq, bool AllowMultiple);
 void AddNewRecordToTblTaskLibComponentTypes(int MyType, int TaskLibID);
+
+/// The tasks, or the events, that require a component type.
+IdList LoadTasksByComponentType(int componentType, bool events);
 
 /// Writes another price for the installation or the removal of a component, and tells so; nothing for the same price.
 void SaveInstallRemovePrice(int taskLibID, Money price);

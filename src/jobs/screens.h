@@ -1,4 +1,5 @@
 #pragma once
+#include <QList>
 #include <QString>
 
 #include "core/date.h"
@@ -50,3 +51,41 @@ void OpenRepackCalculator();
 
 /// Edits one line outside its job; true when it was written. A line that has gone is not shown.
 bool EditTask(int taskID);
+
+/// What the form of a task of the library opens on: a new task, or the one of this id.
+struct TaskTypeStart {
+  int taskLibID = 0;
+  int modelID = 0;    ///< the model that the task is tied to
+  QString name = {};  ///< proposed for a new task
+};
+/// Edits a task of the library; its id when it was saved, 0 otherwise.
+int EditTaskType(const TaskTypeStart& start = {});
+/// The same for an event; `name` is proposed for a new one.
+int EditEventType(int taskLibID = 0, const QString& name = {});
+/// Edits the price of installing or of removing a component.
+void DoInstallRemove(int taskLibID);
+/// Edits an entry of the library on the form that it needs.
+void EditLibraryEntry(int taskLibID);
+
+/// Opens the tasks, or the events, of the library beside the other screens.
+void OpenTaskLibrary(bool events);
+
+struct LibraryQuestion {
+  bool events = false;
+  QString caption = QStringLiteral("Task Library");
+  QString dateCaption = {};  ///< of a date box that starts with today; none is shown without it
+};
+struct LibraryChoice {
+  int taskLibID = 0;  ///< 0 when nothing was chosen
+  QString date = {};  ///< as it was typed
+};
+/// Lets a person choose a task, or an event, of the library.
+LibraryChoice SelectTask(const LibraryQuestion& question = {});
+/// Lets a person tick tasks and events; their ids in the order of the list, none after a cancel.
+QList<int> SelectMultipleTasks();
+
+/// Lets a person choose one of the components that a line touched; 0 when none was chosen.
+int SelectComponentOfTask(int taskID);
+
+/// Tells the picker how tasks are added and deleted.
+void RegisterLibraryPicker();

@@ -87,6 +87,12 @@ void ShowComponentHistory() {
   if (const int component = PickComponent(0); component != 0) OpenComponentHistory(component);
 }
 
+void ShowTaskLibrary() { OpenTaskLibrary(false); }
+
+void ShowEventLibrary() { OpenTaskLibrary(true); }
+
+void CreateTask() { EditTaskType(); }
+
 void LoadAllForms() {
   Bracket bracket;
   ShowJobList();
@@ -110,8 +116,8 @@ std::vector<MenuLine> MainMenu() {
       {setUp, u"Repack prices"_s, ShowRepackPrices},
       {setUp, u"Set Repack Cycle"_s, AskRepackCycle},
       {setUp, u"Locations"_s, [] { ShowLocations(); }},
-      {setUp, u"Task Library"_s, kLater},
-      {setUp, u"Event Library"_s, kLater},
+      {setUp, u"Task Library"_s, ShowTaskLibrary},
+      {setUp, u"Event Library"_s, ShowEventLibrary},
       {setUp, u"Set default photo size"_s, kLater},
       {setUp, u"Business title and address"_s, EditBusinessAddress},
       {setUp, u"Change Loftkeep program owner"_s, kLater},
@@ -125,8 +131,8 @@ std::vector<MenuLine> MainMenu() {
       {customers, u"Select / Edit"_s, ShowCustomers},
       {customers, u"Add new"_s, AddCustomer},
       {library, u"Reserve Repack Prices"_s, ShowRepackPrices},
-      {library, u"Create New Task"_s, kLater},
-      {library, u"View All tasks"_s, kLater},
+      {library, u"Create New Task"_s, CreateTask},
+      {library, u"View All tasks"_s, ShowTaskLibrary},
       {library, u"Set Repack Cycle"_s, AskRepackCycle},
       {parts, u"Add/Edit"_s, ShowParts},
       {gear, u"Rig Database"_s, ShowRigDatabase},
@@ -182,9 +188,9 @@ std::vector<MenuLine> MainMenu() {
 
 HomeCommand ButtonCommand(const QString& button) {
   static const QHash<QString, HomeCommand> commands = {
-      {u"cmdPeople"_s, ShowCustomers},      {u"cmdRigs"_s, ShowRigDatabase},   {u"cmdJobs"_s, ShowJobList},
-      {u"cmdCalc"_s, OpenRepackCalculator}, {u"cmdSchedules"_s, ShowSchedule}, {u"cmdModels"_s, ShowAllModels},
-      {u"cmdHistory"_s, ShowRigHistory},
+      {u"cmdPeople"_s, ShowCustomers},        {u"cmdRigs"_s, ShowRigDatabase},    {u"cmdJobs"_s, ShowJobList},
+      {u"cmdTaskLibrary"_s, ShowTaskLibrary}, {u"cmdEvents"_s, ShowEventLibrary}, {u"cmdCalc"_s, OpenRepackCalculator},
+      {u"cmdSchedules"_s, ShowSchedule},      {u"cmdModels"_s, ShowAllModels},    {u"cmdHistory"_s, ShowRigHistory},
   };
   return commands.value(button);
 }
@@ -201,8 +207,8 @@ std::vector<FloatingEntry> FloatingMenu() {
           {u"History"_s, ShowRigHistory},
           {u"Schedule"_s, ShowSchedule},
           {QString(), {}},
-          {u"Rigging Tasks"_s, kLater},
-          {u"Events"_s, kLater},
+          {u"Rigging Tasks"_s, ShowTaskLibrary},
+          {u"Events"_s, ShowEventLibrary},
           {u"Logbook"_s, kLater},
           {u"Repack Calculator"_s, OpenRepackCalculator},
           {u"Arrange forms"_s, ArrangeForms},

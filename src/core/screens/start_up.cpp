@@ -24,6 +24,7 @@
 #include "gear/models_file.h"
 #include "gear/screens.h"
 #include "jobs/repack_price.h"
+#include "jobs/screens.h"
 
 using namespace Qt::StringLiterals;
 
@@ -129,6 +130,7 @@ void LeaveDataFolder() { folderLock.reset(); }
 
 bool SubMain() {
   RegisterGearPickers();
+  RegisterLibraryPicker();
   ConnectionCount = 0;
   DiagnosticMode = ExistFile(u"diag.txt"_s);
   if (DiagnosticMode) MsgBox(u"Diagnostic mode is on!"_s, u"diag.txt file found"_s);

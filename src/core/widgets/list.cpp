@@ -104,6 +104,17 @@ void List::TickAll(bool ticked) {
   viewport()->update();
 }
 
+QList<int> List::TickedData() const {
+  QList<int> ids;
+  for (int row = 0; row < Count(); ++row)
+    if (IsTicked(row)) ids << ItemData(row);
+  return ids;
+}
+
+void List::TickData(const QList<int>& ids) {
+  for (int row = 0; row < Count(); ++row) SetTicked(row, ids.contains(ItemData(row)));
+}
+
 void List::keyPressEvent(QKeyEvent* event) {
   const int row = ListIndex();
   const int key = event->key();

@@ -31,6 +31,8 @@ class List : public QListView {
   bool IsTicked(int row) const;
   void SetTicked(int row, bool ticked);
   void TickAll(bool ticked);
+  QList<int> TickedData() const;         ///< the ids of the ticked rows, in their order
+  void TickData(const QList<int>& ids);  ///< ticks the rows of these ids and no other
 
  Q_SIGNALS:
   void ListChange(int row);  ///< another row was selected

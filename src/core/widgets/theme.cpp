@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace {
 
@@ -70,6 +72,24 @@ class LoftStyle : public QProxyStyle {
                 QStyleHintReturn* data) const override {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;  // boxes look like the screens
     return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isCheck = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
+    if ((!isCheck && element != PE_IndicatorRadioButton) || !IsDark(option->palette)) return;
+    // The style's own outline is darker than the window and drowns in a dark one.
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, !isCheck);
+    painter->setPen(option->palette.color(QPalette::Mid));
+    painter->setBrush(Qt::NoBrush);
+    const QRectF edge = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (isCheck)
+      painter->drawRect(edge);
+    else
+      painter->drawEllipse(edge);
+    painter->restore();
   }
 
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

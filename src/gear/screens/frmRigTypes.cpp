@@ -40,13 +40,6 @@ int frmRigTypes::RigType() const { return ui_->lstType->ItemData(ui_->lstType->L
 /// In the order of their values, from 1.
 QList<QRadioButton*> frmRigTypes::Options() const { return {ui_->optBack, ui_->optSeat, ui_->optChest, ui_->optOther}; }
 
-QList<int> frmRigTypes::TickedTypes() const {
-  QList<int> types;
-  for (int row = 0; row < ui_->LstComp->Count(); ++row)
-    if (ui_->LstComp->IsTicked(row)) types << ui_->LstComp->ItemData(row);
-  return types;
-}
-
 void frmRigTypes::LoadList(int select) {
   ui_->lstType->Fill(LoadRigTypesById());
   ui_->lstType->SelectData(select);
@@ -72,7 +65,7 @@ void frmRigTypes::ShowRigType() {
 }
 
 void frmRigTypes::WriteComponents() {
-  if (!SetComponentTypesOfRigType(RigType(), TickedTypes(), ui_->lstType->Count() == 0))
+  if (!SetComponentTypesOfRigType(RigType(), ui_->LstComp->TickedData(), ui_->lstType->Count() == 0))
     ShowRigType();
   else
     EnterComponents(true);
@@ -116,7 +109,7 @@ void frmRigTypes::DeleteSelected() {
 
 /// The ticks themselves are written already; what is saved is their sum.
 void frmRigTypes::LeaveComponents(bool save) {
-  if (save) SaveRequiredSum(RigType(), TickedTypes());
+  if (save) SaveRequiredSum(RigType(), ui_->LstComp->TickedData());
   EnterComponents(false);
   ui_->lstType->setFocus();
 }

@@ -22,7 +22,6 @@ class frmRigTypes : public Form {
  private:
   int RigType() const;
   QList<QRadioButton*> Options() const;
-  QList<int> TickedTypes() const;
   void LoadList(int select);
   void ShowRigType();
   void WriteComponents();

@@ -26,7 +26,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The list "Add to job", in its order. What a screen still lacks can't be chosen.
-enum JobItem { kReserveRepack, kFromLibrary, kTaskMenu, kCustomTask, kSelectPart, kCustomPartItem, kRule };
+enum JobItem {
+  kReserveRepack,
+  kFromLibrary,
+  kTaskMenu,
+  kCustomTask,
+  kSelectPart,
+  kCustomPartItem,
+  kRule,
+  kInstall,
+  kRemove
+};
 
 const QStringList kJobItems = {u"Reserve Repack"_s,
                                u"Select from library"_s,
@@ -38,7 +48,7 @@ const QStringList kJobItems = {u"Reserve Repack"_s,
                                u"Install component"_s,
                                u"Remove component"_s};
 
-bool IsBuilt(int item) { return item == kReserveRepack || item == kSelectPart || item == kCustomPartItem; }
+bool IsBuilt(int item) { return item < kRule; }
 
 /// Remembers what is shown, for the screens that open on it.
 void RememberShown(const JobContext& job, int componentID) {
@@ -177,9 +187,28 @@ void frmJob::RunListItem() {
            u"Nothing selected"_s);
     return;
   }
-  if (item == kReserveRepack && RepackIsPossible(job_.rigID)) AddLine(RepackTaskLibID);
-  if (item == kSelectPart) SelectPart();
-  if (item == kCustomPartItem) EnterCustomPart();
+  switch (item) {
+    case kReserveRepack:
+      if (RepackIsPossible(job_.rigID)) AddLine(RepackTaskLibID);
+      break;
+    case kFromLibrary:
+      AddFromLibrary(false);
+      break;
+    case kTaskMenu:
+      DoMultiTask();
+      break;
+    case kCustomTask:
+      EnterCustom(false);
+      break;
+    case kSelectPart:
+      SelectPart();
+      break;
+    case kCustomPartItem:
+      EnterCustomPart();
+      break;
+    default:
+      break;
+  }
 }
 
 void frmJob::keyPressEvent(QKeyEvent* event) {

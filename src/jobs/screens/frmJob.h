@@ -69,15 +69,20 @@ class frmJob : public Form {
   void SaveCell(int row, int column, const QString& text, bool& keepOpen);
   void ToggleLine(int row);
   void CompleteAll(bool complete);
-  void AddLine(int taskLibID);
-  void SelectPart();
-  void EnterCustomPart();
   void DeleteCurrentTask();
   void DeleteAllTasks();
   void ChangeTaskRigger();
   void Restore(bool (*restore)(int taskID), const QString& what);
   void EditTaskComments();
   void CheckTaskComments();
+
+  // frmJob_adding.cpp
+  void AddLine(int taskLibID);
+  void AddFromLibrary(bool events);
+  void DoMultiTask();
+  void EnterCustom(bool isEvent);
+  void SelectPart();
+  void EnterCustomPart();
 
   // frmJob_menus.cpp
   void BuildMenus();

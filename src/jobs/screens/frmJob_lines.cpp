@@ -148,27 +148,6 @@ void frmJob::CompleteAll(bool complete) {
   LoadTasksGrid();
 }
 
-void frmJob::AddLine(int taskLibID) {
-  const Date date = WorkingDate(ui_->txtDate->text());
-  if (AddLibraryTask(job_, taskLibID, date, rigComponentsCurrent_) != LibraryOutcome::Added) return;
-  LoadTasksGrid();
-}
-
-void frmJob::SelectPart() {
-  int part = PickItem(kPickMiscItem).id;
-  if (part == kPickAddNew) {
-    MiscItem item;
-    part = EnterMiscItem(item) ? AddPart(item.name, item.price, 0).id : 0;
-  }
-  if (part > 0 && AddPartToJob(job_, part, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
-}
-
-void frmJob::EnterCustomPart() {
-  MiscItem item;
-  if (!EnterMiscItem(item, {.caption = u"Enter Custom Item"_s})) return;
-  if (AddCustomPart(job_, item.name, item.price, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
-}
-
 void frmJob::DeleteCurrentTask() {
   if (LinesOfJob(job_.jobID).isEmpty()) return;
   const int row = ui_->Grid2->CurrentRow();

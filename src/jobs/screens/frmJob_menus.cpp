@@ -49,9 +49,9 @@ void frmJob::BuildMenus() {
   jobs->addAction(u"Change location"_s, this, &frmJob::ChangeLocation);
 
   QMenu* tasks = bar->addMenu(u"&Tasks"_s);
-  AddMissing(tasks, u"Add a task to this job"_s);
-  AddMissing(tasks, u"Add multiple tasks to this job"_s);
-  AddMissing(tasks, u"Add custom task to this job"_s);
+  tasks->addAction(u"Add a task to this job"_s, this, [this] { AddFromLibrary(false); });
+  tasks->addAction(u"Add multiple tasks to this job"_s, this, &frmJob::DoMultiTask);
+  tasks->addAction(u"Add custom task to this job"_s, this, [this] { EnterCustom(false); });
   tasks->addAction(u"Delete highlighted task"_s, this, &frmJob::DeleteCurrentTask);
   tasks->addAction(u"Delete all tasks for this job"_s, this, &frmJob::DeleteAllTasks);
   tasks->addAction(u"Change rigger for selected task"_s, this, &frmJob::ChangeTaskRigger);
@@ -62,8 +62,8 @@ void frmJob::BuildMenus() {
   tasks->addAction(u"Complete all tasks"_s, this, [this] { CompleteAll(true); });
 
   QMenu* events = bar->addMenu(u"&Events"_s);
-  AddMissing(events, u"Record an event (not a rigging task)"_s);
-  AddMissing(events, u"Record a custom event"_s);
+  events->addAction(u"Record an event (not a rigging task)"_s, this, [this] { AddFromLibrary(true); });
+  events->addAction(u"Record a custom event"_s, this, [this] { EnterCustom(true); });
   events->addAction(u"Delete highlighted event"_s, this, &frmJob::DeleteCurrentTask);
   events->addAction(u"Restore event name"_s, this, [this] { Restore(&RestoreTaskName, u"Please select a task"_s); });
   events->addAction(u"What's an event?"_s, this, [] {

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include "core/widgets/grid.h"
@@ -18,7 +19,10 @@ void NoSuchControl(const QWidget& screen, const QString& name) {
 }
 
 void Click(QWidget& screen, const QString& button) {
-  QTest::mouseClick(&Control<QAbstractButton>(screen, button), Qt::LeftButton);
+  auto& found = Control<QAbstractButton>(screen, button);
+  // A check box takes clicks on its mark and text, not on the room beside them.
+  const bool hasMark = qobject_cast<QPushButton*>(&found) == nullptr;
+  QTest::mouseClick(&found, Qt::LeftButton, {}, hasMark ? QPoint(8, found.height() / 2) : QPoint());
 }
 
 void TypeInto(QWidget& screen, const QString& box, const QString& text) {

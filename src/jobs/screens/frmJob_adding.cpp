@@ -1,0 +1,83 @@
+#include "core/picker.h"
+#include "core/screens.h"
+#include "gear/catalogue.h"
+#include "jobs/completion.h"
+#include "jobs/custom_entry.h"
+#include "jobs/job_header.h"
+#include "jobs/parts.h"
+#include "jobs/screens.h"
+#include "jobs/screens/frmJob.h"
+#include "jobs/screens/frmMiscTask.h"
+#include "jobs/screens/frmTaskType.h"
+
+#include "ui_frmJob.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Offers a custom task as a new task of the library, on its form; its id, 0 when it was not saved.
+int SaveCustomTaskToLibrary() {
+  auto& form = SharedForm<frmTaskType>();
+  form.SetStart({});
+  form.GetDataFromFormMiscTask();
+  form.ShowModal();
+  const int saved = form.Tag() == "save"_L1 ? form.TaskLibID() : 0;
+  form.UnloadForm();
+  return saved;
+}
+
+}  // namespace
+
+void frmJob::AddLine(int taskLibID) {
+  if (AddLibraryTask(job_, taskLibID, WorkingDate(ui_->txtDate->text()), rigComponentsCurrent_) ==
+      LibraryOutcome::Added)
+    LoadTasksGrid();
+}
+
+void frmJob::AddFromLibrary(bool events) {
+  if (const int entry = SelectTask({.events = events}).taskLibID; entry > 0) AddLine(entry);
+}
+
+void frmJob::DoMultiTask() {
+  const QList<int> entries = SelectMultipleTasks();
+  if (entries.isEmpty()) return;
+  const Date date = WorkingDate(ui_->txtDate->text());
+  for (int entry : entries) AddLibraryTask(job_, entry, date, rigComponentsCurrent_);
+  LoadTasksGrid();
+}
+
+void frmJob::EnterCustom(bool isEvent) {
+  auto& form = SharedForm<frmMiscTask>();
+  if (isEvent) form.DoEventCaptions();
+  form.ShowModal();
+  const CustomEntry entry = form.Entry();
+  int taskLibID = 0;
+  CustomRoad road = entry.name.isEmpty() ? CustomRoad::None : ChooseCustomRoad(entry, job_.jobID, taskLibID);
+  if (road == CustomRoad::NewTaskType) {
+    taskLibID = SaveCustomTaskToLibrary();
+    road = taskLibID > 0 ? CustomRoad::Library : CustomRoad::None;
+  }
+  form.UnloadForm();
+  if (road == CustomRoad::Library) AddLine(taskLibID);
+  if (road != CustomRoad::OneOff) return;
+  AddOneOffLine(job_, entry, WorkingDate(ui_->txtDate->text()));
+  LoadTasksGrid();
+  const bool complete = CheckJobStatus(job_.jobID, WorkDate());
+  ShowJobStatus(complete, complete ? HeaderDate(WorkDate()) : u"(n/a)"_s);
+}
+
+void frmJob::SelectPart() {
+  int part = PickItem(kPickMiscItem).id;
+  if (part == kPickAddNew) {
+    MiscItem item;
+    part = EnterMiscItem(item) ? AddPart(item.name, item.price, 0).id : 0;
+  }
+  if (part > 0 && AddPartToJob(job_, part, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
+}
+
+void frmJob::EnterCustomPart() {
+  MiscItem item;
+  if (!EnterMiscItem(item, {.caption = u"Enter Custom Item"_s})) return;
+  if (AddCustomPart(job_, item.name, item.price, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
+}

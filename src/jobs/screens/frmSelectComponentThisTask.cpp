@@ -1,0 +1,50 @@
+#include "jobs/screens/frmSelectComponentThisTask.h"
+
+#include "core/access.h"
+#include "core/prompts.h"
+#include "gear/components.h"
+#include "jobs/screens.h"
+
+#include "ui_frmSelectComponentThisTask.h"
+
+using namespace Qt::StringLiterals;
+
+frmSelectComponentThisTask::frmSelectComponentThisTask() : ui_(std::make_unique<Ui::frmSelectComponentThisTask>()) {
+  ui_->setupUi(this);
+  SetRemembersPlace(false);
+  connect(ui_->lst, &List::ItemDoubleClick, this, &frmSelectComponentThisTask::Accept);
+  connect(ui_->lst, &List::ItemEnter, this, &frmSelectComponentThisTask::Accept);
+  connect(ui_->cmdOK, &QPushButton::clicked, this, &frmSelectComponentThisTask::Accept);
+  connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmSelectComponentThisTask::Cancel);
+}
+
+frmSelectComponentThisTask::~frmSelectComponentThisTask() = default;
+
+void frmSelectComponentThisTask::SetTask(int taskID) {
+  QList<int> ids;
+  GetRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID, u"CompID"_s, ids);
+  ids.removeAll(0);
+  IdList components;
+  for (int component : ids) components.Add(ComponentDescription(component), component);
+  ui_->lst->Fill(components);
+}
+
+int frmSelectComponentThisTask::Component() const { return ui_->lst->ItemData(ui_->lst->ListIndex()); }
+
+void frmSelectComponentThisTask::Accept() {
+  if (Component() == 0) {
+    MsgBox(u"Please select a component"_s, u"Nothing selected"_s);
+    return;
+  }
+  SetTag(u"ok"_s);
+  Leave();
+}
+
+int SelectComponentOfTask(int taskID) {
+  auto& form = SharedForm<frmSelectComponentThisTask>();
+  form.SetTask(taskID);
+  form.ShowModal();
+  const int chosen = form.Tag() == "ok"_L1 ? form.Component() : 0;
+  form.UnloadForm();
+  return chosen;
+}

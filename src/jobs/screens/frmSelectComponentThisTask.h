@@ -1,0 +1,24 @@
+#pragma once
+#include <memory>
+
+#include "core/widgets/form.h"
+
+namespace Ui {
+class frmSelectComponentThisTask;
+}
+
+/// Lets a person choose one of the components that a line touched. The tag is "ok" when one was chosen.
+class frmSelectComponentThisTask : public Form {
+  Q_OBJECT
+ public:
+  frmSelectComponentThisTask();
+  ~frmSelectComponentThisTask() override;
+
+  void SetTask(int taskID);
+  int Component() const;
+
+ private:
+  void Accept();
+
+  std::unique_ptr<Ui::frmSelectComponentThisTask> ui_;
+};
