@@ -7,6 +7,7 @@
 #include "gear/rigs.h"
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
+#include "jobs/line_edits.h"
 #include "jobs/lines.h"
 #include "jobs/repack_price.h"
 #include "jobs/task_rules.h"
@@ -39,7 +40,9 @@ class Jobs {
   void Reserve(const SampleRig& rig, Date day) {
     SetClock(day);
     const int job = Start(rig, u"Reserve ride %1"_s.arg(Format(day, u"m/d/yyyy"_s)), day);
-    AddCustom(job, {u"Reserve ride after a line twist"_s, Money(), true, 0, true});
+    const int ride = AddCustom(job, {u"Reserve ride after a line twist"_s, Money(), true, 0, true});
+    SetLineComments(ride,
+                    u"Cut away at 1,800 ft. Freebag and pilot chute were found, the closing loop was replaced."_s);
     AddLibraryTask(JobContextOf(job), RepackTaskLibID, day, true);
     Finish(job, day);
   }
@@ -55,9 +58,10 @@ class Jobs {
     return job;
   }
 
-  void AddCustom(int job, const CustomLine& line) {
+  int AddCustom(int job, const CustomLine& line) {
     int task = 0;
     AddCustomLine(JobContextOf(job), line, Today(), task);
+    return task;
   }
 
   void AddPartLine(int job, int part) {

@@ -11,6 +11,7 @@
 #include "gear/models_file.h"
 #include "gear/people.h"
 #include "jobs/repack_price.h"
+#include "sample/sample_history.h"
 #include "sample/sample_jobs.h"
 #include "sample/sample_people.h"
 
@@ -64,6 +65,8 @@ void MakeSampleLoft(Date today) {
   const QList<int> people = AddPeople();
   SampleShop shop{people.first(kSampleRiggers), AddLocations()};
   AddSampleLibrary(shop);
-  AddSampleJobs(AddSampleGear(people.mid(kSampleRiggers), start, random), shop, start, today, random);
+  const QList<SampleRig> rigs = AddSampleGear(people.mid(kSampleRiggers), start, random);
+  AddSampleHistory(rigs);
+  AddSampleJobs(rigs, shop, start, today, random);
   bracket.Close();
 }

@@ -72,6 +72,8 @@ class SampleLoftTest : public QObject {
     QVERIFY(Number(u"SELECT count(*) FROM tblJobs"_s) >= 200);
     QVERIFY(Number(u"SELECT count(*) FROM tblJobs WHERE JobStatus = 0"_s) >= 2);
     QVERIFY(Number(u"SELECT count(*) FROM tblTasks WHERE IsEvent = -1"_s) >= 2);
+    QVERIFY(Number(u"SELECT count(*) FROM tblTasks WHERE JobID = 0"_s) >= 5);
+    QVERIFY(Number(u"SELECT count(*) FROM tblTasks WHERE trim(Comments) <> ''"_s) >= 5);
     QVERIFY(Number(soon.arg(1).arg(today - 1)) >= 3);       // overdue
     QVERIFY(Number(soon.arg(today).arg(today + 30)) >= 3);  // soon due
     QVERIFY(Number(u"SELECT count(*) FROM tblComponents WHERE RigID = 0"_s) >= 5);
