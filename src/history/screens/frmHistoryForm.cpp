@@ -96,8 +96,7 @@ void frmHistoryForm::ReloadMe(const HistoryView& view) {
   setWindowTitle(byRig ? u"Rig History"_s : u"Component History"_s);
   showRig_->setText(byRig ? u"Show rig"_s : u"Show highlighted rig"_s);
   ui_->filters->setVisible(byRig);
-  for (QPushButton* button : {ui_->cmdCheckAll, ui_->cmdCheckNone})
-    button->setVisible(view.mode != HistoryMode::Component);
+  ui_->ticks->setVisible(view.mode != HistoryMode::Component);
   LoadComponentTypes();
   ReloadForm();
 }
@@ -109,9 +108,10 @@ void frmHistoryForm::LoadComponentTypes() {
   } else {
     ui_->LstComp->Fill(LoadRigTypeComponents(RigType(view_.rigID)));
   }
-  const bool all = view_.mode != HistoryMode::RigByType || ui_->LstComp->Count() == 1;
-  for (int row = 0; row < ui_->LstComp->Count(); ++row)
-    ui_->LstComp->SetTicked(row, all || ui_->LstComp->ItemData(row) == view_.componentTypeID);
+  if (view_.mode == HistoryMode::RigByType && ui_->LstComp->Count() > 1)
+    ui_->LstComp->TickData({view_.componentTypeID});
+  else
+    ui_->LstComp->TickAll(true);
 }
 
 void frmHistoryForm::TickAll(bool ticked) {
@@ -119,16 +119,9 @@ void frmHistoryForm::TickAll(bool ticked) {
   ReloadForm();
 }
 
-QList<int> frmHistoryForm::TickedItems() const {
-  QList<int> items;
-  for (int row = 0; row < ui_->LstComp->Count(); ++row)
-    if (ui_->LstComp->IsTicked(row)) items << ui_->LstComp->ItemData(row);
-  return items;
-}
-
 QList<HistoryLine> frmHistoryForm::LoadHx() const {
   const bool hideDuplicates = ui_->chkHideDuplicates->isChecked();
-  QList<int> items = TickedItems();
+  QList<int> items = ui_->LstComp->TickedData();
   if (view_.mode == HistoryMode::Rig)
     return LoadHx3(view_.rigID,
                    {items, ui_->chkHideOtherRigs->isChecked(), ui_->chkCurrentCompsOnly->isChecked(), hideDuplicates});

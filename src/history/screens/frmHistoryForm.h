@@ -31,7 +31,6 @@ class frmHistoryForm : public Form {
   void SetUpGrid();
   void LoadComponentTypes();
   QList<HistoryLine> LoadHx() const;
-  QList<int> TickedItems() const;
   void TickAll(bool ticked);
   void RememberDateOrder();
 
@@ -44,6 +43,7 @@ class frmHistoryForm : public Form {
   void CheckComments(int task);
   void CheckOwner();
 
+  void AddTaskOrEvent(bool isEvent);
   void DeleteEvent();
   void EditEvent();
   void EditEntry(int task);

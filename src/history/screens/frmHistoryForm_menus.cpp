@@ -19,7 +19,8 @@ using namespace Qt::StringLiterals;
 void frmHistoryForm::BuildMenus() {
   QMenuBar* bar = MenuBar();
   QMenu* add = bar->addMenu(u"Add"_s);
-  for (const QString& text : {u"Add task"_s, u"Add event"_s}) add->addAction(text)->setEnabled(false);
+  add->addAction(u"Add task"_s, this, [this] { AddTaskOrEvent(false); });
+  add->addAction(u"Add event"_s, this, [this] { AddTaskOrEvent(true); });
   QMenu* select = bar->addMenu(u"Select"_s);
   select->addAction(u"Select rig"_s, this, &frmHistoryForm::SelectRig);
   select->addAction(u"Select a component"_s, this, &frmHistoryForm::SelectComponent);
@@ -37,6 +38,13 @@ void frmHistoryForm::BuildMenus() {
   QMenu* help = bar->addMenu(u"Help"_s);
   help->addAction(u"Why are there others rigs and multiple components displayed here?"_s, this, &ExplainHistory);
   help->addAction(u"Help 2"_s, this, [] { MsgBox(u"help 2"_s); });
+}
+
+void frmHistoryForm::AddTaskOrEvent(bool isEvent) {
+  const LibraryChoice choice = SelectTask({.events = isEvent,
+                                           .caption = isEvent ? u"Add event to history"_s : u"Add task to history"_s,
+                                           .dateCaption = isEvent ? u"Event date:"_s : u"Task date:"_s});
+  if (AddHistoryEntry(view_, choice.taskLibID, choice.date)) ReloadForm();
 }
 
 void frmHistoryForm::DeleteEvent() {

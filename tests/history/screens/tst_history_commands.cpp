@@ -25,6 +25,15 @@ QString JobName() {
   return job ? TextOf(*job, u"lblJob"_s) : QString();
 }
 
+/// Chooses a task of the library and types its date.
+void Pick(OpenHistory& shop, const QString& task, const QString& date) {
+  shop.screens.WhenShown(u"frmSelectTask"_s, [task, date](Form& form) {
+    TypeInto(form, u"txt"_s, task);
+    TypeInto(form, u"txtDate"_s, date);
+    Click(form, u"cmdSelect"_s);
+  });
+}
+
 }  // namespace
 
 class TestHistoryCommands : public QObject {
@@ -32,6 +41,57 @@ class TestHistoryCommands : public QObject {
 
  private Q_SLOTS:
   void cleanup() { UnloadScreens(); }
+
+  void ATaskIsAdded() {
+    OpenHistory shop;
+    shop.OpenRig();
+    const QStringList before = shop.loft.Snapshot();
+    shop.screens.WhenShown(u"frmSelectTask"_s, [](Form& form) {
+      QCOMPARE(form.windowTitle(), u"Add task to history"_s);
+      QCOMPARE(TextOf(form, u"lblDate"_s), u"Task date:"_s);
+      QCOMPARE(TextOf(form, u"txtDate"_s), u"3/15/2026"_s);
+      Picture(form, u"frmSelectTask-history"_s);
+      Click(form, u"cmdCancel"_s);
+    });
+    shop.Choose({u"Add"_s, u"Add task"_s});
+    QCOMPARE(shop.loft.ChangesSince(before), QStringList());
+    Pick(shop, u"AAD check"_s, u"3/12/2026"_s);
+    shop.Choose({u"Add"_s, u"Add task"_s});
+    QCOMPARE(shop.Column(kTask).last(), u"AAD check *"_s);
+    QCOMPARE(shop.Column(kDate).last(), u"03/12/26"_s);
+    QCOMPARE(shop.Schedules().value(0).section(u'|', 2, 3),
+             u"%1|%2"_s.arg(Day(3, 12, 2026).Days()).arg(Day(9, 12, 2026).Days()));
+  }
+
+  void AnEventIsAddedToAComponent() {
+    OpenHistory shop;
+    shop.AddEvent("Ride");
+    shop.OpenComponent(shop.reserve);
+    shop.screens.WhenShown(u"frmSelectTask"_s, [](Form& form) {
+      QCOMPARE(form.windowTitle(), u"Add event to history"_s);
+      QCOMPARE(TextOf(form, u"lblDate"_s), u"Event date:"_s);
+      TypeInto(form, u"txt"_s, u"ride"_s);
+      Click(form, u"cmdSelect"_s);
+    });
+    shop.Choose({u"Add"_s, u"Add event"_s});
+    QCOMPARE(shop.Column(kTask), QStringList({u"Repack *"_s, u"Ride *"_s}));
+    QCOMPARE(shop.Column(kDate).last(), u"03/15/26"_s);
+  }
+
+  void ARefusedTaskLeavesTheHistoryAsItWas() {
+    OpenHistory shop;
+    shop.OpenComponent(shop.mainCanopy);
+    const QStringList before = shop.loft.Snapshot();
+    Pick(shop, u"AAD check"_s, u"3/12/2026"_s);
+    shop.prompts.ExpectBox(
+        kProgramTitle, u"You are viewing the history of a main canopy\n\nThe selected task or event requires an aad"_s);
+    shop.Choose({u"Add"_s, u"Add task"_s});
+    Pick(shop, u"AAD check"_s, u"soon"_s);
+    shop.prompts.ExpectBox(u"Function ParseDate"_s, u"Type mismatch"_s);
+    shop.Choose({u"Add"_s, u"Add task"_s});
+    QCOMPARE(shop.loft.ChangesSince(before), QStringList());
+    QCOMPARE(shop.Lines().RowCount(), 1);
+  }
 
   void AnEntryIsDeleted() {
     OpenHistory shop;
