@@ -111,6 +111,19 @@ class TestHistory : public QObject {
     QCOMPARE(Told(LoadHx3(shop.rig, filter)), QStringList{u"n/a|Blue|Washed *|1/3/2026"_s});
   }
 
+  void ANewComponentBringsItsLifeAlong() {
+    SampleHistory shop;  // whose job knows the gear of its day alone
+    SetComponentRig(shop.aad, 0);
+    const int vigil = shop.AddComponent("Vigil", kAad);
+    shop.AddWork({.onRig = 0, .done = Day(1, 1, 2026), .name = "Bench test"}, {vigil});
+    shop.AddWork({.onRig = 0, .done = Day(1, 2, 2026), .name = "Service"}, {shop.aad});
+    HistoryFilter filter{.types = SampleHistory::AllTypes()};
+    QCOMPARE(Told(LoadHx3(shop.rig, filter)),
+             QStringList({u"Cypres|(no rig)|Service *|1/2/2026"_s, u"Vigil|(no rig)|Bench test *|1/1/2026"_s}));
+    filter.currentCompsOnly = true;
+    QCOMPARE(Told(LoadHx3(shop.rig, filter)), QStringList{u"Vigil|(no rig)|Bench test *|1/1/2026"_s});
+  }
+
   void AComponentOfAForeignTypeHasNoLines() {
     SampleHistory shop;
     const int harness = shop.AddComponent("Sigma", kPassengerHarness);

@@ -249,6 +249,7 @@ class TestHistoryEntries : public QObject {
 
   void DeletingOnARigThatHasGone() {
     Entries shop;
+    shop.AddRepackWork(Day(9, 1, 2025));
     const int repack = shop.AddRepackWork(Day(3, 1, 2026));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
     DeleteRigRow(shop.rig);

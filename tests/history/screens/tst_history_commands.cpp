@@ -110,6 +110,18 @@ class TestHistoryCommands : public QObject {
     QCOMPARE(shop.Schedules(), QStringList());
   }
 
+  void AnEntryOfTheLogbookBelongsToNoJob() {
+    OpenHistory shop;
+    shop.loft.Run(u"update tblTasks set JobID = -99 where ID = %1"_s.arg(shop.check));
+    shop.OpenRig();
+    shop.Select(kCheck);
+    shop.screens.WhenShown(u"frmTaskEdit"_s, [](Form& form) { Click(form, u"cmdCancel"_s); });
+    shop.Choose(kEdit);
+    shop.prompts.Expect(u"Cypres - AAD check *"_s, u"Are you sure you want to delete this event?"_s, Answer::Yes);
+    shop.Choose(kDelete);
+    QCOMPARE(shop.Lines().RowCount(), 3);
+  }
+
   void WhatBelongsToAJobIsChangedThere() {
     OpenHistory shop;
     shop.OpenRig();
