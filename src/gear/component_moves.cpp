@@ -10,45 +10,52 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void AddRemovalTask(int component, int type, int rig, int owner, Date date, int location) {
-  int task = 0;
-  {
-    Recordset tasks(u"tblTasks"_s);
-    tasks.AddNew();
-    tasks.Set(u"JobID", 0);
-    tasks.Set(u"CustomerID", owner);
-    tasks.Set(u"RiggerID", 0);
-    tasks.Set(u"FlatRate", Money());
-    tasks.Set(u"HourlyRate", Money());
-    tasks.Set(u"NumHours", 0);
-    tasks.Set(u"Tax", Money());
-    tasks.Set(u"comments", u" ");
-    tasks.Set(u"DateTaskCompleted", date);
-    tasks.Set(u"DateTaskStarted", date);
-    tasks.Set(u"TaskLibID", RemoveTaskLibID);
-    tasks.Set(u"LogBook", false);
-    tasks.Set(u"status", -1);
-    tasks.Set(u"TaskName", u"Remove "_s + ComponentTypeName(type) + u' ' + ComponentDescription(component) +
-                               u" from "_s + RigName(rig));
-    tasks.Set(u"systemID", rig);
-    tasks.Set(u"PartID", 0);
-    tasks.Set(u"IsEvent", false);
-    tasks.Set(u"LocationID", location);
-    tasks.Update();
-    task = tasks[u"ID"].ToInt();
-  }
-  Recordset touched(u"tblTaskComponents"_s);
-  touched.AddNew();
-  touched.Set(u"TaskID", task);
-  touched.Set(u"CompID", component);
-  touched.Set(u"Complete", true);
-  touched.Update();
+int WriteRemoval(int component, int rig, Date date, int location) {
+  Recordset tasks(u"tblTasks"_s);
+  tasks.AddNew();
+  tasks.Set(u"JobID", 0);
+  tasks.Set(u"CustomerID", RigOwner(rig));
+  tasks.Set(u"RiggerID", 0);
+  tasks.Set(u"FlatRate", Money());
+  tasks.Set(u"HourlyRate", Money());
+  tasks.Set(u"NumHours", 0);
+  tasks.Set(u"Tax", Money());
+  tasks.Set(u"comments", u" ");
+  tasks.Set(u"DateTaskCompleted", date);
+  tasks.Set(u"DateTaskStarted", date);
+  tasks.Set(u"TaskLibID", RemoveTaskLibID);
+  tasks.Set(u"LogBook", false);
+  tasks.Set(u"status", -1);
+  tasks.Set(u"TaskName", u"Remove "_s + ComponentTypeName(ComponentTypeOf(component)) + u' ' +
+                             ComponentDescription(component) + u" from "_s + RigName(rig));
+  tasks.Set(u"systemID", rig);
+  tasks.Set(u"PartID", 0);
+  tasks.Set(u"IsEvent", false);
+  tasks.Set(u"LocationID", location);
+  tasks.Update();
+  return tasks[u"ID"].ToInt();
 }
 
 /// An owner whose row has gone counts as none.
 int LivingOwner(int owner) { return owner > 0 && PersonExists(owner) ? owner : 0; }
 
 }  // namespace
+
+void AddRemovalTask(int component, int rig, Date date, int location) {
+  Trap(u"Sub AddRemovalTask"_s, [&] {
+    Bracket bracket;
+    const int task = WriteRemoval(component, rig, date, location);
+    {
+      Recordset touched(u"tblTaskComponents"_s);
+      touched.AddNew();
+      touched.Set(u"TaskID", task);
+      touched.Set(u"CompID", component);
+      touched.Set(u"Complete", true);
+      touched.Update();
+    }
+    bracket.Close();
+  });
+}
 
 bool CheckMove(int type, int rig, int& component, bool silent, Date date, int location) {
   if (component == 0 || silent) return true;
@@ -72,7 +79,7 @@ bool CheckMove(int type, int rig, int& component, bool silent, Date date, int lo
   const int moved = component;
   Trap(u"Sub CheckMove"_s, [&] {
     Bracket bracket;
-    if (!date.IsNone()) AddRemovalTask(moved, type, oldRig, oldOwner, date, location);
+    if (!date.IsNone()) AddRemovalTask(moved, oldRig, date, location);
     FreePlace(rig, type);
     InstallComponent(rig, moved, oldOwner);
     bracket.Close();

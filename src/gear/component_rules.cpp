@@ -6,7 +6,6 @@
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
-#include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "gear/selected_component.h"
 
@@ -32,34 +31,6 @@ QStringList UsesOf(int component) {
   return uses;
 }
 
-int ComponentOfTypeInJob(int job, int type) {
-  QList<int> components;
-  GetRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, job, u"ComponentID"_s, components);
-  for (int component : components)
-    if (component != 0 && ComponentTypeOf(component) == type) return component;
-  return 0;
-}
-
-void PutIntoRig(int component, int type, int rig) {
-  Trap(u"Sub PutIntoRig"_s, [&] {
-    Bracket bracket;
-    UpdateTableBySQL(u"Update tblComponents set rigid = 0 where typeid = %1 and rigid = %2"_s.arg(type).arg(rig));
-    UpdateTableBySQL(
-        u"Update Tblcomponents set rigid = %1 where typeid = %2 and id = %3"_s.arg(rig).arg(type).arg(component));
-    bracket.Close();
-  });
-}
-
-Answer AskTakeFromOtherRig(int component, int type, int otherRig) {
-  return Ask(
-      Lines({u"Records indicate that he "_s + ComponentTypeName(type) + u' ' + ComponentDescription(component) +
-                 u" listed above is"_s,
-             u"installed in "_s + RigName(otherRig) + u" owned by "_s + PersonDisplayName(RigOwner(otherRig)),
-             QString(), u"If you proceed, that rig will have the component removed and installed in the current rig"_s,
-             u"Do you want to do this?"_s}),
-      u"Remove component from "_s + RigName(otherRig), Buttons::YesNoCancel, Answer::No);
-}
-
 QString WithRig(int component) {
   const int rig = ComponentRig(component);
   return ComponentDescription(component) +
@@ -71,7 +42,7 @@ QString WithRig(int component) {
 QString CommandForSerial(const QString& serial, int type) {
   const QString typed = serial.trimmed();
   if (typed.isEmpty()) return {};
-  const QString typeName = ComponentTypeName(type);
+  const QString typeName = type == 0 ? u"component"_s : ComponentTypeName(type);
   int id = 0;
   const int count = FindBySerial(typed, type, id);
   if (count == 1) return u"load component:"_s + QString::number(id);
@@ -214,20 +185,5 @@ bool DeleteComponent(int component) {
     }
     bracket.Close();
   });
-  return true;
-}
-
-bool SyncJobWithRig(int job, int rig) {
-  for (int type : ComponentTypesOfRigType(RigType(rig))) {
-    const int component = ComponentOfTypeInJob(job, type);
-    if (component == 0 || component == ComponentOfTypeInRig(rig, type)) continue;
-    const int otherRig = ComponentRig(component);
-    if (otherRig != 0 && RigOwner(otherRig) != RigOwner(rig)) {
-      const Answer answer = AskTakeFromOtherRig(component, type, otherRig);
-      if (answer == Answer::Cancel) return false;
-      if (answer == Answer::No) continue;
-    }
-    PutIntoRig(component, type, rig);
-  }
   return true;
 }

@@ -34,6 +34,3 @@ bool SetLostComponentType(int component, int type);
 
 /// Deletes a component after telling what it is used by; 0 is no selection. True when it is gone.
 bool DeleteComponent(int component);
-
-/// Brings the components of a job into the job's rig, type by type; true unless the person cancelled.
-bool SyncJobWithRig(int job, int rig);

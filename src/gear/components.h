@@ -44,6 +44,9 @@ int CountSerialsOfModel(int model, const QString& serial, int& id);
 /// component's own entries.
 void DetachComponent(int rig, int component, int type);
 
+/// Writes the removal of a component from its rig as a completed task without a job, for the history of both.
+void AddRemovalTask(int component, int rig, Date date, int location = 0);
+
 /// Asks before a chosen component enters a rig. One of the same rig is told and stays chosen; one of another rig is
 /// moved after a question: the place is freed, the component installed, and with a date the removal from the old rig
 /// is written as a completed task without a job, at `location`. A refusal sets `component` to 0 and returns false.

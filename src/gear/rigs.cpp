@@ -61,7 +61,7 @@ int CreateRig(int owner, int type, const QString& name) {
       rigs.Set(u"OwnerID", owner);
       rigs.Set(u"TypeID", type);
       rigs.Set(u"Comment", u" ");
-      rigs.Set(u"rigAlias", name.left(50));
+      rigs.Set(u"rigAlias", name.left(kLongestRigName));
       rigs.Update();
       id = rigs[u"ID"].ToInt();
     }

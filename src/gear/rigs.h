@@ -5,6 +5,7 @@
 
 /// The name of rigs that a job makes while it is open. Never listed, never counted as taken by a person's choice.
 extern const QString kTempRigName;
+constexpr int kLongestRigName = 50;
 
 QString RigName(int id);
 int RigOwner(int id);

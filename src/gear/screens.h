@@ -59,9 +59,13 @@ int EditComponent(int component);
 /// Shows a component with a question below; true for Yes. With `exitOnly` there is only a button that ends it.
 bool VerifyComponent(int component, const QString& caption = {}, bool exitOnly = false);
 
-/// Enters a component of a model that belongs to nobody and sits in no rig; its id when it was saved, another id when
-/// the person went over to the component that has its serial number, 0 when cancelled.
-int EnterNewComponent(int model);
+/// What came of entering a new component.
+struct EnteredComponent {
+  int id = 0;          ///< 0 when cancelled
+  bool isNew = false;  ///< false when the person went over to the component that has its serial number
+};
+/// Enters a component of a model that belongs to nobody and sits in no rig.
+EnteredComponent EnterNewComponent(int model, const QString& serial = {});
 
 /// Looks a component up by its serial number, among those of a type or (0) of all; 0 when none was chosen.
 int PickComponentBySerial(int componentType = 0, const QString& serial = {});
@@ -88,6 +92,12 @@ void OpenModels(const ModelScreenStart& start = {});
 void ShowModels(const ModelScreenStart& start);
 /// Lets a person add a model of a type; its id, 0 when none was added.
 int CreateModel(int type);
+
+/// Lets a person pick a model of a type, the present one proposed, or add one; 0 when nothing came of it.
+int PickModel(int type, int presentModel = 0);
+
+/// Lets a person choose the type of a new rig, the default one proposed; 0 when cancelled.
+int ChooseTypeOfNewRig();
 
 /// Lets a person choose a model; `type` and `model` are selected when the screen opens and receive the choice. False
 /// when cancelled.

@@ -3,24 +3,21 @@
 #include <algorithm>
 
 #include "core/access.h"
+#include "core/forms.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
+#include "schedule/schedule.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString RowsOfJob(int jobID) { return u"Select * from tblJobComponents where Jobid = %1"_s.arg(jobID); }
-
 void DeleteVanishedComponents(int jobID) {
-  Recordset rows(RowsOfJob(jobID));
-  if (!RecordsetHasRows(rows)) return;
-  for (; !rows.Eof(); rows.MoveNext()) {
-    if (!ComponentExists(rows[u"ComponentID"].ToInt())) rows.Delete();
-  }
+  for (Recordset& row : Rows(u"Select * from tblJobComponents where Jobid = %1"_s.arg(jobID)))
+    if (!ComponentExists(row[u"ComponentID"].ToInt())) row.Delete();
 }
 
 }  // namespace
@@ -53,6 +50,29 @@ void AddJobComponent(int jobID, int componentID) {
   });
 }
 
+void RemoveJobComponent(int jobID, int componentID) {
+  DeleteRecordsFromTableBySQL(
+      u"delete * from tblJobComponents where Jobid = %1 and componentID = %2"_s.arg(jobID).arg(componentID));
+}
+
+void SnapshotRig(int jobID, int rigID) {
+  Trap(u"Sub SnapshotRig"_s, [&] {
+    Bracket bracket;
+    for (const Recordset& component : Rows(u"Select * from tblComponents where Rigid = %1"_s.arg(rigID)))
+      AddJobComponent(jobID, component[u"ID"].ToInt());
+    bracket.Close();
+  });
+}
+
+bool ComponentIsInGrid(int jobID, int componentID) { return ComponentsOfJob(jobID).contains(componentID); }
+
+bool JobHasComponentType(int jobID, int componentType) { return JobComponentOfType(jobID, componentType) != 0; }
+
+void ReloadGearScreens() {
+  Forms::ReloadIfLoaded(u"frmGetRig"_s);
+  ReloadDueDates();
+}
+
 bool JobMatchesRig(int jobID, int rigID, QString& differences) {
   bool matches = true;
   Trap(u"Function JobMatchesRig"_s, [&] {
@@ -70,14 +90,19 @@ bool JobMatchesRig(int jobID, int rigID, QString& differences) {
   return matches;
 }
 
+bool RigComponentsCurrent(int jobID, int rigID) {
+  QString differences;
+  return RigExists(rigID) && JobMatchesRig(jobID, rigID, differences);
+}
+
 QList<GearPlace> LoadJobGear(int jobID, int rigID) {
   QList<GearPlace> places;
   Trap(u"Sub LoadJobGear"_s, [&] {
     Bracket bracket;
+    DeleteVanishedComponents(jobID);
     if (const int rigType = rigID == 0 ? 0 : RigType(rigID); rigType != 0) {
       for (int type : ComponentTypesOfRigType(rigType, true)) places.append({type, JobComponentOfType(jobID, type)});
     } else {
-      DeleteVanishedComponents(jobID);
       for (int component : ComponentsOfJob(jobID)) places.append({ComponentTypeOf(component), component});
     }
     std::stable_sort(places.begin(), places.end(),

@@ -34,6 +34,7 @@ void SetJobDatePromised(int jobID, Date date) { SetJobField(jobID, u"DatePromise
 void SetJobDateCompleted(int jobID, Date date) { SetJobField(jobID, u"DateCompleted"_s, date); }
 void SetJobRiggerID(int jobID, int riggerID) { SetJobField(jobID, u"RiggerID"_s, riggerID); }
 void SetJobLocationID(int jobID, int locationID) { SetJobField(jobID, u"LocationID"_s, locationID); }
+void SetJobSystemID(int jobID, int rigID) { SetJobField(jobID, u"SystemID"_s, rigID); }
 void SetJobInvoiceNumber(int jobID, const QString& number) { SetJobField(jobID, u"InvoiceNumber"_s, number); }
 void SetJobComments(int jobID, const QString& comments) {
   SetJobField(jobID, u"Comments"_s, comments.isEmpty() ? u" "_s : comments);

@@ -23,6 +23,7 @@ void SetJobDatePromised(int jobID, Date date);
 void SetJobDateCompleted(int jobID, Date date);
 void SetJobRiggerID(int jobID, int riggerID);
 void SetJobLocationID(int jobID, int locationID);
+void SetJobSystemID(int jobID, int rigID);
 void SetJobInvoiceNumber(int jobID, const QString& number);
 void SetJobComments(int jobID, const QString& comments);
 /// The job shown last, and what belonged to it.

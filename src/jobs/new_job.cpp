@@ -34,13 +34,10 @@ int AddJobRow(const QString& title, int customerID, int rigID, int componentID, 
 }
 
 void TakeSnapshot(int jobID, int rigID, int componentID) {
-  if (rigID == 0) {
-    if (componentID != 0) AddJobComponent(jobID, componentID);
-    return;
-  }
-  Recordset components(u"Select * from tblComponents where Rigid = %1"_s.arg(rigID));
-  if (!RecordsetHasRows(components)) return;
-  for (; !components.Eof(); components.MoveNext()) AddJobComponent(jobID, components[u"ID"].ToInt());
+  if (rigID != 0)
+    SnapshotRig(jobID, rigID);
+  else if (componentID != 0)
+    AddJobComponent(jobID, componentID);
 }
 
 }  // namespace

@@ -48,13 +48,12 @@ void Write(Recordset& rows, const ScheduleRow& row) {
   rows.Update();
 }
 
-/// What shows due dates follows them.
-void ReloadScreens() {
+}  // namespace
+
+void ReloadDueDates() {
   Forms::ReloadIfLoaded(u"frmSchedule"_s);
   Forms::ReloadSchedules();
 }
-
-}  // namespace
 
 Date GetNextDueDate(int number, int intervalType, Date startDate) {
   if (startDate.IsNone()) MsgBox(u"startDate =0"_s);
@@ -82,7 +81,7 @@ void UpdateSchedule(int taskLibID, int rigID, int componentID) {
         ReplaceSchedule(rigID, taskLibID, done, taskID, componentID);
       } else {
         DeleteSchedule(rigID, taskLibID, componentID);
-        ReloadScreens();
+        ReloadDueDates();
       }
     }
     bracket.Close();
@@ -104,7 +103,7 @@ void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int co
     }
     bracket.Close();
   });
-  ReloadScreens();  // also when the row has gone because its date can't be built
+  ReloadDueDates();  // also when the row has gone because its date can't be built
 }
 
 void DeleteSchedule(int rigID, int taskLibID, int componentID) {

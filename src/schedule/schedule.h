@@ -17,6 +17,9 @@ void UpdateSchedule(int taskLibID, int rigID, int componentID);
 /// routine's box and leaves no row.
 void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int componentID);
 
+/// Every open screen that shows due dates reads them anew.
+void ReloadDueDates();
+
 /// Deletes the row of a rig, or of a component when there is no rig; a repack's always by its rig.
 void DeleteSchedule(int rigID, int taskLibID, int componentID);
 

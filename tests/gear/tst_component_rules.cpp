@@ -322,31 +322,6 @@ class TestComponentRules : public QObject {
                                                           u"-tblSchedules|1"_s, u"-tblTaskComponents|8"_s}));
   }
 
-  void SyncAsksOnlyWhenTheOwnersDiffer() {
-    Gear gear;
-    const int job = 5;
-    gear.loft.Add(u"tblJobComponents"_s, {{u"JobID"_s, job}, {u"ComponentID"_s, gear.canopy}});
-    const QString text =
-        u"Records indicate that he Main Canopy Storm  listed above is\ninstalled in Red owned by Ann Jones\n\n"
-        "If you proceed, that rig will have the component removed and installed in the current rig\n"
-        "Do you want to do this?"_s;
-    const QStringList before = gear.loft.Snapshot();
-    ScriptedPrompts prompts;
-    prompts.Expect(u"Remove component from Red"_s, text, Answer::Cancel).WithButtons(Buttons::YesNoCancel);
-    QVERIFY(!SyncJobWithRig(job, gear.blue));
-    prompts.Expect(u"Remove component from Red"_s, text, Answer::No);
-    QVERIFY(SyncJobWithRig(job, gear.blue));
-    QCOMPARE(gear.loft.ChangesSince(before), QStringList());
-    const int old = NewComponent(gear.storm, kMainCanopy, gear.blue);
-    prompts.Expect(u"Remove component from Red"_s, text, Answer::Yes);
-    QVERIFY(SyncJobWithRig(job, gear.blue));
-    QCOMPARE(ComponentRig(gear.canopy), gear.blue);
-    QCOMPARE(ComponentRig(old), 0);
-    const int spare = CreateRig(gear.bob, 1, u"Spare"_s);
-    QVERIFY(SyncJobWithRig(job, spare));
-    QCOMPARE(ComponentRig(gear.canopy), spare);
-  }
-
   void ReadsADateOfManufacture_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<Date>("dom");

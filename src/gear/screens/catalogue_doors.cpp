@@ -1,3 +1,7 @@
+#include "core/picker.h"
+#include "core/screens.h"
+#include "gear/catalogue.h"
+#include "gear/rig_types.h"
 #include "gear/screens.h"
 #include "gear/screens/frmComponentModels.h"
 #include "gear/screens/frmComponentTypes.h"
@@ -36,6 +40,17 @@ int CreateModel(int type) {
   const int created = form.CreatedModel();
   form.UnloadForm();
   return created;
+}
+
+int PickModel(int type, int presentModel) {
+  const int picked = PickItem(kPickMiscItem, type, presentModel).id;
+  return qMax(0, picked == kPickAddNew ? AddModelFromPicker(type) : picked);
+}
+
+int ChooseTypeOfNewRig() {
+  const Picked picked = PickItemWithDefault(kPickRigType, 0, DefaultRigType());
+  if (picked.id > 0 && picked.saveAsDefault) SetDefaultRigType(picked.id);
+  return qMax(0, picked.id);
 }
 
 bool SelectModel(int& type, int& model) {

@@ -10,7 +10,6 @@
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "core/widgets/screen_routines.h"
-#include "gear/catalogue.h"
 #include "gear/component_editor.h"
 #include "gear/component_rules.h"
 #include "gear/component_types.h"
@@ -142,10 +141,8 @@ void frmComponent::Edit() {
 
 void frmComponent::ChangeModel() {
   if (!MayChange()) return;
-  const int type = ComponentTypeOf(component_);
-  int model = PickItem(kPickMiscItem, type, ComponentModel(component_)).id;
-  if (model == kPickAddNew) model = AddModelFromPicker(type);
-  if (model < 1) return;
+  const int model = PickModel(ComponentTypeOf(component_), ComponentModel(component_));
+  if (model == 0) return;
   SetComponentModel(component_, model);
   Changed();
 }

@@ -14,8 +14,8 @@
 #include "gear/person_deletion.h"
 #include "gear/person_names.h"
 #include "gear/rig_rules.h"
-#include "gear/rig_types.h"
 #include "gear/rigs.h"
+#include "gear/screens.h"
 #include "gear/screens/schedule_grid.h"
 #include "history/screens.h"
 #include "jobs/screens.h"
@@ -172,8 +172,8 @@ void frmGetRig::AddRig() {
   }
   const QString name = AskNewRigName(customer);
   if (name.isEmpty()) return;
-  const int type = ChooseRigType(DefaultRigType());
-  if (type < 1) return;
+  const int type = ChooseTypeOfNewRig();
+  if (type == 0) return;
   const int rig = CreateRig(customer, type, name);
   ui_->browser->ReloadLists();
   ui_->browser->SelectRig(rig);
@@ -182,12 +182,6 @@ void frmGetRig::AddRig() {
                 u"To select this rig's components, click on the grid"_s,
                 u"and select the Enter/Edit Component button."_s}),
          u"Select rig components"_s);
-}
-
-int frmGetRig::ChooseRigType(int present) {
-  const Picked picked = PickItemWithDefault(kPickRigType, 0, present);
-  if (picked.id > 0 && picked.saveAsDefault) SetDefaultRigType(picked.id);
-  return picked.id;
 }
 
 void frmGetRig::RenameRig() {

@@ -33,7 +33,6 @@ class frmGetRig : public Form {
   void AddCustomer();
   void DeleteCustomer();
   void AddRig();
-  int ChooseRigType(int present);
   void RenameRig();
   void ChangeOwner();
   void ChangeType();

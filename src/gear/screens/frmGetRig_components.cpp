@@ -1,14 +1,12 @@
 #include "core/clock.h"
 #include "core/default_rows.h"
-#include "core/picker.h"
 #include "core/prompts.h"
-#include "core/screens.h"
-#include "gear/catalogue.h"
 #include "gear/component_rules.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rig_rules.h"
 #include "gear/rigs.h"
+#include "gear/screens.h"
 #include "gear/screens/frmGetRig.h"
 #include "schedule/completions.h"
 #include "schedule/schedule.h"
@@ -42,9 +40,9 @@ void frmGetRig::FillPlace(int type) {
   const QString command = AskNewOrOld(type);
   const auto behind = [&command](QStringView start) { return command.mid(start.size()); };
   if (command == "new"_L1) {
-    CreateInPlace(type, PickItem(kPickMiscItem, type).id, QString());
+    CreateInPlace(type, PickModel(type), QString());
   } else if (command.startsWith("new with s/n:"_L1)) {
-    CreateInPlace(type, PickItem(kPickMiscItem, type).id, behind(u"new with s/n:"));
+    CreateInPlace(type, PickModel(type), behind(u"new with s/n:"));
   } else if (command == "select"_L1) {
     if (const int component = PickComponent(type); component != 0) Install(component);
   } else if (command.startsWith("load component:"_L1)) {
@@ -56,8 +54,7 @@ void frmGetRig::FillPlace(int type) {
 }
 
 void frmGetRig::CreateInPlace(int type, int model, const QString& serial) {
-  if (model == kPickAddNew) model = AddModelFromPicker(type);
-  if (model < 1) return;
+  if (model == 0) return;
   const int component = NewComponent(model, type, ui_->browser->Rig(), serial);
   if (component == 0) return;
   ui_->browser->ReloadRig();

@@ -3,12 +3,10 @@
 #include <QKeyEvent>
 
 #include "core/format.h"
-#include "core/picker.h"
-#include "core/screens.h"
 #include "core/widgets/screen_routines.h"
-#include "gear/catalogue.h"
 #include "gear/component_editor.h"
 #include "gear/models.h"
+#include "gear/screens.h"
 #include "gear/screens/serial_check.h"
 
 #include "ui_frmModel.h"
@@ -52,9 +50,8 @@ bool frmModel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmModel::ChooseModel() {
-  int model = PickItem(kPickMiscItem, type_, model_).id;
-  if (model == kPickAddNew) model = AddModelFromPicker(type_);
-  if (model < 1) return;
+  const int model = PickModel(type_, model_);
+  if (model == 0) return;
   model_ = model;
   ShowModel();
 }

@@ -20,11 +20,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int EditEntry(const ComponentEntry& entry) {
+EnteredComponent EditEntry(const ComponentEntry& entry) {
   auto& form = SharedForm<frmComponentEdit>();
   form.SetEntry(entry);
   form.ShowModal();
-  const int result = form.Result();
+  const EnteredComponent result{form.Result(), form.Tag() == "save"_L1};
   form.UnloadForm();
   return result;
 }
@@ -140,10 +140,12 @@ bool EditComponentQuickly(int component) {
 
 int EditComponent(int component) {
   ComponentEntry entry;
-  return LoadComponentEntry(component, entry) ? EditEntry(entry) : 0;
+  return LoadComponentEntry(component, entry) ? EditEntry(entry).id : 0;
 }
 
-int EnterNewComponent(int model) { return EditEntry({.model = model, .type = ModelType(model)}); }
+EnteredComponent EnterNewComponent(int model, const QString& serial) {
+  return EditEntry({.model = model, .type = ModelType(model), .serial = serial});
+}
 
 bool VerifyComponent(int component, const QString& caption, bool exitOnly) {
   auto& form = SharedForm<frmComponentVerify>();

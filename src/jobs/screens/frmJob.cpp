@@ -5,19 +5,14 @@
 #include "core/access.h"
 #include "core/clock.h"
 #include "core/default_rows.h"
-#include "core/format.h"
 #include "core/prompts.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/components.h"
-#include "gear/models.h"
-#include "gear/people.h"
 #include "gear/rigs.h"
-#include "gear/screens.h"
 #include "jobs/delete_job.h"
-#include "jobs/job_components.h"
 #include "jobs/job_records.h"
 #include "jobs/screens.h"
-#include "jobs/screens/gear_grid.h"
+#include "jobs/screens/job_gear_commands.h"
 
 #include "ui_frmJob.h"
 
@@ -25,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The list "Add to job", in its order. What a screen still lacks can't be chosen.
+/// The list "Add to job", in its order.
 enum JobItem {
   kReserveRepack,
   kFromLibrary,
@@ -48,8 +43,6 @@ const QStringList kJobItems = {u"Reserve Repack"_s,
                                u"Install component"_s,
                                u"Remove component"_s};
 
-bool IsBuilt(int item) { return item < kRule; }
-
 /// Remembers what is shown, for the screens that open on it.
 void RememberShown(const JobContext& job, int componentID) {
   SetLastJobID(job.jobID);
@@ -67,9 +60,9 @@ frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(th
   txtAny_->hide();
   BuildMenus();
   SetUpLines();
-  SetUpGearGrid(*ui_->grid);
   for (const QString& text : kJobItems) ui_->lstTasks->AddItem(text);
   ConnectControls();
+  ConnectGear();
   ConnectHeader();
 }
 
@@ -79,13 +72,10 @@ void frmJob::ConnectControls() {
   connect(ui_->cmdExit, &QPushButton::clicked, this, &frmJob::Cancel);
   connect(ui_->cmdPrev, &QPushButton::clicked, this, [this] { Step(&PreviousJobID, false); });
   connect(ui_->cmdNext, &QPushButton::clicked, this, [this] { Step(&NextJobID, true); });
-  connect(ui_->cmdGearChange, &QPushButton::clicked, this, &frmJob::ExplainGearChange);
-  connect(ui_->cmdCurrentComp, &QPushButton::clicked, this, [this] { ShowCurrentComponents(job_.rigID); });
   connect(ui_->cmdHelp, &QPushButton::clicked, this, [] {
     MsgBox(u"When all tasks have status COMPLETED, the job status is updated to COMPLETED."_s, u"Jobs"_s);
   });
-  connect(ui_->lstTasks, &List::ListChange, this,
-          [this](int row) { ui_->cmdTask->setEnabled(row < 0 || IsBuilt(row)); });
+  connect(ui_->lstTasks, &List::ListChange, this, [this](int row) { ui_->cmdTask->setEnabled(row != kRule); });
   connect(ui_->lstTasks, &List::ItemDoubleClick, this, &frmJob::RunListItem);
   connect(ui_->lstTasks, &List::ItemEnter, this, &frmJob::RunListItem);
   connect(ui_->cmdTask, &QPushButton::clicked, this, &frmJob::RunListItem);
@@ -142,35 +132,6 @@ void frmJob::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) Activate();
 }
 
-void frmJob::LoadSystemInfo() {
-  FillGearGrid(*ui_->grid, job_.jobID, RigExists(job_.rigID) ? job_.rigID : 0);
-  CheckRigChange();
-}
-
-void frmJob::CheckRigChange() {
-  const bool hasRig = job_.rigID != 0;
-  const bool rigExists = hasRig && RigExists(job_.rigID);
-  QString differences;
-  if (rigExists) rigComponentsCurrent_ = JobMatchesRig(job_.jobID, job_.rigID, differences);
-  const bool differs = hasRig && (!rigExists || !rigComponentsCurrent_);
-  ui_->gearButtons->setVisible(differs);
-  ui_->lblSystem->setText(rigExists ? RigName(job_.rigID) : u"(n/a)"_s);
-}
-
-void frmJob::ExplainGearChange() {
-  if (job_.rigID == 0 || !RigExists(job_.rigID)) {
-    MsgBox(job_.rigID == 0 ? u"There is no rig for this job"_s : u"The rig for this job has been deleted"_s,
-           u"Can't show rig"_s);
-    return;
-  }
-  MsgBox(
-      Lines({u"Components in this rig have changed since this job was started"_s,
-             u"Any components installed or removed during this"_s, u"job will not affect the current rig components."_s,
-             u"These events will be displayed in the rig's history."_s,
-             u"Note:  If you would like the current rig to match these"_s, u"components, see the TOOLS menu above"_s}),
-      u"Rig components may have changed"_s);
-}
-
 void frmJob::Step(int (*neighbour)(int jobID, bool& noneLeft), bool forward) {
   bool noneLeft = false;
   const int id = neighbour(job_.jobID, noneLeft);
@@ -205,6 +166,12 @@ void frmJob::RunListItem() {
       break;
     case kCustomPartItem:
       EnterCustomPart();
+      break;
+    case kInstall:
+      gear_->InstallComponent();
+      break;
+    case kRemove:
+      gear_->RemoveComponent();
       break;
     default:
       break;

@@ -9,6 +9,7 @@
 #include "jobs/task_rules.h"
 
 class ClickLabel;
+class JobGearCommands;
 class QLineEdit;
 class QMenu;
 namespace Ui {
@@ -39,11 +40,14 @@ class frmJob : public Form {
   // frmJob.cpp
   void ConnectControls();
   void Activate();
+  void Step(int (*neighbour)(int jobID, bool& noneLeft), bool forward);
+  void RunListItem();
+
+  // frmJob_gear.cpp
+  void ConnectGear();
   void LoadSystemInfo();
   void CheckRigChange();
   void ExplainGearChange();
-  void Step(int (*neighbour)(int jobID, bool& noneLeft), bool forward);
-  void RunListItem();
 
   // frmJob_header.cpp
   void ConnectHeader();
@@ -78,6 +82,7 @@ class frmJob : public Form {
 
   // frmJob_adding.cpp
   void AddLine(int taskLibID);
+  bool GetLibraryTask(int taskLibID, Date date);
   void AddFromLibrary(bool events);
   void DoMultiTask();
   void EnterCustom(bool isEvent);
@@ -91,13 +96,13 @@ class frmJob : public Form {
   void ShowInvoice();
   void ShowThisRig();
   void ShowHistory();
-  void EditSelectedComponent();
 
   std::unique_ptr<Ui::frmJob> ui_;
   QLineEdit* txtAny_;  ///< laid over the label that is edited
   ClickLabel* edited_ = nullptr;
   Save save_;
   JobContext job_;
+  std::unique_ptr<JobGearCommands> gear_;
   int componentID_ = 0;
   bool rigComponentsCurrent_ = true;
   bool busy_ = false;  ///< a job is being loaded or deleted; what others report meanwhile is not news

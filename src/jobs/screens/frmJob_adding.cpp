@@ -9,6 +9,7 @@
 #include "jobs/screens/frmJob.h"
 #include "jobs/screens/frmMiscTask.h"
 #include "jobs/screens/frmTaskType.h"
+#include "jobs/screens/job_gear_commands.h"
 
 #include "ui_frmJob.h"
 
@@ -30,9 +31,15 @@ int SaveCustomTaskToLibrary() {
 }  // namespace
 
 void frmJob::AddLine(int taskLibID) {
-  if (AddLibraryTask(job_, taskLibID, WorkingDate(ui_->txtDate->text()), rigComponentsCurrent_) ==
-      LibraryOutcome::Added)
-    LoadTasksGrid();
+  if (GetLibraryTask(taskLibID, WorkingDate(ui_->txtDate->text()))) LoadTasksGrid();
+}
+
+/// True when a line was added; what installs and removes gear shows the lines by itself.
+bool frmJob::GetLibraryTask(int taskLibID, Date date) {
+  const LibraryOutcome outcome = AddLibraryTask(job_, taskLibID, date, rigComponentsCurrent_);
+  if (outcome == LibraryOutcome::Install) gear_->InstallComponent();
+  if (outcome == LibraryOutcome::Remove) gear_->RemoveComponent();
+  return outcome == LibraryOutcome::Added;
 }
 
 void frmJob::AddFromLibrary(bool events) {
@@ -43,7 +50,7 @@ void frmJob::DoMultiTask() {
   const QList<int> entries = SelectMultipleTasks();
   if (entries.isEmpty()) return;
   const Date date = WorkingDate(ui_->txtDate->text());
-  for (int entry : entries) AddLibraryTask(job_, entry, date, rigComponentsCurrent_);
+  for (int entry : entries) GetLibraryTask(entry, date);
   LoadTasksGrid();
 }
 

@@ -14,6 +14,7 @@
 #include "jobs/line_edits.h"
 #include "jobs/screens.h"
 #include "jobs/screens/frmJob.h"
+#include "jobs/screens/job_gear_commands.h"
 #include "reports/screens.h"
 #include "schedule/screens.h"
 
@@ -42,7 +43,7 @@ void frmJob::BuildMenus() {
     int jobID = 0;
     if (picked.id > 0) StartJobDialog(picked.id, 0, 0, jobID, 0, 0, Today());
   });
-  AddMissing(jobs, u"Create a new rig"_s);
+  jobs->addAction(u"Create a new rig"_s, this, [this] { gear_->MakeArig(); });
   jobs->addAction(u"Load different Job"_s, this, [] { OpenJobList(); });
   jobs->addAction(u"Delete this job"_s, this, &frmJob::DeleteThisJob);
   jobs->addAction(u"Change rigger for job"_s, this, &frmJob::ChangeRigger);
@@ -77,25 +78,27 @@ void frmJob::BuildMenus() {
   locate->addAction(u"locate by job name"_s, this, [this] { Locate(kPickJob); });
 
   QMenu* rig = bar->addMenu(u"&Rig"_s);
-  AddMissing(rig, u"Create a new rig"_s);
-  AddMissing(rig, u"Add an existing rig to this job"_s);
+  rig->addAction(u"Create a new rig"_s, this, [this] { gear_->MakeArig(); });
+  rig->addAction(u"Add an existing rig to this job"_s, this, [this] { gear_->ImportRig(); });
   rig->addAction(u"Show this rig"_s, this, &frmJob::ShowThisRig);
   rig->addAction(u"Show all rigs"_s, this, [this] {
     ShowRigs();
     ReloadForm();
   });
-  AddMissing(rig, u"Install component in rig"_s);
-  AddMissing(rig, u"Remove component from rig"_s);
+  rig->addAction(u"Install component in rig"_s, this, [this] { gear_->InstallComponent(); });
+  rig->addAction(u"Remove component from rig"_s, this, [this] { gear_->RemoveComponent(); });
   QMenu* component = bar->addMenu(u"&Component"_s);
-  component->addAction(u"Edit selected component"_s, this, &frmJob::EditSelectedComponent);
-  AddMissing(component, u"Add a component"_s);
+  component->addAction(u"Edit selected component"_s, this, [this] { gear_->EditSelectedComponent(); });
+  component->addAction(u"Add a component"_s, this, [this] { gear_->InstallComponent(); });
   bar->addMenu(u"&Invoice"_s)->addAction(u"View/Print/Email invoice"_s, this, &frmJob::ShowInvoice);
   bar->addMenu(u"&Schedule"_s)->addAction(u"Show schedule"_s, this, [this] { OpenSchedule({.rig = job_.rigID}); });
   bar->addMenu(u"&History"_s)->addAction(u"Show history"_s, this, &frmJob::ShowHistory);
   bar->addMenu(u"&Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
 
   QMenu* tools = bar->addMenu(u"T&ools"_s);
-  AddMissing(tools, u"Update rig component to match this job's components"_s);
+  QAction* mnuSync =
+      tools->addAction(u"Update rig component to match this job's components"_s, this, [this] { gear_->UpdateRig(); });
+  mnuSync->setObjectName(u"mnuSync"_s);
   tools->addAction(u"Delete all empty jobs"_s, this, [this] {
     if (DeleteAllEmptyJobs()) ReloadForm();
   });
@@ -159,13 +162,4 @@ void frmJob::ShowHistory() {
     OpenComponentHistory(component);
   else
     MsgBox(u"There is no rig for this job"_s, u"No Rig"_s);
-}
-
-void frmJob::EditSelectedComponent() {
-  const int component = ui_->grid->RowData(ui_->grid->CurrentRow());
-  if (component == 0) {
-    MsgBox(u"You must select a component from the above grid"_s, u"Edit selected component"_s);
-    return;
-  }
-  if (EditComponent(component) != 0) LoadSystemInfo();
 }

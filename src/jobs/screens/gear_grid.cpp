@@ -18,7 +18,7 @@ void SetUpGearGrid(Grid& grid) {
                    {.heading = QString(), .width = 0, .name = u"ID"_s}});
   grid.SetSortable(false);
   grid.SetSelectsRows(true);
-  grid.SetStretchColumn(2);
+  grid.SetStretchColumn(kGearDescription);
 }
 
 void FillGearGrid(Grid& grid, int jobID, int rigID) {

@@ -2,6 +2,8 @@
 
 class Grid;
 
+enum GearColumn { kGearType, kGearTypeName, kGearDescription, kGearSerial, kGearDom, kGearID };
+
 /// The grid that shows the gear of a job: type, name, serial number, date of manufacture. A row's data is the
 /// component.
 void SetUpGearGrid(Grid& grid);

@@ -57,20 +57,38 @@ struct Gear {
   int components = 0;
 };
 
-/// Asks what the job is performed on; false to leave with nothing done. Choosing a component is off as long as the
-/// screen that does so is missing.
+bool AskIncludeRig(int rigID) {
+  return AskYes(Lines({u"This component is part of a rig ("_s + RigName(rigID) + u')',
+                       u"Do you want to show all rig components for this new job"_s}),
+                u"Include all rig components?"_s);
+}
+
+/// Lets the person choose one of the customer's components, and whether the job is for the whole rig that it is part
+/// of; false when none was chosen.
+bool ChooseComponent(int customerID, int& rigID, int& componentID) {
+  componentID = PickComponent(0, customerID);
+  if (componentID == 0) return false;
+  rigID = ComponentRig(componentID);
+  if (!RigExists(rigID) || !AskIncludeRig(rigID)) rigID = 0;
+  MsgBox(u"hi"_s);
+  return true;
+}
+
+/// Asks what the job is performed on; false to leave with nothing done.
 bool ChooseGear(int customerID, const Gear& gear, int& rigID, int& componentID) {
   auto& form = SharedForm<frmJobTypeSelect>();
   form.SetCustomer(PersonDisplayName(customerID), RigOption(rigID, gear.rigs));
   form.SetRigEnabled(gear.rigs > 0);
-  form.SetComponentEnabled(false);
-  form.Choose(gear.rigs > 0 ? frmJobTypeSelect::kRig : frmJobTypeSelect::kNeither);
+  form.SetComponentEnabled(gear.components > 0);
+  form.Choose(gear.rigs > 0 ? frmJobTypeSelect::kRig : frmJobTypeSelect::kComponent);
   form.ShowModal();
   const bool chosen = form.Tag() != "cancel"_L1;
   const frmJobTypeSelect::Choice choice = form.Chosen();
   form.UnloadForm();
-  if (chosen && choice == frmJobTypeSelect::kNeither) rigID = componentID = 0;
-  if (!chosen || choice != frmJobTypeSelect::kRig || rigID != 0) return chosen;
+  if (!chosen) return false;
+  if (choice == frmJobTypeSelect::kComponent) return ChooseComponent(customerID, rigID, componentID);
+  if (choice == frmJobTypeSelect::kNeither) rigID = componentID = 0;
+  if (choice == frmJobTypeSelect::kNeither || rigID != 0) return true;
   int owner = customerID;
   return PickRig(rigID, owner);
 }

@@ -120,7 +120,7 @@ class TestComponentEdit : public QObject {
       TypeInto(form, u"txtDom"_s, u"1995"_s);
       Click(form, u"cmdSave"_s);
     });
-    QCOMPARE(EnterNewComponent(shop.storm), 4);
+    QCOMPARE(EnterNewComponent(shop.storm).id, 4);
     QCOMPARE(shop.loft.ChangesSince(before),
              QStringList(u"+tblComponents|4|2|2|%1|| |0||0|0|s1é '\"|0|0|"_s.arg(Date::FromParts(1995, 1, 1).Days())));
   }
@@ -139,7 +139,7 @@ class TestComponentEdit : public QObject {
       shop.prompts.Expect(u"Component already exists"_s, question, Answer::Yes);
       Click(form, u"cmdSave"_s);
     });
-    QCOMPARE(EnterNewComponent(shop.storm), shop.canopy);
+    QCOMPARE(EnterNewComponent(shop.storm).id, shop.canopy);
     QCOMPARE(shop.loft.ChangesSince(before), QStringList());
   }
 
@@ -167,7 +167,7 @@ class TestComponentEdit : public QObject {
       TypeInto(form, u"txtSerial"_s, u"S1"_s);
       Click(form, u"cmdSave"_s);
     });
-    QCOMPARE(EnterNewComponent(pilot), 4);
+    QCOMPARE(EnterNewComponent(pilot).id, 4);
   }
 
   void CaseAndOuterBlanksMakeNoOtherSerial() {
@@ -183,7 +183,7 @@ class TestComponentEdit : public QObject {
     });
     QCOMPARE(EditComponent(shop.spare), shop.spare);
     shop.PressInForm(u"frmComponentEdit"_s, u"cmdSave"_s);
-    QCOMPARE(EnterNewComponent(shop.storm), 5);
+    QCOMPARE(EnterNewComponent(shop.storm).id, 5);
   }
 
   void ARowThatGoesMeanwhileIsTold() {

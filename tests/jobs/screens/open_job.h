@@ -12,11 +12,12 @@
 /// The columns of the lines.
 enum Column { kTask, kRigger, kPrice, kStatus, kDate };
 
-/// The sample job on the job screen.
-struct OpenJob : SampleJob {
+/// A loft's job on the job screen.
+template <class Shop>
+struct OnScreen : Shop {
   ScreenScript screens;
-  OpenJob() { Open(); }
-  void Open() const { GotoJob(job); }
+  OnScreen() { Open(); }
+  void Open() const { GotoJob(this->job); }
   QWidget& Screen() const { return dynamic_cast<QWidget&>(*Forms::Find(QStringLiteral("frmJob"))); }
   Grid& Lines() const { return Control<Grid>(Screen(), QStringLiteral("Grid2")); }
   QString Label(const char* name) const { return TextOf(Screen(), QString::fromLatin1(name)); }
@@ -24,7 +25,7 @@ struct OpenJob : SampleJob {
   void Choose(const QString& menu, const QString& command) const { ChooseMenu(Screen(), {menu, command}); }
   /// Adds a library entry behind the screen's back and shows it.
   int AddShown(int taskLibID) const {
-    const int line = AddTask(taskLibID);
+    const int line = this->AddTask(taskLibID);
     Choose(QStringLiteral("Tools"), QStringLiteral("Refresh"));
     return line;
   }
@@ -48,3 +49,6 @@ struct OpenJob : SampleJob {
     QTest::keyClick(Lines().Editor(), key);
   }
 };
+
+/// The sample job on the job screen.
+using OpenJob = OnScreen<SampleJob>;

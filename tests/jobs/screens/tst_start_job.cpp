@@ -1,6 +1,7 @@
 #include <QRadioButton>
 #include <QTest>
 
+#include "core/widgets/grid.h"
 #include "core/widgets/list.h"
 #include "jobs/sample_job.h"
 #include "jobs/screens.h"
@@ -19,6 +20,13 @@ QString Counts(const SampleRig& shop) {
 void NameIt(ScreenScript& screens, const QString& name) {
   screens.WhenShown(u"frmNewJob"_s, [name](Form& form) {
     TypeInto(form, u"txtName"_s, name);
+    Click(form, u"cmdOK"_s);
+  });
+}
+
+void ChooseOnComponent(ScreenScript& screens) {
+  screens.WhenShown(u"frmJobTypeSelect"_s, [](Form& form) {
+    Click(form, u"optComp"_s);
     Click(form, u"cmdOK"_s);
   });
 }
@@ -176,6 +184,73 @@ class TestStartJob : public QObject {
     QVERIFY(StartNewJob(shop.owner, 0, 0, Date()));
     QCOMPARE(shop.loft.Rows(u"select JobTitle, SystemID from tblJobs order by ID"_s),
              (QStringList{u"On the rig|%1"_s.arg(shop.rig), u"On neither|0"_s}));
+  }
+
+  void AComponentOfTheCustomerIsPicked_data() {
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<QString>("counts");
+    QTest::newRow("its rig too") << Answer::Yes << u"1|4"_s;
+    QTest::newRow("alone") << Answer::No << u"1|1"_s;
+  }
+  void AComponentOfTheCustomerIsPicked() {
+    QFETCH(Answer, answer);
+    SampleRig shop;
+    ScreenScript screens;
+    ChooseOnComponent(screens);
+    screens.WhenShown(u"frmPickComponent"_s, [&](Form& form) {
+      QCOMPARE(TextOf(form, u"lblOwner"_s), u"Customer: Olaf Owner"_s);
+      auto& grid = Control<Grid>(form, u"Grid"_s);
+      QCOMPARE(grid.RowCount(), 4);
+      DoubleClickCell(grid, grid.FindRow(shop.aad), 0);
+    });
+    shop.prompts
+        .Expect(u"Include all rig components?"_s,
+                u"This component is part of a rig (Blue)\nDo you want to show all rig components for this new job"_s,
+                answer)
+        .WithButtons(Buttons::YesNo);
+    shop.prompts.ExpectBox(kProgramTitle, u"hi"_s);
+    NameIt(screens, u"On the AAD"_s);
+    QVERIFY(StartNewJob(shop.owner, 0, 0, Date()));
+    QTEST(Counts(shop), "counts");
+    QCOMPARE(shop.loft.Rows(u"select ComponentID, SystemID from tblJobs"_s),
+             QStringList(u"%1|%2"_s.arg(shop.aad).arg(answer == Answer::Yes ? shop.rig : 0)));
+  }
+
+  void AComponentInNoRigAsksForNone() {
+    SampleRig shop;
+    shop.loft.Run(u"delete * from tblRig"_s);
+    ScreenScript screens;
+    screens.WhenShown(u"frmJobTypeSelect"_s, [](Form& form) {
+      QVERIFY(!Control<QRadioButton>(form, u"optRig"_s).isEnabled());
+      QVERIFY(Control<QRadioButton>(form, u"optComp"_s).isChecked());
+      Picture(form, u"frmJobTypeSelect_no_rig"_s);
+      Click(form, u"cmdOK"_s);
+    });
+    screens.WhenShown(u"frmPickComponent"_s, [&](Form& form) {
+      auto& grid = Control<Grid>(form, u"Grid"_s);
+      grid.SelectData(shop.aad);
+      Click(form, u"cmdSelect"_s);
+    });
+    shop.prompts.ExpectBox(kProgramTitle, u"hi"_s);
+    NameIt(screens, u"On the AAD"_s);
+    QVERIFY(StartNewJob(shop.owner, 0, 0, Date()));
+    QCOMPARE(Counts(shop), u"1|1"_s);
+  }
+
+  void WithoutAComponentNoJobIsStarted() {
+    SampleRig shop;
+    const QStringList before = shop.loft.Snapshot();
+    ScreenScript screens;
+    ChooseOnComponent(screens);
+    screens.WhenShown(u"frmPickComponent"_s, [](Form& form) { Click(form, u"cmdCancel"_s); });
+    QVERIFY(!StartNewJob(shop.owner, 0, 0, Date()));
+    QCOMPARE(shop.loft.ChangesSince(before), QStringList());
+    shop.loft.Run(u"update tblComponents set OwnerID = 0"_s);
+    screens.WhenShown(u"frmJobTypeSelect"_s, [](Form& form) {
+      QVERIFY(!Control<QRadioButton>(form, u"optComp"_s).isEnabled());
+      Click(form, u"cmdCancel"_s);
+    });
+    QVERIFY(!StartNewJob(shop.owner, 0, 0, Date()));
   }
 
   void AmongSeveralRigsOneIsPicked() {

@@ -1,0 +1,49 @@
+#include "jobs/gear_edits.h"
+
+#include "core/access.h"
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/text.h"
+#include "gear/component_editor.h"
+#include "gear/components.h"
+#include "gear/models.h"
+#include "jobs/job_components.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLongestSerial = 50;
+
+void Write(int componentID, const QString& field, const Value& value) {
+  UpdateTable(u"tblComponents"_s, field, value, u"ID"_s, componentID);
+  ReloadGearScreens();
+}
+
+}  // namespace
+
+bool EditGearSerial(int componentID) {
+  const QString old = ComponentSerial(componentID);
+  const QString serial = InputBox(u"Enter serial number"_s, u"Serial Number"_s, old).trimmed().left(kLongestSerial);
+  if (serial.isEmpty() || serial == old) return false;
+  Write(componentID, u"SerialNumber"_s, serial);
+  return true;
+}
+
+bool EditGearDom(int componentID) {
+  const Date old = ComponentDom(componentID);
+  const QString shown = old.IsNone() ? QString() : Format(old, u"mm/dd/yyyy"_s);
+  const QString typed = InputBox(u"Enter date of manufacture"_s, u"Date of Manufacture"_s, shown).trimmed();
+  Date dom;
+  if (typed.isEmpty() || typed == shown || !ReadDom(typed, dom)) return false;
+  Write(componentID, u"DOM"_s, dom);
+  return true;
+}
+
+void TellEmptyPlace(int componentType, int rigID) {
+  const QString name = ComponentTypeName(componentType);
+  if (rigID != 0)
+    MsgBox(Lines({u"To add %1%2, select INSTALL COMPONENT"_s.arg(ArticleFor(name), name), u"(see menu on left)"_s}));
+  else
+    MsgBox(u"This rig doesn't have "_s + ArticleFor(name) + name, u"No component"_s);
+}
