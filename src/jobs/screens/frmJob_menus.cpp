@@ -22,13 +22,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// A command whose screen does not exist yet: shown, and disabled.
-void AddMissing(QMenu* menu, const QString& text) { menu->addAction(text)->setEnabled(false); }
-
-}  // namespace
-
 void frmJob::BuildMenus() {
   QMenuBar* bar = MenuBar();
   QMenu* jobs = bar->addMenu(u"&Jobs"_s);

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "gear/models.h"
+#include "jobs/screens/library_shop.h"
 #include "jobs/screens/open_gear.h"
 
 using namespace Qt::StringLiterals;
@@ -147,6 +148,27 @@ class TestJobInstall : public QObject {
     });
     shop.RunItem(OpenGear::kInstall, OpenGear::kAadRow);
     QCOMPARE(shop.GearRow(OpenGear::kAadRow), u"4|AAD|Argus |N9|"_s);
+  }
+
+  void TheLibraryLeadsToTheSameCommands() {
+    OpenGear shop;
+    shop.screens.WhenShown(u"frmSelectTask"_s, [](Form& form) {
+      LibraryShop::SelectText(form, "lstTasks", u"Install component"_s);
+      Click(form, u"cmdSelect"_s);
+    });
+    shop.Press(u"frmNewOrOld"_s, u"cmdDatabase"_s);
+    shop.PickComponentOf(shop.spare);
+    shop.Gear().SelectRow(OpenGear::kAadRow);
+    shop.Choose(u"Tasks"_s, u"Add a task to this job"_s);
+    QCOMPARE(shop.Row(0), u"Install AAD Argus  to Blue|Rigger|0.00||"_s);
+    shop.screens.WhenShown(u"frmMultiTask"_s, [](Form& form) {
+      for (const QString& entry : {u"AAD check"_s, u"Remove component"_s}) LibraryShop::Tick(form, "lstTasks", entry);
+      Click(form, u"cmdOK"_s);
+    });
+    shop.prompts.ExpectBox(u"Remove component from rig"_s, u"You must select a component from the above grid"_s);
+    shop.Choose(u"Tasks"_s, u"Add multiple tasks to this job"_s);
+    QCOMPARE(shop.Row(1), u"AAD check|Rigger|20.00||"_s);
+    QCOMPARE(shop.Lines().RowCount(), 4);
   }
 
   void AJobThatDiffersChangesAlone() {
