@@ -96,6 +96,12 @@ class SampleLoftTest : public QObject {
              QStringList());
   }
 
+  void NothingIsPackedBeforeItWasMade() {
+    QCOMPARE(RowsOf(u"SELECT t.ID FROM tblTasks t JOIN tblTaskComponents tc ON tc.TaskID = t.ID "
+                    "JOIN tblComponents c ON c.ID = tc.CompID WHERE t.DateTaskCompleted BETWEEN 1 AND c.DOM"_s),
+             QStringList());
+  }
+
   void NothingHappensInTheFuture() {
     const QString after = u" > %1"_s.arg(kToday.Days());
     QCOMPARE(Number(u"SELECT count(*) FROM tblJobs WHERE DateStarted%1 OR DateCompleted%1"_s.arg(after)), 0);
