@@ -11,7 +11,6 @@
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "jobs/job_components.h"
-#include "jobs/job_records.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,13 +31,9 @@ bool RefuseSameRig(const JobContext& job, const ChosenComponent& chosen) {
   return true;
 }
 
-void AddInstallLine(const JobContext& job, int componentID, Date date) {
-  int taskID = 0;
-  AddTaskToJob(job, InstallTaskLibID, false, date, taskID);
-  const QString name = u"Install "_s + ComponentTypeName(ComponentTypeOf(componentID)) + u' ' +
-                       ComponentDescription(componentID) + u" to "_s + RigName(job.rigID);
-  SetLineField(taskID, u"TaskName"_s, name.left(kJobTextLength));
-  AddTaskComponent(taskID, componentID, false);
+QString InstallLineName(int componentID, int rigID) {
+  return u"Install %1 %2 to %3"_s.arg(ComponentTypeName(ComponentTypeOf(componentID)),
+                                      ComponentDescription(componentID), RigName(rigID));
 }
 
 }  // namespace
@@ -109,7 +104,7 @@ bool InstallOnJob(const JobContext& job, const ChosenComponent& chosen, Date dat
       SetComponentRig(chosen.id, job.rigID);
     }
     AddJobComponent(job.jobID, chosen.id);
-    AddInstallLine(job, chosen.id, date);
+    AddGearLine(job, InstallTaskLibID, InstallLineName(chosen.id, job.rigID), chosen.id, date);
     CheckComponentType(chosen.id);
     bracket.Close();
   });

@@ -139,6 +139,14 @@ void AddTaskComponent(int taskID, int componentID, bool complete) {
   });
 }
 
+void AddGearLine(const JobContext& job, int taskLibID, const QString& name, int componentID, Date date) {
+  int taskID = 0;
+  AddTaskToJob(job, taskLibID, false, date, taskID);
+  if (taskID == 0) return;
+  SetLineField(taskID, u"TaskName"_s, name.left(kJobTextLength));
+  AddTaskComponent(taskID, componentID, false);
+}
+
 QList<int> LinesOfJob(int jobID) {
   QList<Value> ids;
   GetRecordsFromTableBySQL(u"Select * from tblTasks where JobID = %1 order by ID"_s.arg(jobID), u"ID"_s, ids);

@@ -47,6 +47,9 @@ void AddComponentsToTask(int taskLibID, int taskID, int jobID);
 /// Ties one component to a line; nothing for component 0.
 void AddTaskComponent(int taskID, int componentID, bool complete);
 
+/// Adds the incomplete line of a component that was installed or removed, under a name of its own.
+void AddGearLine(const JobContext& job, int taskLibID, const QString& name, int componentID, Date date);
+
 /// The ids of a job's lines in the order they were entered; empty when there are none.
 QList<int> LinesOfJob(int jobID);
 /// One field of a line; empty when there is no such line.

@@ -10,7 +10,6 @@
 #include "gear/models.h"
 #include "gear/rigs.h"
 #include "jobs/job_components.h"
-#include "jobs/job_records.h"
 #include "jobs/line_edits.h"
 #include "schedule/schedule.h"
 
@@ -54,10 +53,15 @@ bool RefusedByOtherLines(const QList<int>& lines) {
   return true;
 }
 
+/// "Remove AAD - Cypres".
+QString RemovalOf(int componentID) {
+  return u"Remove %1 - %2"_s.arg(ComponentTypeName(ComponentTypeOf(componentID)), ComponentDescription(componentID));
+}
+
 bool AskRemove(const JobContext& job, int componentID) {
   return AskYes(
       u"Are you sure you want to remove this component from this"_s + (job.rigID != 0 ? u" rig?"_s : u" job?"_s),
-      u"Remove "_s + ComponentTypeName(ComponentTypeOf(componentID)) + u" - "_s + ComponentDescription(componentID));
+      RemovalOf(componentID));
 }
 
 bool AskRemoveFromRigToo() {
@@ -66,15 +70,6 @@ bool AskRemoveFromRigToo() {
              u"However the component you are removing is the current"_s, u"component in the actual rig."_s, QString(),
              u"Do you want the component removed from the current rig"_s, u"as well as from this job?"_s}),
       u"Update rig to show component removal?"_s);
-}
-
-void AddRemovalLine(const JobContext& job, int componentID, Date date) {
-  int taskID = 0;
-  AddTaskToJob(job, RemoveTaskLibID, false, date, taskID);
-  const QString name = u"Remove "_s + ComponentTypeName(ComponentTypeOf(componentID)) + u" - "_s +
-                       ComponentDescription(componentID) + u" from "_s + RigName(job.rigID);
-  SetLineField(taskID, u"TaskName"_s, name.left(kJobTextLength));
-  AddTaskComponent(taskID, componentID, false);
 }
 
 bool IsHalfOfRepack(int componentType) { return componentType == kContainer || componentType == kReserveCanopy; }
@@ -132,7 +127,8 @@ bool RemoveFromJob(const JobContext& job, int componentID, Date date) {
   const bool written = Trap(u"Sub RemoveComponent"_s, [&] {
     Bracket bracket;
     RemoveJobComponent(job.jobID, componentID);
-    if (rigExists) AddRemovalLine(job, componentID, date);
+    if (rigExists)
+      AddGearLine(job, RemoveTaskLibID, RemovalOf(componentID) + u" from "_s + RigName(job.rigID), componentID, date);
     if (leavesRig) SetComponentRig(componentID, 0);
     if (repack != 0) DeleteSchedule(job.rigID, RepackTaskLibID, 0);
     bracket.Close();

@@ -116,11 +116,14 @@ class TestComponentEdit : public QObject {
       QCOMPARE(TextOf(form, u"lblModel"_s), u"Storm"_s);
       QCOMPARE(TextOf(form, u"lblOwner"_s), u"none"_s);
       QCOMPARE(TextOf(form, u"lblRigTitle"_s), u"none"_s);
+      QCOMPARE(TextOf(form, u"txtSerial"_s), u"S7"_s);
       TypeInto(form, u"txtSerial"_s, u"s1é '\""_s);
       TypeInto(form, u"txtDom"_s, u"1995"_s);
       Click(form, u"cmdSave"_s);
     });
-    QCOMPARE(EnterNewComponent(shop.storm).id, 4);
+    const EnteredComponent entered = EnterNewComponent(shop.storm, u"S7"_s);
+    QCOMPARE(entered.id, 4);
+    QVERIFY(entered.isNew);
     QCOMPARE(shop.loft.ChangesSince(before),
              QStringList(u"+tblComponents|4|2|2|%1|| |0||0|0|s1é '\"|0|0|"_s.arg(Date::FromParts(1995, 1, 1).Days())));
   }
@@ -139,7 +142,9 @@ class TestComponentEdit : public QObject {
       shop.prompts.Expect(u"Component already exists"_s, question, Answer::Yes);
       Click(form, u"cmdSave"_s);
     });
-    QCOMPARE(EnterNewComponent(shop.storm).id, shop.canopy);
+    const EnteredComponent entered = EnterNewComponent(shop.storm);
+    QCOMPARE(entered.id, shop.canopy);
+    QVERIFY(!entered.isNew);
     QCOMPARE(shop.loft.ChangesSince(before), QStringList());
   }
 
