@@ -5,6 +5,11 @@
 #include <QFileInfo>
 #include <QtTest>
 
+QString TempFolder::Template() {
+  const QString memory = QStringLiteral("/dev/shm");
+  return QDir(QFileInfo(memory).isWritable() ? memory : QDir::tempPath()).filePath(QStringLiteral("loftkeep-XXXXXX"));
+}
+
 QString TempFolder::Write(const QString& name, const QByteArray& content) const {
   const QString path = *this / name;
   QDir().mkpath(QFileInfo(path).path());

@@ -19,5 +19,8 @@ class TempFolder {
   QStringList Names() const;
 
  private:
-  QTemporaryDir folder_;
+  /// In memory where the system offers that: a loft writes its file through to the disk at every step.
+  static QString Template();
+
+  QTemporaryDir folder_{Template()};
 };
