@@ -23,6 +23,22 @@ Date DateOfRepack(int taskID) {
   return GetValueFromTableBySQL(statement, u"DateTaskCompleted"_s).ToDate();
 }
 
+/// Of two completions on one day the one that was entered first counts.
+bool IsLater(const Completion& done, const Completion& latest) {
+  return done.date > latest.date || (done.date == latest.date && !done.date.IsNone() && done.taskID < latest.taskID);
+}
+
+/// Hands over the completed work on components, narrowed by a condition.
+template <typename Take>
+void ReadCompletions(const QString& condition, Take&& take) {
+  for (const Recordset& row :
+       Rows(u"Select tblTaskComponents.CompID, tblTasks.TaskLibID, tblTasks.ID, tblTasks.DateTaskCompleted "
+            "from tblTaskComponents INNER JOIN tblTasks ON tblTaskComponents.TaskID = tblTasks.ID "
+            "where tblTaskComponents.Complete = true"_s +
+            condition))
+    take(row.At(0).ToInt(), Completion{row.At(1).ToInt(), row.At(2).ToInt(), row.At(3).ToDate()});
+}
+
 }  // namespace
 
 bool TaskMatchesRig(int taskID, int rigID, int taskLibID) {
@@ -69,23 +85,35 @@ Date LastCompletionForRig(int rigID, int taskLibID, int& taskID) {
   return date;
 }
 
-Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
-  Date date;
-  taskID = 0;
-  Trap(u"Function LastCompletionForComponent"_s, [&] {
+QHash<int, QList<Completion>> AllCompletions() {
+  QHash<int, QList<Completion>> completions;
+  Trap(u"Function AllCompletions"_s, [&] {
     Bracket bracket;
-    for (const Recordset& row :
-         Rows(u"Select * from tblTaskComponents where CompID = %1 and Complete = true"_s.arg(componentID))) {
-      const int id = row[u"TaskID"].ToInt();
-      if (GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"TaskLibID"_s).ToInt() != taskLibID) continue;
-      const Date done = GetValueFromTable(u"tblTasks"_s, u"ID"_s, id, u"DateTaskCompleted"_s).ToDate();
-      if (done <= date) continue;
-      date = done;
-      taskID = id;
-    }
+    ReadCompletions(QString(), [&](int component, const Completion& done) { completions[component].append(done); });
     bracket.Close();
   });
-  return date;
+  return completions;
+}
+
+Completion LatestOf(const QList<Completion>& completions, int taskLibID) {
+  Completion latest;
+  for (const Completion& done : completions)
+    if (done.taskLibID == taskLibID && IsLater(done, latest)) latest = done;
+  return latest;
+}
+
+Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
+  Completion latest;
+  Trap(u"Function LastCompletionForComponent"_s, [&] {
+    Bracket bracket;
+    ReadCompletions(u" and tblTaskComponents.CompID = %1 and tblTasks.TaskLibID = %2"_s.arg(componentID).arg(taskLibID),
+                    [&](int, const Completion& done) {
+                      if (IsLater(done, latest)) latest = done;
+                    });
+    bracket.Close();
+  });
+  taskID = latest.taskID;
+  return latest.date;
 }
 
 Date LastRepackOfPair(int containerID, int reserveID, int& taskID) {

@@ -1,4 +1,7 @@
 #pragma once
+#include <QHash>
+#include <QList>
+
 #include "core/date.h"
 
 /// Which completed line of work counts for a rig or a component.
@@ -9,6 +12,17 @@ Date LastCompletionForRig(int rigID, int taskLibID, int& taskID);
 
 /// The latest completion of a library entry on a component, with its line; no date and 0 when there is none.
 Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID);
+
+/// Completed work on a component.
+struct Completion {
+  int taskLibID = 0;
+  int taskID = 0;
+  Date date;
+};
+/// The completions of all components, read at once; by component.
+QHash<int, QList<Completion>> AllCompletions();
+/// The latest of a library entry among them; without a date when there is none.
+Completion LatestOf(const QList<Completion>& completions, int taskLibID);
 
 /// Was this completion done on the gear that the rig wears now? A repack binds container and reserve together: both of
 /// the rig's present ones must have been touched by it. Other entries always match.

@@ -18,25 +18,23 @@ struct Entry {
 
 QList<Entry> ScheduledEntries() {
   QList<Entry> entries;
-  Recordset tasks(u"Select * from tblTaskLib where IntervalType <> 0 order by ID"_s);
-  if (!RecordsetHasRows(tasks)) return entries;
-  for (; !tasks.Eof(); tasks.MoveNext()) {
-    const int id = tasks[u"ID"].ToInt();
+  for (const Recordset& task : Rows(u"Select * from tblTaskLib where IntervalType <> 0 order by ID"_s)) {
+    const int id = task[u"ID"].ToInt();
     entries.append({id, GetNumberRecords(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, id) == 1});
   }
   return entries;
 }
 
-void AddRowsOf(const Recordset& component, const QList<Entry>& entries) {
+void AddRowsOf(const Recordset& component, const QList<Completion>& completions, const QList<Entry>& entries) {
   const int id = component[u"ID"].ToInt();
   const bool isReserve = component[u"TypeID"].ToInt() == kReserveCanopy;
   for (const Entry& entry : entries) {
     if (isReserve && entry.taskLibID == RepackTaskLibID) continue;  // the container gives the rig's one row
-    int taskID = 0;
-    const Date done = LastCompletionForComponent(id, entry.taskLibID, taskID);
-    if (done.IsNone()) continue;
+    const Completion latest = LatestOf(completions, entry.taskLibID);
+    if (latest.date.IsNone()) continue;
     int scheduleID = 0;
-    AddSchedule(component[u"RigID"].ToInt(), entry.taskLibID, taskID, done, entry.oneComponent ? id : 0, scheduleID);
+    AddSchedule(component[u"RigID"].ToInt(), entry.taskLibID, latest.taskID, latest.date, entry.oneComponent ? id : 0,
+                scheduleID);
   }
 }
 
@@ -47,8 +45,11 @@ void ReconstructSchedules() {
     Bracket bracket;
     const QList<Entry> entries = ScheduledEntries();
     DeleteAllRecords(u"tblSchedules"_s, false);
-    for (const Recordset& component : Rows(u"Select * from tblComponents order by TypeID"_s))
-      AddRowsOf(component, entries);
+    const QHash<int, QList<Completion>> completions = AllCompletions();
+    for (const Recordset& component : Rows(u"Select * from tblComponents order by TypeID"_s)) {
+      const auto found = completions.constFind(component[u"ID"].ToInt());
+      if (found != completions.constEnd()) AddRowsOf(component, *found, entries);
+    }
     bracket.Close();
   });
 }
