@@ -15,6 +15,8 @@
 class DueDateModel {
  public:
   static constexpr int kRepack = 1;
+  static constexpr int kInstall = 2;
+  static constexpr int kRemove = 3;
   static constexpr int kContainerType = 1;
   static constexpr int kReserveType = 3;
 
@@ -57,6 +59,7 @@ class DueDateModel {
     int component = 0;
   };
 
+  QList<int> typesOfRig = {};
   std::map<int, Component> components;
   std::set<int> rigs;
   std::map<int, Entry> entries;
@@ -83,7 +86,7 @@ class DueDateModel {
     return ids;
   }
   /// The job wears what its rig wears now; a rig that has gone is not compared.
-  bool GearIsCurrent(int job, const QList<int>& typesOfRig) const {
+  bool GearIsCurrent(int job) const {
     const int rig = jobs.at(job).rig;
     return !rigs.contains(rig) || std::all_of(typesOfRig.begin(), typesOfRig.end(),
                                               [&](int type) { return OnJob(job, type) == InRig(rig, type); });
@@ -123,6 +126,9 @@ class DueDateModel {
       line.tiesComplete = true;
     }
     lines[id] = line;
+  }
+  void AddGearLine(int id, int job, int entry, int component) {
+    lines[id] = {job, jobs.at(job).rig, entry, false, 0, {}, {component}, false};
   }
   void AddJoblessLine(int id, int rig, int entry, Date date, const QList<int>& touched) {
     lines[id] = {0, rig, entry, false, -1, date, touched, true};
@@ -198,6 +204,59 @@ class DueDateModel {
     if (const int before = InRig(rig, part.type); before != 0 && before != component) components.at(before).rig = 0;
     part.rig = rig;
   }
+  /// Gear that goes onto a job goes into the rig that the job still shows.
+  void Install(int job, int component, int line) {
+    const int rig = jobs.at(job).rig;
+    const bool current = GearIsCurrent(job);
+    jobs.at(job).gear << component;
+    AddGearLine(line, job, kInstall, component);
+    if (current) Move(component, rig);
+  }
+  /// The lines of a job that touched a component.
+  QList<int> LinesOn(int job, int component) const {
+    QList<int> ids = LinesOf(job);
+    ids.removeIf([&](int id) { return !lines.at(id).components.contains(component); });
+    return ids;
+  }
+  /// An installation that nothing else was done to since is taken back with its line.
+  bool CancelsInstallation(int job, int component) const {
+    const QList<int> touched = LinesOn(job, component);
+    return touched.size() == 1 && lines.at(touched.first()).entry == kInstall;
+  }
+  bool IsNeeded(int job, int component) const {
+    const QList<int> touched = LinesOn(job, component);
+    return std::any_of(touched.begin(), touched.end(), [&](int id) { return lines.at(id).entry != kInstall; });
+  }
+  /// Gear that leaves a job leaves the rig that wears it; `line` is the removal's, 0 for none.
+  void Remove(int job, int component, int line) {
+    Component& part = components.at(component);
+    Job& shown = jobs.at(job);
+    const bool current = GearIsCurrent(job);
+    const bool inRig = rigs.contains(shown.rig) && part.rig == shown.rig;
+    shown.gear.removeAll(component);
+    if (line != 0) AddGearLine(line, job, kRemove, component);
+    if (!inRig) return;
+    if (current && (part.type == kContainerType || part.type == kReserveType)) DropRows(shown.rig, kRepack, 0);
+    part.rig = 0;
+  }
+  void CancelInstallation(int job, int component) {
+    const int line = LinesOn(job, component).first();
+    Job& shown = jobs.at(job);
+    if (GearIsCurrent(job) && rigs.contains(shown.rig) && components.at(component).rig == shown.rig)
+      components.at(component).rig = 0;
+    shown.gear.removeAll(component);
+    lines.erase(line);
+  }
+  /// The rig wears what the job shows; the schedule stays.
+  void Sync(int job) {
+    const int rig = jobs.at(job).rig;
+    for (int type : typesOfRig) {
+      const int component = OnJob(job, type);
+      if (component != 0 && components.at(component).rig == rig) continue;
+      if (const int before = InRig(rig, type); before != 0) components.at(before).rig = 0;
+      if (component != 0) components.at(component).rig = rig;
+    }
+  }
   void DeleteRig(int rig) {
     DropRows(rig, kRepack, 0);
     rigs.erase(rig);
@@ -206,7 +265,7 @@ class DueDateModel {
   // The schedule.
 
   void Update(int entry, int rig, int component) {
-    if (entry == 0 || entries.at(entry).number == 0) return;
+    if (!entries.contains(entry) || entries.at(entry).number == 0) return;  // a line of its own, gear on the move
     const int line = rig == 0 ? LastOnComponent(component, entry) : LastOnRig(rig, entry);
     if (line == 0)
       DropRows(rig, entry, component);

@@ -7,10 +7,13 @@
 #include "gear/rigs.h"
 #include "jobs/delete_job.h"
 #include "jobs/due_date_model.h"
+#include "jobs/install_component.h"
 #include "jobs/job_components.h"
 #include "jobs/line_edits.h"
 #include "jobs/quick_fix.h"
+#include "jobs/remove_component.h"
 #include "jobs/repack_price.h"
+#include "jobs/rig_sync.h"
 #include "jobs/sample_job.h"
 #include "jobs/task_edit.h"
 #include "schedule/reconstruct.h"
@@ -39,6 +42,9 @@ struct Action {
     DoneWithoutJob,
     DoneByComponent,
     QuickFix,
+    Install,
+    Remove,
+    Sync,
     Rebuild,
     kKinds
   };
@@ -58,7 +64,7 @@ struct Action {
     static const char* const names[] = {
         "StartJob",       "StartJobOnComponent", "AddTask",   "AddOwnLine", "Toggle",  "CompleteAll", "EditDate",
         "EditLine",       "DeleteLine",          "DeleteJob", "SetCycle",   "TakeOut", "Move",        "DeleteRig",
-        "DoneWithoutJob", "DoneByComponent",     "QuickFix",  "Rebuild"};
+        "DoneWithoutJob", "DoneByComponent",     "QuickFix",  "Install",    "Remove",  "Sync",        "Rebuild"};
     return QStringLiteral("{Action::%1, %2, %3, %4}").arg(QLatin1StringView(names[kind])).arg(a).arg(b).arg(c);
   }
 };
@@ -134,6 +140,7 @@ class RandomWork : public SampleRig {
       loft.Run(QStringLiteral("delete * from ") + QLatin1StringView(table));
     SetRepackCycle(180);
     model_ = {};
+    model_.typesOfRig = {kContainer, kMainCanopy, kReserveCanopy, kAad};
     using Unit = DueDateModel::Unit;
     model_.entries = {{1, {180, Unit::Days, {kContainer, kReserveCanopy}}}};
     const int first = aadCheck;
@@ -199,7 +206,7 @@ class RandomWork : public SampleRig {
       case Action::CompleteAll:
         if (jobID != 0) {
           const bool complete = action.b % 2 == 0;
-          const bool current = model_.GearIsCurrent(jobID, kSportRig);
+          const bool current = model_.GearIsCurrent(jobID);
           CompleteAllTasks(jobID, complete, date, GearIsCurrent(jobID));
           model_.ToggleAll(jobID, complete, date, current);
           Load(jobID);
@@ -262,6 +269,18 @@ class RandomWork : public SampleRig {
       case Action::QuickFix:
         if (rigID != 0 && HasGear(rigID, entry)) Fix(rigID, entry, date);
         break;
+      case Action::Install:
+        if (jobID != 0) InstallOn(jobID, part, date);
+        break;
+      case Action::Remove:
+        if (jobID != 0) RemoveFrom(jobID, action.b, date);
+        break;
+      case Action::Sync:
+        if (jobID != 0 && model_.rigs.contains(JobSystemID(jobID)) && !model_.GearIsCurrent(jobID)) {
+          UpdateRigFromJob(jobID, JobSystemID(jobID));
+          model_.Sync(jobID);
+        }
+        break;
       case Action::Rebuild:
         ReconstructSchedules();
         model_.Rebuild();
@@ -299,7 +318,7 @@ class RandomWork : public SampleRig {
   void ToggleLine(int lineID, Date date) {
     const int jobID = model_.lines.at(lineID).job;
     if (jobID == 0) return;
-    const bool current = model_.GearIsCurrent(jobID, kSportRig);
+    const bool current = model_.GearIsCurrent(jobID);
     ToggleComplete(lineID, date, GearIsCurrent(jobID));
     model_.Toggle(lineID, date, current);
     if (date.Days() % 2 == 0) Load(jobID);  // else the header stays as the toggle left it
@@ -313,6 +332,23 @@ class RandomWork : public SampleRig {
     entry.dateCompleted = hasDate ? Value(date).ToText() : QString();
     SaveTaskEntry(lineID, entry);
     model_.EditLine(lineID, entry.status, hasDate ? date : Date());
+  }
+  void InstallOn(int jobID, int part, Date date) {
+    if (!model_.rigs.contains(JobSystemID(jobID)) || model_.OnJob(jobID, model_.components.at(part).type) != 0) return;
+    InstallOnJob(JobContextOf(jobID), {part, ChosenComponent::FromDatabase}, date);
+    model_.Install(jobID, part, LinesOfJob(jobID).last());
+    Load(jobID);
+  }
+  void RemoveFrom(int jobID, int n, Date date) {
+    const QList<int> gear = model_.jobs.at(jobID).gear;
+    if (gear.isEmpty()) return;
+    const int part = gear.at(n % static_cast<int>(gear.size()));
+    RemoveFromJob(JobContextOf(jobID), part, date);
+    if (model_.CancelsInstallation(jobID, part))
+      model_.CancelInstallation(jobID, part);
+    else if (!model_.IsNeeded(jobID, part))
+      model_.Remove(jobID, part, model_.rigs.contains(JobSystemID(jobID)) ? LinesOfJob(jobID).last() : 0);
+    Load(jobID);
   }
   bool HasGear(int onRig, int entry) const {
     const QList<int>& types = model_.entries.at(entry).types;
@@ -347,7 +383,6 @@ class RandomWork : public SampleRig {
     model_.jobs.at(jobID).completed = date;
   }
 
-  inline static const QList<int> kSportRig{kContainer, kMainCanopy, kReserveCanopy, kAad};
   DueDateModel model_;
   QList<int> models_;  ///< two containers, a main, a reserve, an AAD
 };

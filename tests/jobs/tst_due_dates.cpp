@@ -22,10 +22,15 @@ std::vector<Action> Sequence(quint32 seed) {
 
 /// Takes steps out as long as the rest still fails.
 std::vector<Action> Shrunk(RandomWork& work, std::vector<Action> actions) {
-  for (size_t step = actions.size(); step-- > 0;) {
-    std::vector<Action> shorter = actions;
-    shorter.erase(shorter.begin() + static_cast<std::ptrdiff_t>(step));
-    if (!work.Run(shorter).isEmpty()) actions = shorter;
+  for (bool shorter = true; shorter;) {
+    shorter = false;
+    for (size_t step = actions.size(); step-- > 0;) {
+      std::vector<Action> rest = actions;
+      rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(step));
+      if (work.Run(rest).isEmpty()) continue;
+      actions = rest;
+      shorter = true;
+    }
   }
   return actions;
 }
