@@ -166,7 +166,7 @@ bool UpdateEventType(const EventTypeEntry& entry, int& taskLibID) {
 
 /// Saves an entry as a whole or not at all.
 template <typename Save>
-EntrySaved SaveWhole(const QString& routine, int& taskLibID, Save&& save) {
+bool SaveWhole(const QString& routine, int& taskLibID, Save&& save) {
   int id = taskLibID;
   bool saved = false;
   Trap(routine, [&] {
@@ -174,9 +174,8 @@ EntrySaved SaveWhole(const QString& routine, int& taskLibID, Save&& save) {
     saved = save(id);
     bracket.Close();
   });
-  if (!saved) return EntrySaved::Refused;
-  taskLibID = id;
-  return EntrySaved::Saved;
+  if (saved) taskLibID = id;
+  return saved;
 }
 
 }  // namespace
@@ -216,20 +215,22 @@ bool LoadEventType(int taskLibID, EventTypeEntry& entry) {
 EntrySaved SaveTaskType(const TaskTypeEntry& entry, int& taskLibID) {
   if (const auto failed = FailedAudit(entry, taskLibID)) return *failed;
   const bool isNew = taskLibID == 0;
-  const EntrySaved saved =
-      SaveWhole(u"Sub UpdateTaskType"_s, taskLibID, [&](int& id) { return UpdateTaskType(entry, id); });
-  if (saved == EntrySaved::Saved) MsgBox(isNew ? u"Task saved to task library"_s : u"Task type updated"_s, u"Done"_s);
-  return saved;
+  if (!WriteTaskType(entry, taskLibID)) return EntrySaved::Refused;
+  MsgBox(isNew ? u"Task saved to task library"_s : u"Task type updated"_s, u"Done"_s);
+  return EntrySaved::Saved;
+}
+
+bool WriteTaskType(const TaskTypeEntry& entry, int& taskLibID) {
+  return SaveWhole(u"Sub UpdateTaskType"_s, taskLibID, [&](int& id) { return UpdateTaskType(entry, id); });
 }
 
 EntrySaved SaveEventType(const EventTypeEntry& entry, int& taskLibID) {
   if (const auto failed = FailedAudit(entry, taskLibID)) return *failed;
   const bool isNew = taskLibID == 0;
-  const EntrySaved saved =
-      SaveWhole(u"Sub UpdateEventType"_s, taskLibID, [&](int& id) { return UpdateEventType(entry, id); });
-  if (saved == EntrySaved::Saved)
-    MsgBox(isNew ? u"Event saved to event library"_s : u"Event library updated"_s, u"Done"_s);
-  return saved;
+  if (!SaveWhole(u"Sub UpdateEventType"_s, taskLibID, [&](int& id) { return UpdateEventType(entry, id); }))
+    return EntrySaved::Refused;
+  MsgBox(isNew ? u"Event saved to event library"_s : u"Event library updated"_s, u"Done"_s);
+  return EntrySaved::Saved;
 }
 
 int SaveCustomEventToLib(const QString& desc, const QList<int>& CompsReq, bool AllowMultiple) {

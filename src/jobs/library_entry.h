@@ -39,7 +39,9 @@ enum class EntrySaved { Refused, Saved, ShowExisting };
 /// Audits a task and saves it. `taskLibID` 0 adds it and receives the new id; when its name is in use and the person
 /// wants to see that entry, `taskLibID` is that one. The log-book mark goes to all lines made from the task before.
 EntrySaved SaveTaskType(const TaskTypeEntry& entry, int& taskLibID);
-/// The same for an event.
+/// Writes a task as it stands, with no audit and no word; false when its row has gone or the writing failed.
+bool WriteTaskType(const TaskTypeEntry& entry, int& taskLibID);
+/// Audits an event and saves it, as SaveTaskType does.
 EntrySaved SaveEventType(const EventTypeEntry& entry, int& taskLibID);
 
 /// Adds an event that was entered on a job; its id, 0 after a failure.

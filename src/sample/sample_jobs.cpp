@@ -2,11 +2,13 @@
 
 #include "core/clock.h"
 #include "core/default_rows.h"
+#include "core/failure.h"
 #include "core/format.h"
 #include "gear/catalogue.h"
 #include "gear/rigs.h"
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
+#include "jobs/library_entry.h"
 #include "jobs/line_edits.h"
 #include "jobs/lines.h"
 #include "jobs/repack_price.h"
@@ -16,6 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kSportRig = 1;
 constexpr int kTandemRig = 2;
 constexpr int kOnTheBench = 5;  ///< jobs that are not done yet
 
@@ -30,20 +33,22 @@ class Jobs {
   int Begin(const SampleRig& rig, Date day) {
     SetClock(day);
     const int job = Start(rig, u"%1 %2"_s.arg(RigName(rig.id), Format(day, u"m/d/yyyy"_s)), day);
-    AddLibraryTask(JobContextOf(job), RepackTaskLibID, day, true);
+    AddFromLibrary(job, RepackTaskLibID, day);
     if (Draw(4) == 0) AddPartLine(job, shop_.closingLoop);
-    if (rig.type == kTandemRig && Draw(3) == 0) AddCustom(job, {u"Tandem line check"_s, Money::Whole(20), true});
-    if (Draw(9) == 0) AddCustom(job, {u"Patch small hole in main"_s, Money::Whole(35), true});
+    if (rig.type == kTandemRig && Draw(3) == 0) AddFromLibrary(job, shop_.tandemCheck, day);
+    if (rig.type == kSportRig && Draw(5) == 0) AddFromLibrary(job, shop_.lineCheck, day);
+    if ((rig.type == kTandemRig || rig.type == kSportRig) && Draw(9) == 0) AddFromLibrary(job, shop_.patch, day);
+    if (Draw(20) == 0) AddCustom(job, {u"Reattach lost toggle keeper"_s, Money::Whole(15), true});
     return job;
   }
 
   void Reserve(const SampleRig& rig, Date day) {
     SetClock(day);
     const int job = Start(rig, u"Reserve ride %1"_s.arg(Format(day, u"m/d/yyyy"_s)), day);
-    const int ride = AddCustom(job, {u"Reserve ride after a line twist"_s, Money(), true, 0, true});
-    SetLineComments(ride,
-                    u"Cut away at 1,800 ft. Freebag and pilot chute were found, the closing loop was replaced."_s);
-    AddLibraryTask(JobContextOf(job), RepackTaskLibID, day, true);
+    SetLineComments(
+        AddFromLibrary(job, shop_.ride, day),
+        u"Line twist. Cut away at 1,800 ft. Freebag and pilot chute were found, the closing loop was replaced."_s);
+    AddFromLibrary(job, RepackTaskLibID, day);
     Finish(job, day);
   }
 
@@ -56,6 +61,12 @@ class Jobs {
                  shop_.locations[Draw(5) == 0 ? 1 : 0], day);
     SetJobDatePromised(job, day + 7);
     return job;
+  }
+
+  int AddFromLibrary(int job, int taskLibID, Date day) {
+    if (AddLibraryTask(JobContextOf(job), taskLibID, day, true) != LibraryOutcome::Added)
+      throw Failure(u"The sample loft can't add %1 to a job"_s.arg(TaskLibName(taskLibID)));
+    return LinesOfJob(job).constLast();
   }
 
   int AddCustom(int job, const CustomLine& line) {
@@ -82,6 +93,12 @@ class Jobs {
   std::mt19937& random_;
 };
 
+int AddTask(const TaskTypeEntry& entry) {
+  int id = 0;
+  if (!WriteTaskType(entry, id)) throw Failure(u"The sample loft can't write a task"_s);
+  return id;
+}
+
 }  // namespace
 
 void AddSampleLibrary(SampleShop& shop) {
@@ -91,6 +108,31 @@ void AddSampleLibrary(SampleShop& shop) {
   AddPart(u"Rubber bands (bag of 100)"_s, Money::Whole(4), 0);
   AddPart(u"AAD battery"_s, Money::Whole(89), 0);
   AddPart(u"Slider grommet"_s, Money::FromText(u"12.75"_s), 0);
+  shop.lineCheck = AddTask({.name = u"Main canopy line check"_s,
+                            .flatRate = Money::Whole(25),
+                            .scheduled = true,
+                            .interval = u"365"_s,
+                            .unit = kDays,
+                            .logBook = true,
+                            .componentTypes = {kMainCanopy}});
+  shop.tandemCheck = AddTask({.name = u"Tandem line check"_s,
+                              .flatRate = Money::Whole(40),
+                              .scheduled = true,
+                              .interval = u"180"_s,
+                              .unit = kDays,
+                              .logBook = true,
+                              .rigTypeSpecific = true,
+                              .rigTypes = {kTandemRig},
+                              .componentTypes = {kMainCanopy}});
+  shop.patch = AddTask({.name = u"Patch small hole in main"_s,
+                        .flatRate = Money::Whole(35),
+                        .allowMultiple = true,
+                        .logBook = true,
+                        .componentTypes = {kMainCanopy}});
+  AddTask({.name = u"Replace AAD battery"_s, .flatRate = Money::Whole(20), .logBook = true, .componentTypes = {kAad}});
+  shop.ride = SaveCustomEventToLib(u"Reserve ride"_s, {kContainer, kReserveCanopy}, false);
+  SaveCustomEventToLib(u"AAD activation"_s, {kReserveCanopy, kAad}, false);
+  SaveCustomEventToLib(u"Water landing"_s, {kContainer, kReserveCanopy}, true);
 }
 
 void AddSampleJobs(QList<SampleRig> rigs, const SampleShop& shop, Date start, Date today, std::mt19937& random) {

@@ -8,9 +8,14 @@ struct SampleShop {
   QList<int> riggers;
   QList<int> locations;
   int closingLoop = 0;  ///< the part that repacks use up
+  // Of the library.
+  int lineCheck = 0;
+  int tandemCheck = 0;
+  int patch = 0;
+  int ride = 0;  ///< the event of a reserve ride
 };
 
-/// Repack prices, and parts with theirs.
+/// Repack prices, parts with theirs, and the tasks and events of the library.
 void AddSampleLibrary(SampleShop& shop);
 
 /// The jobs from `start` to `today`, each on its day: repacks when they are due or when the owner remembers them, other
