@@ -6,7 +6,6 @@
 #include "core/data_folder.h"
 #include "core/default_rows.h"
 #include "core/screens/frmMain2.h"
-#include "core/screens/start_up.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"
 #include "gear/catalogue.h"
@@ -24,21 +23,9 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
-#include "support/throwaway_loft.h"
+#include "tour/sample_tour.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const Date kToday = Date::FromParts(2026, 3, 2);
-
-Form& Shown(const QString& form) { return dynamic_cast<Form&>(*Forms::Find(form)); }
-List& ListOf(Form& form, const QString& name) { return Control<List>(form, name); }
-Grid& GridOf(Form& form, const QString& name = u"Grid"_s) { return Control<Grid>(form, name); }
-
-void Select(List& list, int id) { QVERIFY2(list.SelectData(id), qPrintable(QString::number(id))); }
-
-}  // namespace
 
 /// Through the screens of people, gear and what falls due, in the sample loft: each opens by its own command or door,
 /// shows the rows of the database, and leaves its picture.
@@ -47,28 +34,13 @@ class TourOfGear : public QObject {
 
  private Q_SLOTS:
   void initTestCase() {
-    IsolateSettings();
-    home_ = std::make_unique<DataHome>();
-    QVERIFY(QFile::copy(QFINDTESTDATA("../support/models.txt"), home_->Folder() / u"work/models.txt"_s));
-    QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + u"/../src/blank.mdb"_s,
-                        home_->Folder() / u"work/blank.mdb"_s));
-    MakeSampleLoft(kToday);
-    SetClock(kToday);
-    prompts_ = std::make_unique<ScriptedPrompts>();
-    QVERIFY(SubMain());
-    QVERIFY(Forms::IsShown(u"frmMain2"_s));
-    owner_ = Id(u"SELECT ID FROM tblPeople WHERE LastName = 'Taylor'"_s);
-    rig_ = Id(u"SELECT ID FROM tblRig WHERE OwnerID = %1"_s.arg(owner_));
+    tour_ = std::make_unique<SampleTour>();
+    owner_ = SampleTour::Number(u"SELECT ID FROM tblPeople WHERE LastName = 'Taylor'"_s);
+    rig_ = SampleTour::Number(u"SELECT ID FROM tblRig WHERE OwnerID = %1"_s.arg(owner_));
     reserve_ = ComponentOfTypeInRig(rig_, kReserveCanopy);
     QVERIFY(owner_ != 0 && rig_ != 0 && reserve_ != 0);
   }
-  void cleanupTestCase() {
-    prompts_.reset();
-    UnloadScreens();
-    LeaveDataFolder();
-    home_.reset();
-    SetClock(std::nullopt);
-  }
+  void cleanupTestCase() { tour_.reset(); }
 
   void TheProgramComesUpWithTheSplash() {
     Picture(Shown(u"frmSplash"_s), u"30-splash-of-a-loft"_s);
@@ -78,7 +50,7 @@ class TourOfGear : public QObject {
   void People() {
     Click(Shown(u"frmMain2"_s), u"cmdPeople"_s);
     Form& form = Shown(u"frmPeople"_s);
-    QCOMPARE(ListOf(form, u"lstPeople"_s).Count(), Id(u"SELECT count(*) FROM tblPeople"_s));
+    QCOMPARE(ListOf(form, u"lstPeople"_s).Count(), SampleTour::Number(u"SELECT count(*) FROM tblPeople"_s));
     Select(ListOf(form, u"lstPeople"_s), owner_);
     QCOMPARE(TextOf(form, u"lblName"_s), u"Beth Taylor"_s);
     Picture(form, u"31-people"_s);
@@ -92,7 +64,7 @@ class TourOfGear : public QObject {
     QVERIFY(GridOf(form, u"Grid2"_s).RowCount() >= 1);
     Picture(form, u"32-rigs"_s);
     Control<QRadioButton>(form, u"optAll"_s).click();
-    QCOMPARE(ListOf(form, u"lstGear"_s).Count(), Id(u"SELECT count(*) FROM tblRig"_s));
+    QCOMPARE(ListOf(form, u"lstGear"_s).Count(), SampleTour::Number(u"SELECT count(*) FROM tblRig"_s));
     Picture(form, u"33-rigs-of-all"_s);
     form.UnloadForm();
   }
@@ -143,7 +115,7 @@ class TourOfGear : public QObject {
     });
     QVERIFY(!VerifyComponent(reserve_, u"Is this the component?"_s));
     screens.WhenShown(u"frmPickComponent"_s, [&](Form& form) {
-      QCOMPARE(GridOf(form).RowCount(), Id(u"SELECT count(*) FROM tblComponents WHERE TypeID = 3"_s));
+      QCOMPARE(GridOf(form).RowCount(), SampleTour::Number(u"SELECT count(*) FROM tblComponents WHERE TypeID = 3"_s));
       Picture(form, u"41-pick-component"_s);
       PressKey(form, Qt::Key_Escape);
     });
@@ -200,7 +172,7 @@ class TourOfGear : public QObject {
   void WhatFallsDue() {
     Click(Shown(u"frmMain2"_s), u"cmdSchedules"_s);
     Form& form = Shown(u"frmSchedule"_s);
-    const int due = Id(u"SELECT count(*) FROM tblSchedules"_s);
+    const int due = SampleTour::Number(u"SELECT count(*) FROM tblSchedules"_s);
     QVERIFY(GridOf(form).RowCount() > due);
     ClickCell(GridOf(form), 0, 3);
     Picture(form, u"50-schedule"_s);
@@ -224,29 +196,24 @@ class TourOfGear : public QObject {
   void TheJobList() {
     Click(Shown(u"frmMain2"_s), u"cmdJobs"_s);
     Form& form = Shown(u"frmJobList"_s);
-    QCOMPARE(ListOf(form, u"lstJobs"_s).Count(), Id(u"SELECT count(*) FROM tblJobs"_s));
+    QCOMPARE(ListOf(form, u"lstJobs"_s).Count(), SampleTour::Number(u"SELECT count(*) FROM tblJobs"_s));
     Control<QRadioButton>(form, u"optStatusActive"_s).click();
-    QCOMPARE(ListOf(form, u"lstJobs"_s).Count(), Id(u"SELECT count(*) FROM tblJobs WHERE JobStatus = 0"_s));
+    QCOMPARE(ListOf(form, u"lstJobs"_s).Count(),
+             SampleTour::Number(u"SELECT count(*) FROM tblJobs WHERE JobStatus = 0"_s));
     ListOf(form, u"lstJobs"_s).SetListIndex(1);
     Picture(form, u"54-job-list"_s);
     form.UnloadForm();
   }
 
   void AJobWithItsLines() {
-    GotoJob(Id(u"SELECT JobID FROM tblTasks WHERE PartID > 0 ORDER BY ID DESC"_s));
+    GotoJob(SampleTour::Number(u"SELECT JobID FROM tblTasks WHERE PartID > 0 ORDER BY ID DESC"_s));
     Form& form = Shown(u"frmJob"_s);
     Picture(form, u"51-job-with-parts"_s);
     form.UnloadForm();
   }
 
  private:
-  static int Id(const QString& sql) {
-    ReleaseDatabaseFile();
-    return RowsOfFile(DatabasePath(), sql).value(0).toInt();
-  }
-
-  std::unique_ptr<DataHome> home_;
-  std::unique_ptr<ScriptedPrompts> prompts_;
+  std::unique_ptr<SampleTour> tour_;
   int owner_ = 0;
   int rig_ = 0;
   int reserve_ = 0;
