@@ -35,7 +35,7 @@ class Jobs {
     const int job = Start(rig, u"%1 %2"_s.arg(RigName(rig.id), Format(day, u"m/d/yyyy"_s)), day);
     AddFromLibrary(job, RepackTaskLibID, day);
     if (Draw(4) == 0) AddPartLine(job, shop_.closingLoop);
-    if (rig.type == kTandemRig && Draw(3) == 0) AddFromLibrary(job, shop_.tandemCheck, day);
+    if (rig.type == kTandemRig) AddFromLibrary(job, shop_.tandemCheck, day);
     if (rig.type == kSportRig && Draw(5) == 0) AddFromLibrary(job, shop_.lineCheck, day);
     if ((rig.type == kTandemRig || rig.type == kSportRig) && Draw(9) == 0) AddFromLibrary(job, shop_.patch, day);
     if (Draw(20) == 0) AddCustom(job, {u"Reattach lost toggle keeper"_s, Money::Whole(15), true});
@@ -110,9 +110,6 @@ void AddSampleLibrary(SampleShop& shop) {
   AddPart(u"Slider grommet"_s, Money::FromText(u"12.75"_s), 0);
   shop.lineCheck = AddTask({.name = u"Main canopy line check"_s,
                             .flatRate = Money::Whole(25),
-                            .scheduled = true,
-                            .interval = u"365"_s,
-                            .unit = kDays,
                             .logBook = true,
                             .componentTypes = {kMainCanopy}});
   shop.tandemCheck = AddTask({.name = u"Tandem line check"_s,
