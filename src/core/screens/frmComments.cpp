@@ -3,8 +3,7 @@
 #include <QMenuBar>
 
 #include "core/prompts.h"
-
-#include "ui_frmComments.h"
+#include "core/screens/ui_frmComments.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #include "core/screens/frmInstall.h"
 
-#include "ui_frmInstall.h"
+#include "core/screens/ui_frmInstall.h"
 
 frmInstall::frmInstall() : ui_(std::make_unique<Ui::frmInstall>()) {
   ui_->setupUi(this);

@@ -8,9 +8,8 @@
 #include "core/connection.h"
 #include "core/format.h"
 #include "core/screens/home_commands.h"
+#include "core/screens/ui_frmMain2.h"
 #include "core/screens/window_habits.h"
-
-#include "ui_frmMain2.h"
 
 using namespace Qt::StringLiterals;
 

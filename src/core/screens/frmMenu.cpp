@@ -5,9 +5,8 @@
 
 #include "core/connection.h"
 #include "core/screens/home_commands.h"
+#include "core/screens/ui_frmMenu.h"
 #include "core/screens/window_habits.h"
-
-#include "ui_frmMenu.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,9 +4,8 @@
 #include <QScreen>
 
 #include "core/prompts.h"
+#include "core/screens/ui_frmMessage.h"
 #include "core/widgets/screen_routines.h"
-
-#include "ui_frmMessage.h"
 
 using namespace Qt::StringLiterals;
 

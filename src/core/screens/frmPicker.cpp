@@ -7,10 +7,9 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens/picker_rows.h"
+#include "core/screens/ui_frmPicker.h"
 #include "core/trap.h"
 #include "gear/models.h"
-
-#include "ui_frmPicker.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,10 +4,9 @@
 
 #include "core/connection.h"
 #include "core/screens.h"
+#include "core/screens/ui_frmSplash.h"
 #include "core/splash_info.h"
 #include "core/trap.h"
-
-#include "ui_frmSplash.h"
 
 using namespace Qt::StringLiterals;
 

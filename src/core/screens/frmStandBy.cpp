@@ -2,9 +2,8 @@
 
 #include <QApplication>
 
+#include "core/screens/ui_frmStandBy.h"
 #include "core/widgets/screen_routines.h"
-
-#include "ui_frmStandBy.h"
 
 frmStandBy::frmStandBy() : ui_(std::make_unique<Ui::frmStandBy>()) {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint);

@@ -2,8 +2,7 @@
 
 #include "core/prompts.h"
 #include "dbcare/new_database.h"
-
-#include "ui_frmGetBackup2.h"
+#include "dbcare/screens/ui_frmGetBackup2.h"
 
 using namespace Qt::StringLiterals;
 

@@ -20,10 +20,9 @@
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/schedule_grid.h"
+#include "gear/screens/ui_frmComponent.h"
 #include "history/screens.h"
 #include "schedule/scheduled_task.h"
-
-#include "ui_frmComponent.h"
 
 using namespace Qt::StringLiterals;
 

@@ -9,8 +9,7 @@
 #include "gear/people.h"
 #include "gear/rigs.h"
 #include "gear/screens/serial_check.h"
-
-#include "ui_frmComponentEdit.h"
+#include "gear/screens/ui_frmComponentEdit.h"
 
 using namespace Qt::StringLiterals;
 

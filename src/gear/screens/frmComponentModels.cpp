@@ -12,10 +12,9 @@
 #include "gear/component_types.h"
 #include "gear/models.h"
 #include "gear/models_file.h"
+#include "gear/screens/ui_frmComponentModels.h"
 #include "gear/service_lives.h"
 #include "jobs/screens.h"
-
-#include "ui_frmComponentModels.h"
 
 using namespace Qt::StringLiterals;
 

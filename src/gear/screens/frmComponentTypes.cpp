@@ -1,8 +1,7 @@
 #include "gear/screens/frmComponentTypes.h"
 
 #include "gear/component_types.h"
-
-#include "ui_frmComponentTypes.h"
+#include "gear/screens/ui_frmComponentTypes.h"
 
 frmComponentTypes::frmComponentTypes() : ui_(std::make_unique<Ui::frmComponentTypes>()) {
   ui_->setupUi(this);

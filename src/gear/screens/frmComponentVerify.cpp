@@ -3,8 +3,7 @@
 #include "gear/component_types.h"
 #include "gear/components.h"
 #include "gear/screens/component_details.h"
-
-#include "ui_frmComponentVerify.h"
+#include "gear/screens/ui_frmComponentVerify.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,8 +4,7 @@
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "gear/screens/rig_grid.h"
-
-#include "ui_frmCurrentComponents.h"
+#include "gear/screens/ui_frmCurrentComponents.h"
 
 frmCurrentComponents::frmCurrentComponents() : ui_(std::make_unique<Ui::frmCurrentComponents>()) {
   ui_->setupUi(this);

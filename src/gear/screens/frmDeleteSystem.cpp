@@ -6,8 +6,7 @@
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "gear/screens/rig_grid.h"
-
-#include "ui_frmDeleteSystem.h"
+#include "gear/screens/ui_frmDeleteSystem.h"
 
 using namespace Qt::StringLiterals;
 

@@ -17,13 +17,12 @@
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/schedule_grid.h"
+#include "gear/screens/ui_frmGetRig.h"
 #include "history/screens.h"
 #include "jobs/screens.h"
 #include "schedule/rig_audit.h"
 #include "schedule/scheduled_task.h"
 #include "schedule/screens.h"
-
-#include "ui_frmGetRig.h"
 
 using namespace Qt::StringLiterals;
 

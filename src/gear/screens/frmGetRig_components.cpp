@@ -8,10 +8,9 @@
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/frmGetRig.h"
+#include "gear/screens/ui_frmGetRig.h"
 #include "schedule/completions.h"
 #include "schedule/schedule.h"
-
-#include "ui_frmGetRig.h"
 
 using namespace Qt::StringLiterals;
 

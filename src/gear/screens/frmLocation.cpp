@@ -6,8 +6,7 @@
 #include "core/access.h"
 #include "core/prompts.h"
 #include "gear/locations.h"
-
-#include "ui_frmLocation.h"
+#include "gear/screens/ui_frmLocation.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,8 +8,7 @@
 #include "gear/models.h"
 #include "gear/screens.h"
 #include "gear/screens/serial_check.h"
-
-#include "ui_frmModel.h"
+#include "gear/screens/ui_frmModel.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,7 @@
 #include "core/widgets/screen_routines.h"
 #include "gear/component_rules.h"
 #include "gear/component_types.h"
-
-#include "ui_frmNewOrOld.h"
+#include "gear/screens/ui_frmNewOrOld.h"
 
 using namespace Qt::StringLiterals;
 

@@ -16,10 +16,9 @@
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/frmPeopleEdit.h"
+#include "gear/screens/ui_frmPeople.h"
 #include "jobs/screens.h"
 #include "schedule/screens.h"
-
-#include "ui_frmPeople.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,7 @@
 #include "gear/screens/frmPeopleEdit.h"
 
 #include "core/widgets/screen_routines.h"
-
-#include "ui_frmPeopleEdit.h"
+#include "gear/screens/ui_frmPeopleEdit.h"
 
 using namespace Qt::StringLiterals;
 

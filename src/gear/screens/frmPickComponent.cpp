@@ -12,8 +12,7 @@
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rig_rules.h"
-
-#include "ui_frmPickComponent.h"
+#include "gear/screens/ui_frmPickComponent.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
-
-#include "ui_frmPickRig.h"
+#include "gear/screens/ui_frmPickRig.h"
 
 using namespace Qt::StringLiterals;
 

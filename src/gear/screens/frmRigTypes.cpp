@@ -6,8 +6,7 @@
 #include "gear/rig_type_rules.h"
 #include "gear/rig_types.h"
 #include "gear/screens.h"
-
-#include "ui_frmRigTypes.h"
+#include "gear/screens/ui_frmRigTypes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,7 @@
 #include "core/lists.h"
 #include "core/prompts.h"
 #include "gear/component_types.h"
-
-#include "ui_frmSelectModel.h"
+#include "gear/screens/ui_frmSelectModel.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,8 +7,7 @@
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/component_details.h"
-
-#include "ui_frmSerialNumber.h"
+#include "gear/screens/ui_frmSerialNumber.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,8 +7,7 @@
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "gear/screens/rig_grid.h"
-
-#include "ui_rig_browser.h"
+#include "gear/screens/ui_rig_browser.h"
 
 using namespace Qt::StringLiterals;
 

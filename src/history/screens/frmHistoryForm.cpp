@@ -12,9 +12,8 @@
 #include "gear/screens.h"
 #include "history/history_texts.h"
 #include "history/screens.h"
+#include "history/screens/ui_frmHistoryForm.h"
 #include "jobs/line_edits.h"
-
-#include "ui_frmHistoryForm.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,11 +8,10 @@
 #include "gear/screens.h"
 #include "history/history_texts.h"
 #include "history/screens/frmHistoryForm.h"
+#include "history/screens/ui_frmHistoryForm.h"
 #include "jobs/line_edits.h"
 #include "jobs/lines.h"
 #include "jobs/screens.h"
-
-#include "ui_frmHistoryForm.h"
 
 using namespace Qt::StringLiterals;
 

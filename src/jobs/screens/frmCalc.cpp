@@ -6,8 +6,7 @@
 #include "core/value.h"
 #include "jobs/repack_calculator.h"
 #include "jobs/screens.h"
-
-#include "ui_frmCalc.h"
+#include "jobs/screens/ui_frmCalc.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,8 +5,7 @@
 #include "core/widgets/screen_routines.h"
 #include "jobs/library_entry.h"
 #include "jobs/screens.h"
-
-#include "ui_frmEventLib.h"
+#include "jobs/screens/ui_frmEventLib.h"
 
 using namespace Qt::StringLiterals;
 

@@ -13,8 +13,7 @@
 #include "jobs/job_records.h"
 #include "jobs/screens.h"
 #include "jobs/screens/job_gear_commands.h"
-
-#include "ui_frmJob.h"
+#include "jobs/screens/ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
 

@@ -18,9 +18,8 @@
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
 #include "jobs/screens/gear_grid.h"
+#include "jobs/screens/ui_frmJobList.h"
 #include "schedule/task_library.h"
-
-#include "ui_frmJobList.h"
 
 using namespace Qt::StringLiterals;
 

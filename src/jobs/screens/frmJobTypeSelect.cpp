@@ -1,6 +1,6 @@
 #include "jobs/screens/frmJobTypeSelect.h"
 
-#include "ui_frmJobTypeSelect.h"
+#include "jobs/screens/ui_frmJobTypeSelect.h"
 
 using namespace Qt::StringLiterals;
 

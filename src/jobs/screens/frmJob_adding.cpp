@@ -10,8 +10,7 @@
 #include "jobs/screens/frmMiscTask.h"
 #include "jobs/screens/frmTaskType.h"
 #include "jobs/screens/job_gear_commands.h"
-
-#include "ui_frmJob.h"
+#include "jobs/screens/ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,8 +5,7 @@
 #include "jobs/screens/frmJob.h"
 #include "jobs/screens/gear_grid.h"
 #include "jobs/screens/job_gear_commands.h"
-
-#include "ui_frmJob.h"
+#include "jobs/screens/ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
 

@@ -10,8 +10,7 @@
 #include "gear/screens.h"
 #include "jobs/job_records.h"
 #include "jobs/screens/frmJob.h"
-
-#include "ui_frmJob.h"
+#include "jobs/screens/ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
 

@@ -12,8 +12,7 @@
 #include "jobs/parts.h"
 #include "jobs/screens.h"
 #include "jobs/screens/frmJob.h"
-
-#include "ui_frmJob.h"
+#include "jobs/screens/ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
 

@@ -15,10 +15,9 @@
 #include "jobs/screens.h"
 #include "jobs/screens/frmJob.h"
 #include "jobs/screens/job_gear_commands.h"
+#include "jobs/screens/ui_frmJob.h"
 #include "reports/screens.h"
 #include "schedule/screens.h"
-
-#include "ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
 

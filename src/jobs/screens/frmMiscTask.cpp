@@ -2,8 +2,7 @@
 
 #include "core/lists.h"
 #include "core/prompts.h"
-
-#include "ui_frmMiscTask.h"
+#include "jobs/screens/ui_frmMiscTask.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,7 @@
 
 #include "core/lists.h"
 #include "jobs/screens.h"
-
-#include "ui_frmMultiTask.h"
+#include "jobs/screens/ui_frmMultiTask.h"
 
 using namespace Qt::StringLiterals;
 

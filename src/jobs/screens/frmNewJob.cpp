@@ -6,8 +6,7 @@
 #include "core/widgets/screen_routines.h"
 #include "gear/people.h"
 #include "jobs/job_records.h"
-
-#include "ui_frmNewJob.h"
+#include "jobs/screens/ui_frmNewJob.h"
 
 using namespace Qt::StringLiterals;
 

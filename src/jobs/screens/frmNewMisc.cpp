@@ -2,8 +2,7 @@
 
 #include "core/format.h"
 #include "core/widgets/screen_routines.h"
-
-#include "ui_frmNewMisc.h"
+#include "jobs/screens/ui_frmNewMisc.h"
 
 using namespace Qt::StringLiterals;
 

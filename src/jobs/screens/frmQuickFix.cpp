@@ -9,9 +9,8 @@
 #include "gear/rigs.h"
 #include "jobs/quick_fix.h"
 #include "jobs/screens.h"
+#include "jobs/screens/ui_frmQuickFix.h"
 #include "schedule/task_library.h"
-
-#include "ui_frmQuickFix.h"
 
 using namespace Qt::StringLiterals;
 

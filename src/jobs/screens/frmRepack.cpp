@@ -10,9 +10,8 @@
 #include "gear/screens.h"
 #include "jobs/repack_price.h"
 #include "jobs/screens.h"
+#include "jobs/screens/ui_frmRepack.h"
 #include "schedule/task_library.h"
-
-#include "ui_frmRepack.h"
 
 using namespace Qt::StringLiterals;
 

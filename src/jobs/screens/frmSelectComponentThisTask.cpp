@@ -4,8 +4,7 @@
 #include "core/prompts.h"
 #include "gear/components.h"
 #include "jobs/screens.h"
-
-#include "ui_frmSelectComponentThisTask.h"
+#include "jobs/screens/ui_frmSelectComponentThisTask.h"
 
 using namespace Qt::StringLiterals;
 

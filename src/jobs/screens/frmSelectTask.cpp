@@ -9,8 +9,7 @@
 #include "gear/models.h"
 #include "jobs/library_delete.h"
 #include "jobs/library_entry.h"
-
-#include "ui_frmSelectTask.h"
+#include "jobs/screens/ui_frmSelectTask.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,8 +5,7 @@
 #include "core/widgets/screen_routines.h"
 #include "jobs/lines.h"
 #include "jobs/screens.h"
-
-#include "ui_frmTaskEdit.h"
+#include "jobs/screens/ui_frmTaskEdit.h"
 
 using namespace Qt::StringLiterals;
 

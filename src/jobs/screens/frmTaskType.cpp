@@ -12,8 +12,7 @@
 #include "jobs/library_delete.h"
 #include "jobs/library_parts.h"
 #include "jobs/screens/frmMiscTask.h"
-
-#include "ui_frmTaskType.h"
+#include "jobs/screens/ui_frmTaskType.h"
 
 using namespace Qt::StringLiterals;
 

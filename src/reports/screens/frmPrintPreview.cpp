@@ -10,8 +10,7 @@
 #include "reports/fonts.h"
 #include "reports/screens/page_picture.h"
 #include "reports/screens/print_pages.h"
-
-#include "ui_frmPrintPreview.h"
+#include "reports/screens/ui_frmPrintPreview.h"
 
 using namespace Qt::StringLiterals;
 

@@ -15,8 +15,7 @@
 #include "history/screens.h"
 #include "jobs/schedule_jobs.h"
 #include "jobs/screens.h"
-
-#include "ui_frmSchedule.h"
+#include "schedule/screens/ui_frmSchedule.h"
 
 using namespace Qt::StringLiterals;
 
