@@ -35,7 +35,7 @@ class LongHistory {
     Bracket bracket;
     const Date first = Date::FromParts(1990, 1, 1);
     for (qsizetype lines = LinesOfRig().size(); lines < kLines; lines += 2)  // a container and a reserve each
-      added_ << WriteJoblessTask(RepackTaskLibID, kRigViewed, 0, first + static_cast<double>(lines));
+      added_ << WriteJoblessWork(RepackTaskLibID, kRigViewed, 0, first + static_cast<double>(lines));
     bracket.Close();
   }
   ~LongHistory() {

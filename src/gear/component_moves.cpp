@@ -2,6 +2,7 @@
 #include "core/default_rows.h"
 #include "core/trap.h"
 #include "gear/components.h"
+#include "gear/jobless_task.h"
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
@@ -9,32 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-int WriteRemoval(int component, int rig, Date date, int location) {
-  Recordset tasks(u"tblTasks"_s);
-  tasks.AddNew();
-  tasks.Set(u"JobID", 0);
-  tasks.Set(u"CustomerID", RigOwner(rig));
-  tasks.Set(u"RiggerID", 0);
-  tasks.Set(u"FlatRate", Money());
-  tasks.Set(u"HourlyRate", Money());
-  tasks.Set(u"NumHours", 0);
-  tasks.Set(u"Tax", Money());
-  tasks.Set(u"comments", u" ");
-  tasks.Set(u"DateTaskCompleted", date);
-  tasks.Set(u"DateTaskStarted", date);
-  tasks.Set(u"TaskLibID", RemoveTaskLibID);
-  tasks.Set(u"LogBook", false);
-  tasks.Set(u"status", -1);
-  tasks.Set(u"TaskName", u"Remove "_s + ComponentTypeName(ComponentTypeOf(component)) + u' ' +
-                             ComponentDescription(component) + u" from "_s + RigName(rig));
-  tasks.Set(u"systemID", rig);
-  tasks.Set(u"PartID", 0);
-  tasks.Set(u"IsEvent", false);
-  tasks.Set(u"LocationID", location);
-  tasks.Update();
-  return tasks[u"ID"].ToInt();
-}
 
 /// An owner whose row has gone counts as none.
 int LivingOwner(int owner) { return owner > 0 && PersonExists(owner) ? owner : 0; }
@@ -44,15 +19,13 @@ int LivingOwner(int owner) { return owner > 0 && PersonExists(owner) ? owner : 0
 void AddRemovalTask(int component, int rig, Date date, int location) {
   Trap(u"Sub AddRemovalTask"_s, [&] {
     Bracket bracket;
-    const int task = WriteRemoval(component, rig, date, location);
-    {
-      Recordset touched(u"tblTaskComponents"_s);
-      touched.AddNew();
-      touched.Set(u"TaskID", task);
-      touched.Set(u"CompID", component);
-      touched.Set(u"Complete", true);
-      touched.Update();
-    }
+    WriteJoblessTask({.taskLibID = RemoveTaskLibID,
+                      .name = u"Remove %1 %2 from %3"_s.arg(ComponentTypeName(ComponentTypeOf(component)),
+                                                            ComponentDescription(component), RigName(rig)),
+                      .rigID = rig,
+                      .date = date,
+                      .locationID = location,
+                      .components = {component}});
     bracket.Close();
   });
 }

@@ -103,7 +103,7 @@ bool AddHistoryEntry(const HistoryView& view, int taskLibID, const QString& date
   return Trap(u"Sub AddTaskOrEvent"_s, [&] {
     Bracket bracket;
     const int component = view.mode == HistoryMode::Rig ? 0 : view.componentID;
-    const int taskID = WriteJoblessTask(taskLibID, view.rigID, component, date);
+    const int taskID = WriteJoblessWork(taskLibID, view.rigID, component, date);
     Reschedule(taskLibID, view.rigID, GetThisComponentID(taskID));
     bracket.Close();
   });

@@ -7,6 +7,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/trap.h"
+#include "gear/jobless_task.h"
 #include "gear/rig_rules.h"
 #include "gear/rigs.h"
 #include "schedule/completions.h"
@@ -27,41 +28,6 @@ Date AskDatePerformed(Date proposal) {
     if (typed.isEmpty()) return {};
     if (IsValidDate(typed)) return DateFromText(typed);
     MsgBox(typed + u" is not a valid date"_s, u"Oops!"_s);
-  }
-}
-
-int WriteLine(int taskLibID, int rigID, Date date) {
-  Recordset tasks(u"tblTasks"_s);
-  tasks.AddNew();
-  tasks.Set(u"JobID", 0);
-  tasks.Set(u"CustomerID", RigOwner(rigID));
-  tasks.Set(u"RiggerID", 0);
-  tasks.Set(u"FlatRate", Money());
-  tasks.Set(u"HourlyRate", Money());
-  tasks.Set(u"NumHours", 0);
-  tasks.Set(u"comments", u" ");
-  tasks.Set(u"DateTaskCompleted", date);
-  tasks.Set(u"DateTaskStarted", date);
-  tasks.Set(u"TaskLibID", taskLibID);
-  tasks.Set(u"LogBook", false);
-  tasks.Set(u"status", -1);
-  tasks.Set(u"TaskName", TaskLibName(taskLibID));
-  tasks.Set(u"systemID", rigID);
-  tasks.Set(u"PartID", 0);
-  tasks.Set(u"Tax", Money());
-  tasks.Set(u"LocationID", 0);
-  tasks.Update();
-  return tasks[u"ID"].ToInt();
-}
-
-void WriteTouched(int taskID, const QList<int>& components) {
-  Recordset touched(u"tblTaskComponents"_s);
-  for (int component : components) {
-    touched.AddNew();
-    touched.Set(u"TaskID", taskID);
-    touched.Set(u"CompID", component);
-    touched.Set(u"Complete", true);
-    touched.Update();
   }
 }
 
@@ -97,10 +63,12 @@ Answer AskUseRepack(Date repack) {
 
 }  // namespace
 
-int WriteJoblessTask(int taskLibID, int rigID, int componentID, Date date) {
-  const int taskID = WriteLine(taskLibID, rigID, date);
-  WriteTouched(taskID, TouchedComponents(taskLibID, rigID, componentID));
-  return taskID;
+int WriteJoblessWork(int taskLibID, int rigID, int componentID, Date date) {
+  return WriteJoblessTask({.taskLibID = taskLibID,
+                           .name = TaskLibName(taskLibID),
+                           .rigID = rigID,
+                           .date = date,
+                           .components = TouchedComponents(taskLibID, rigID, componentID)});
 }
 
 bool CreateJoblessTask(int taskLibID, int rigID, int componentID, Date date, Date minimum) {
@@ -118,7 +86,7 @@ bool CreateJoblessTask(int taskLibID, int rigID, int componentID, Date date, Dat
   bool written = false;
   Trap(u"Sub CreateJoblessTask"_s, [&] {
     Bracket bracket;
-    const int taskID = WriteJoblessTask(taskLibID, rigID, componentID, performed);
+    const int taskID = WriteJoblessWork(taskLibID, rigID, componentID, performed);
     ReplaceSchedule(rigID, taskLibID, performed, taskID, componentID);
     bracket.Close();
     written = true;

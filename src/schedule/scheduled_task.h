@@ -10,7 +10,7 @@ bool CreateJoblessTask(int taskLibID, int rigID, int componentID, Date date, Dat
 
 /// Writes work of a library entry as a completed line without a job: on `componentID` or (0) on the components of the
 /// rig that the entry requires. The line's id. The schedule is left to the caller; throws Failure.
-int WriteJoblessTask(int taskLibID, int rigID, int componentID, Date date);
+int WriteJoblessWork(int taskLibID, int rigID, int componentID, Date date);
 
 /// Updates the row of an entry in the list of what a rig or a component owes: a row of service life is explained, a
 /// repack that is on record but not on the schedule is offered, anything else is performed without a job after the date
