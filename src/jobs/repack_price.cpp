@@ -6,6 +6,8 @@
 #include "core/prompts.h"
 #include "core/trap.h"
 #include "gear/components.h"
+#include "gear/models.h"
+#include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "schedule/task_library.h"
 
@@ -33,6 +35,16 @@ void SavePrice(const QString& table, const QString& key, int id, Money price) {
     }
     bracket.Close();
   });
+}
+
+QString PriceText(Money price) { return Format(price, u"##0.00"_s); }
+
+void AddPrices(IdList& list, const QString& table, QStringView key, QString (*nameOf)(int id)) {
+  for (const Recordset& row : Rows(table)) {
+    const int id = row[key].ToInt();
+    const Money price = row[u"Price"].ToMoney();
+    if (!price.IsZero()) list.Add(nameOf(id) + u"  "_s + PriceText(price), id);
+  }
 }
 
 bool HasOtherPrice(const QString& table, Money usual) {
@@ -75,8 +87,20 @@ QString RepackPriceLabel() {
     Bracket bracket;
     const Money usual = TaskLibFlatRate(RepackTaskLibID);
     const bool varies = HasOtherPrice(u"tblRepackByModel"_s, usual) || HasOtherPrice(u"tblRepackByType"_s, usual);
-    label = varies ? u"(cost varies)"_s : Format(usual, u"##0.00"_s);
+    label = varies ? u"(cost varies)"_s : PriceText(usual);
     bracket.Close();
   });
   return label;
+}
+
+IdList LoadRepackPriceList() {
+  IdList list;
+  Trap(u"Sub LoadRepackPriceList"_s, [&] {
+    Bracket bracket;
+    list.Add(TaskLibName(RepackTaskLibID) + u"  "_s + RepackPriceLabel(), RepackTaskLibID);
+    AddPrices(list, u"tblRepackByModel"_s, u"ModelID", ModelName);
+    AddPrices(list, u"tblRepackByType"_s, u"TypeID", RigTypeName);
+    bracket.Close();
+  });
+  return list;
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include <QString>
 
+#include "core/lists.h"
 #include "core/money.h"
 
 /// The reserve repack is the one task whose price depends on the rig: on the model of its container, else on the type
@@ -19,6 +20,11 @@ void SaveByType(int typeID, Money price);
 /// What the picker shows as the price of a repack: the default price, or "(cost varies)" when a price by model or by
 /// rig type differs from it.
 QString RepackPriceLabel();
+
+/// The prices of the reserve repack for list boxes, "Javelin  95.00": first the library's own entry with its label,
+/// then the container models and the rig types that have a price of their own. Each row carries the id of the entry,
+/// of the model or of the rig type.
+IdList LoadRepackPriceList();
 
 /// Days between reserve repacks.
 int RepackCycle();

@@ -1,5 +1,8 @@
 #include <QtTest>
 
+#include "core/connection.h"
+#include "core/database.h"
+#include "gear/models.h"
 #include "jobs/repack_price.h"
 #include "jobs/sample_job.h"
 #include "schedule/schedule.h"
@@ -100,6 +103,38 @@ class TestRepackPrice : public QObject {
     SaveByType(2, Money());
     SaveByModel(5, Money::Whole(79));
     QCOMPARE(RepackPriceLabel(), u"(cost varies)"_s);
+  }
+
+  void ThePriceListNamesEachPriceOfItsOwn() {
+    SampleRig shop;
+    ScriptedPrompts prompts;
+    shop.loft.Run(u"update tblTaskLib set FlatRate = 80 where ID = 1"_s);
+    QCOMPARE(LoadRepackPriceList().texts, QStringList(u"Inspect and repack reserve  80.00"_s));
+    const int container = ModelOf(shop, shop.container);
+    SaveByType(1, Money::Whole(80));
+    QCOMPARE(LoadRepackPriceList().texts, QStringList({u"Inspect and repack reserve  80.00"_s, u"Sport Rig  80.00"_s}));
+    SaveByModel(container, Money::FromUnits(955000));
+    SaveByType(2, Money());
+    SaveByType(3, Money::Whole(1234));
+    const IdList prices = LoadRepackPriceList();
+    QCOMPARE(prices.texts,
+             QStringList({u"Inspect and repack reserve  (cost varies)"_s, ModelName(container) + u"  95.50"_s,
+                          u"Sport Rig  80.00"_s, u"Pilot Emergency Rig (back)  1234.00"_s}));
+    QCOMPARE(prices.ids, QList<int>({RepackTaskLibID, container, 1, 3}));
+    QVERIFY(!ConnectionIsOpen);
+  }
+
+  void APriceListThatCantBeReadNamesItsLoader() {
+    SampleRig shop;
+    {
+      Bracket bracket;
+      OpenDatabase().ChangeSchema("DROP TABLE tblRepackByType");
+    }
+    ScriptedPrompts prompts;
+    prompts.AnswerRestWith([](const ShownPrompt&) { return Answer::Ok; });
+    LoadRepackPriceList();
+    QCOMPARE(prompts.Transcript().last().title, u"Sub LoadRepackPriceList"_s);
+    QVERIFY(!ConnectionIsOpen);
   }
 
   void TheCycleRollsTheNextCompletionOnly() {

@@ -39,6 +39,8 @@ void ShowDatabaseName() { MsgBox(DatabasePath(), u"Your database file is:"_s); }
 
 void ShowHome() { SharedForm<frmMain2>().Show(); }
 
+void ShowAbout() { ShowSplash(FormIfLoaded<frmMain2>()); }
+
 void ShowFloatingMenu() { SharedForm<frmMenu>().Show(); }
 
 void LeaveProgram() { ExitProgram(nullptr); }
@@ -181,7 +183,7 @@ std::vector<MenuLine> MainMenu() {
       {database, u"Create a new database"_s, kLater},
       {database, u"Display current database file name"_s, ShowDatabaseName},
       {help, u"Help"_s, kLater},
-      {help, u"About"_s, ShowSplash},
+      {help, u"About"_s, ShowAbout},
       {{}, u"Exit"_s, LeaveProgram},
   };
 }

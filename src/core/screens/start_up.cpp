@@ -236,10 +236,10 @@ void CheckDatabaseOnStart() {
   });
 }
 
-void ShowSplash() {
+void ShowSplash(const QWidget* over) {
   auto& splash = SharedForm<frmSplash>();
   splash.Show();
-  CentreForm(&splash);
+  CentreForm(&splash, over);
   splash.raise();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 #include "core/screens.h"  // SubMain, the entry
 
+class QWidget;
+
 /// The road from the process's entry to the home screens, for a loft with a good database, for a new one, and for one
 /// whose files have suffered.
 
@@ -19,5 +21,5 @@ void CheckDatabaseOnStart();
 
 /// Shows the floating menu, the home page and the splash screen.
 void ShowHomeScreens();
-/// The splash screen by itself, over the home page.
-void ShowSplash();
+/// The splash screen by itself, over another screen or in the middle of the desk.
+void ShowSplash(const QWidget* over = nullptr);

@@ -30,6 +30,7 @@ frmPickComponent::frmPickComponent() : ui_(std::make_unique<Ui::frmPickComponent
                          {.heading = u"RigID"_s, .width = 0}});
   ui_->grid->SetSelectsRows(true);
   ui_->grid->SetStretchColumn(0);
+  ui_->grid->SetMemory(u"pick-component"_s);
   ui_->lstTypes->Fill(LoadMajorComponentTypes());
   ui_->optAnyOwner->setChecked(true);
   ui_->optBoth->setChecked(true);

@@ -25,6 +25,7 @@ void RigGrid::SetUp(Grid& grid) {
                    {.heading = u"Component id"_s, .width = 0}});
   grid.SetStretchColumn(2);
   grid.SetMarksCell(true);
+  grid.SetMemory(u"rig-components"_s);
   grid.FitHeight(kMostRows);
 }
 

@@ -24,6 +24,7 @@ void ScheduleGrid::SetUp(Grid& grid) {
                    {.heading = u"Task id"_s, .width = 0}});
   grid.SetStretchColumn(0);
   grid.SetMarksCell(true);
+  grid.SetMemory(u"scheduled-tasks"_s);
 }
 
 void ScheduleGrid::Fill(Grid& grid, const QList<RigAuditRow>& audit) {

@@ -77,6 +77,8 @@ void frmHistoryForm::SetUpGrid() {
   ui_->grid->SetColumns(Columns());
   ui_->grid->SetMarksCell(true);
   ui_->grid->SetStretchColumn(1);
+  ui_->grid->SetMemory(u"history"_s);
+  ui_->grid->ForgetSort();  // lines stand as they were found until a heading is clicked
   connect(ui_->grid, &Grid::CellChange, this, &frmHistoryForm::ShowSelected);
   connect(ui_->grid, &Grid::CellDoubleClick, this, &frmHistoryForm::ShowLineComponent);
   connect(ui_->grid, &Grid::CellEnter, this, &frmHistoryForm::ShowLineComponent);

@@ -44,6 +44,7 @@ void frmJob::SetUpLines() {
   grid.SetSortable(false);
   grid.SetFixedBottomRows(kRowsBelow);
   grid.SetStretchColumn(kTask);
+  grid.SetMemory(u"job-lines"_s);
   ui_->lblTaskComments->clear();
   connect(&grid, &Grid::CellChange, this, [this] { CheckTaskComments(); });
   connect(&grid, &Grid::CellClick, this, &frmJob::EditCell);

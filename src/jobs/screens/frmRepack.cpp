@@ -74,6 +74,7 @@ void frmRepack::SetUpGrid(Grid& grid, const QString& heading) {
                    {.heading = u"Price"_s, .width = FromTwips(1000), .alignment = Qt::AlignRight}});
   grid.SetSortable(false);
   grid.SetStretchColumn(1);
+  grid.SetMemory(u"repack-prices-"_s + grid.objectName());
   connect(&grid, &Grid::CellChange, this, [&grid](int row) {
     if (row >= 0) grid.EditInCell(row, kPrice);
   });

@@ -19,6 +19,7 @@ void SetUpGearGrid(Grid& grid) {
   grid.SetSortable(false);
   grid.SetSelectsRows(true);
   grid.SetStretchColumn(kGearDescription);
+  grid.SetMemory(u"job-gear"_s);
 }
 
 void FillGearGrid(Grid& grid, int jobID, int rigID) {

@@ -1,42 +1,17 @@
-#include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 
-#include "core/widgets/grid.h"
-#include "core/widgets/screen_routines.h"
+#include "core/screens/rig_rows.h"
 #include "core/widgets/theme.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
-#include "support/scripted_prompts.h"
-#include "support/temp_folder.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-std::vector<GridColumn> RigColumns() {
-  return {{.heading = u"ID"_s, .width = 0},
-          {.heading = u"Rig"_s, .width = FromTwips(1500)},
-          {.heading = u"Price"_s, .width = FromTwips(1200), .alignment = Qt::AlignRight, .sort = GridSort::Number},
-          {.heading = u"Date"_s, .width = FromTwips(1200), .alignment = Qt::AlignHCenter, .sort = GridSort::Date}};
-}
-
-void FillRigs(Grid& grid) {
-  std::vector<GridRow> rows;
-  rows.push_back({{u"1"_s, u"beta"_s, u"100.00"_s, u"01/02/2025"_s}, 11});
-  rows.push_back({{u"2"_s, u"Alpha"_s, u"9.50"_s, u"12/31/1999"_s}, 12});
-  rows.push_back({{u"3"_s, u"alpine"_s, u"20.00"_s, u"06/01/2024"_s}, 13});
-  grid.Fill(std::move(rows));
-}
-
-QStringList Column(const Grid& grid, int column) {
-  QStringList texts;
-  for (int row = 0; row < grid.RowCount(); ++row) texts += grid.Text(row, column);
-  return texts;
-}
 
 QColor PaintedColour(Grid& grid, int row, int column) {
   const QRect place = grid.visualRect(grid.model()->index(row, column));
@@ -364,74 +339,6 @@ class TestGrid : public QObject {
     Picture(grid, dark ? u"grid_dark"_s : u"grid"_s);
     QCOMPARE(ReadableOn(QColor(255, 255, 0)), QColor(Qt::black));
     QCOMPARE(ReadableOn(QColor(255, 0, 0)), QColor(Qt::white));
-  }
-
-  void CopyTakesTheCellOrTheShownColumnsOfTheRow() {
-    Grid grid;
-    grid.SetColumns(RigColumns());
-    FillRigs(grid);
-    grid.SelectCell(1, 2);
-    PressKey(grid, Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QGuiApplication::clipboard()->text(), u"9.50"_s);
-    grid.SetSelectsRows(true);
-    grid.SelectRow(2);
-    PressKey(grid, Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QGuiApplication::clipboard()->text(), u"alpine\t20.00\t06/01/2024"_s);
-  }
-
-  void CsvIsQuotedAndWrittenForOtherPrograms() {
-    const TempFolder folder;
-    ScriptedPrompts prompts;
-    Grid grid;
-    grid.setAccessibleName(u"Rigs"_s);
-    grid.SetColumns({{.heading = u"ID"_s, .width = 0}, {.heading = u"Name"_s}, {.heading = u"Note"_s}});
-    grid.AddRow({u"1"_s, u"O'Neil, \"Ace\""_s, u"line\nline"_s});
-    grid.AddRow({u"2"_s, u"Zoë"_s, QString()});
-    prompts.ExpectSaveFile(u"Save as CSV"_s, folder / u"rigs.csv"_s).Proposing(u"Rigs.csv"_s);
-    grid.SaveAsCsv();
-    QCOMPARE(folder.Read(u"rigs.csv"_s),
-             QByteArray("\xEF\xBB\xBFName,Note\r\n\"O'Neil, \"\"Ace\"\"\",\"line\nline\"\r\nZo\xC3\xAB,\r\n"));
-
-    prompts.ExpectSaveFile(u"Save as CSV"_s, QString());
-    grid.SaveAsCsv();
-    QCOMPARE(folder.Names(), QStringList{u"rigs.csv"_s});
-  }
-
-  void ACsvThatCanNotBeWrittenShowsABox() {
-    const TempFolder folder;
-    ScriptedPrompts prompts;
-    Grid grid;
-    grid.SetColumns(RigColumns());
-    prompts.ExpectSaveFile(u"Save as CSV"_s, folder / u"missing/rigs.csv"_s);
-    prompts.AnswerRestWith([](const ShownPrompt&) { return Answer::Ok; });
-    grid.SaveAsCsv();
-    QCOMPARE(prompts.Transcript().size(), 2);
-    QCOMPARE(prompts.Transcript().last().title, u"Sub SaveAsCsv"_s);
-    QCOMPARE(prompts.Transcript().last().text, u"No such file or directory"_s);
-  }
-
-  void WidthsOrderAndSortAreRemembered() {
-    {
-      Grid grid;
-      grid.SetColumns(RigColumns());
-      grid.SetMemory(u"rigs"_s);
-      FillRigs(grid);
-      grid.resize(500, 200);
-      grid.show();
-      grid.setColumnWidth(1, 177);
-      grid.horizontalHeader()->moveSection(grid.horizontalHeader()->visualIndex(3),
-                                           grid.horizontalHeader()->visualIndex(1));
-      ClickHeading(grid, 2);
-      ClickHeading(grid, 2);
-    }
-    Grid grid;
-    grid.SetColumns(RigColumns());
-    grid.SetMemory(u"rigs"_s);
-    FillRigs(grid);
-    QCOMPARE(grid.columnWidth(1), 177);
-    QVERIFY(grid.horizontalHeader()->visualIndex(3) < grid.horizontalHeader()->visualIndex(1));
-    QCOMPARE(Column(grid, 2), QStringList({u"100.00"_s, u"20.00"_s, u"9.50"_s}));
-    QVERIFY(grid.isColumnHidden(0));
   }
 
   void HeadingsAreNamedForScreenReaders() {

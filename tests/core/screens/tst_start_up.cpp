@@ -1,3 +1,4 @@
+#include <QDateTime>
 #include <QLabel>
 #include <QLockFile>
 #include <QRadioButton>
@@ -45,6 +46,42 @@ constexpr QFile::Permissions kReadable = QFile::ReadOwner | QFile::WriteOwner | 
 
 QString NotFound() {
   return u"Your database file cannot be found\n\nYou can install a backup database or create a new one\n(Press OK to continue)"_s;
+}
+
+constexpr char kModels[] = "<mfg>\r\nPD\r\n4\r\n<end mfg>\r\nStorm\r\n4\r\n2\r\n0\r\n";
+
+/// What a new database says of itself where the empty one is missing beside the program.
+void ExpectNewDatabase(ScriptedPrompts& prompts) {
+  prompts.ExpectBox(u"sub CheckBlankmb"_s, u"file 'blank.mdb' not found"_s);
+  prompts.ExpectBox(u"Create new database"_s,
+                    u"Preparing to create new database.\n\nThis should take just a few seconds .........."_s);
+  prompts.ExpectBox(u"Creating new database file"_s,
+                    u"The file 'blank.mdb' could not be found.\n\nA database file will now be created."_s);
+  prompts.ExpectBox(u"Loftkeep"_s, u"New database file installed successfully"_s);
+  prompts.ExpectBox(u"Your Information"_s, u"Please enter your name\n\nPress OK to continue"_s);
+}
+
+/// The repack cycle and the end of the first run; then the start goes on with the check of the support files.
+void ExpectWelcome(ScriptedPrompts& prompts, const QString& days) {
+  prompts.ExpectInput(u"Enter repack cycle (in days)"_s, u"Reserve must be repacked every 180 days"_s, days);
+  prompts.ExpectBox(u"Repack Cycle Saved"_s, u"Repack cycle is now set to %1 days"_s.arg(days));
+  prompts.ExpectBox(u"Welcome!"_s,
+                    u"Setup is complete!  Welcome to Loftkeep!\n\nBe sure to check out the HELP menu.  There's a \n"
+                    "select called QUICK TOUR that will get you started.\n\nThank you for using Loftkeep!"_s);
+  prompts.ExpectBox(u"sub CheckBlankmb"_s, u"file 'blank.mdb' not found"_s);
+}
+
+/// The person enters a name, or leaves the editor.
+void EnterOwner(ScreenScript& screens, const QString& name) {
+  screens.WhenShown(u"frmPeople"_s, [name](Form& form) {
+    QTest::qWait(0);
+    if (!name.isEmpty()) Click(form, u"cmdExit"_s);
+    QVERIFY(!form.isVisible());
+  });
+  screens.WhenShown(u"frmPeopleEdit"_s, [name](Form& form) {
+    TypeInto(form, u"txtLast"_s, name);
+    Click(form, name.isEmpty() ? u"cmdCancel"_s : u"cmdSave"_s);
+  });
 }
 
 void ExpectNoHomePage() { QVERIFY(!Forms::IsShown(u"frmMain2"_s)); }
@@ -96,6 +133,70 @@ class StartUpTest : public QObject {
     QVERIFY(!SubMain());
     ExpectNoHomePage();
     QVERIFY(!FolderExists(DataPath));
+  }
+
+  void TheFirstRunInsistsOnAName() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    home_->Folder().Write(u"work/models.txt"_s, kModels);
+    QVERIFY(QFile::remove(home_->Folder() / u"work/blank.mdb"_s));
+    screens.WhenShown<frmInstall>([](frmInstall& form) {
+      form.findChild<QRadioButton*>(u"optNew"_s)->click();
+      Click(form, u"cmdOK"_s);
+    });
+    ExpectNewDatabase(prompts);
+    for (int attempt = 0; attempt < 2; ++attempt) {
+      EnterOwner(screens, QString());
+      prompts.ExpectBox(u"Loftkeep"_s, u"You must enter a user name"_s);
+    }
+    EnterOwner(screens, u"Rigger"_s);
+    ExpectWelcome(prompts, u"120"_s);
+    QVERIFY(SubMain());
+    QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"LastName"_s, u"'Rigger'"_s, u"ID"_s),
+             GetValueFromTableBySQL(u"tblMisc"_s, u"UserID"_s));
+    QCOMPARE(GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s), Value(120));
+    QCOMPARE(GetNumberRecordsInTable(u"tblPeople"_s), 1);
+    QCOMPARE(GetNumberRecordsInTable(u"tblModels"_s), 1);
+  }
+
+  void ANewDatabaseIsMadeWhereTheFolderHasNone() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    home_->Folder().Write(u"work/models.txt"_s, kModels);
+    QVERIFY(QFile::remove(DatabaseFile()));
+    QVERIFY(QFile::remove(home_->Folder() / u"work/blank.mdb"_s));
+    const QString photo = home_->Folder().Write(u"home/loftkeep/photos/c1.jpg"_s, "a photo");
+    prompts.ExpectBox(u"Database file not found"_s, NotFound());
+    screens.WhenShown(u"frmGetBackup2"_s, [](Form& form) { Click(form, u"cmdNew"_s); });
+    ExpectNewDatabase(prompts);
+    EnterOwner(screens, u"Rigger"_s);
+    ExpectWelcome(prompts, u"180"_s);
+    QVERIFY(SubMain());
+    QVERIFY(Forms::IsShown(u"frmMain2"_s));
+    QCOMPARE(GetNumberRecordsInTable(u"tblTaskLib"_s), 3);
+    QVERIFY(ExistFile(photo));
+  }
+
+  void ADatabaseThatGoesDuringTheStartEndsIt() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    home_->Folder().Write(u"home/loftkeep/support/helptext.txt"_s, "old");
+    QFile newer(home_->Folder().Write(u"work/helptext.txt"_s, "new"));
+    QVERIFY(newer.open(QIODevice::ReadWrite));
+    QVERIFY(newer.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
+    newer.close();
+    prompts.ExpectBox(u"Loftkeep"_s, u"Help files have been updated"_s).Meanwhile([] {
+      ReleaseDatabaseFile();
+      QVERIFY(QFile::remove(DatabaseFile()));
+    });
+    prompts.AnswerRestWith([](const ShownPrompt&) { return Answer::Ok; });
+    QVERIFY(!SubMain());
+    QCOMPARE(prompts.Transcript().last().title, u"file DOESN'T exists"_s);
+    QCOMPARE(prompts.Transcript().last().text, DatabaseFile());
+    ExpectNoHomePage();
+    QVERIFY(!ExistFile(DatabaseFile()));
   }
 
   void NoChoiceIsACancelledFirstRunToo() {
