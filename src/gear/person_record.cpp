@@ -34,6 +34,17 @@ void WriteFields(Recordset& row, const Person& person) {
   row.Set(u"rigger", person.rigger);
 }
 
+bool HasName(const Person& person) {
+  return !(person.lastName.trimmed() + person.firstName.trimmed() + person.organization.trimmed()).isEmpty();
+}
+
+/// The editor lets nobody through without a name; a row without one could not be found again.
+bool RefuseNameless(const Person& person) {
+  if (HasName(person)) return false;
+  MsgBox(u"You must enter a name"_s, u"Oops!"_s);
+  return true;
+}
+
 QString RowStatement(int id) { return u"Select * from tblPeople where id = "_s + QString::number(id); }
 
 }  // namespace
@@ -75,12 +86,14 @@ int InsertPerson(const Person& person) {
 }
 
 int SaveNewOwner(const Person& person, bool isProgramOwner) {
+  if (RefuseNameless(person)) return 0;
   const int id = InsertPerson(person);
   if (isProgramOwner && id != 0) UpdateTableBySQL(u"update tblMisc set UserID = "_s + QString::number(id));
   return id;
 }
 
 void UpdateOwner(int id, const Person& person) {
+  if (RefuseNameless(person)) return;
   Trap(u"Sub UpdateOwner"_s, [&] {
     Bracket bracket;
     {
@@ -110,7 +123,7 @@ void SetRiggerFlag(int id, bool rigger) {
 
 bool CheckPersonEntries(Person& person, bool isNew) {
   if (person.state.size() == 2) person.state = person.state.toUpper();
-  if ((person.lastName.trimmed() + person.firstName.trimmed() + person.organization.trimmed()).isEmpty()) {
+  if (!HasName(person)) {
     MsgBox(u"You must enter at least a first name, last name, or organization"_s, u"Ooops"_s);
     return false;
   }

@@ -16,9 +16,10 @@ struct Person {
 bool LoadPerson(int id, Person& person);
 /// Adds a row; its id.
 int InsertPerson(const Person& person);
-/// Adds the person. With `isProgramOwner` tblMisc names them as the owner of the program. The new id.
+/// Adds the person. With `isProgramOwner` tblMisc names them as the owner of the program. The new id; 0, told, for one
+/// without any name.
 int SaveNewOwner(const Person& person, bool isProgramOwner);
-/// Writes all fields but the photo.
+/// Writes all fields but the photo. A person left without any name is told and not written.
 void UpdateOwner(int id, const Person& person);
 void SetRiggerFlag(int id, bool rigger);
 

@@ -3,11 +3,11 @@
 #include <QHash>
 
 #include "core/access.h"
-#include "core/data_folder.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/trap.h"
 #include "gear/components.h"
+#include "gear/diagnostic_ids.h"
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rig_types.h"
@@ -16,10 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString WithId(const QString& text, int id) {
-  return DiagnosticMode ? text + u" ("_s + QString::number(id) + u')' : text;
-}
 
 QString RigText(const Recordset& rig) { return WithId(rig[u"rigAlias"].ToText(), rig[u"ID"].ToInt()); }
 
@@ -94,9 +90,7 @@ IdList LoadCustomers(bool withRigCounts) {
     for (qsizetype i = 0; i < customers.Size(); ++i)
       customers.texts[i] += u"  "_s + RigCountSuffix(counts.value(customers.ids.at(i)));
   }
-  for (qsizetype i = 0; i < customers.Size(); ++i)
-    customers.texts[i] = WithId(customers.texts.at(i), customers.ids.at(i));
-  return customers;
+  return WithIds(customers);
 }
 
 int FirstRigOf(int owner) { return LoadRigs(owner, 0).ids.value(0); }

@@ -216,6 +216,7 @@ class TestModels : public QObject {
     QVERIFY(!ServiceLifeOfModel(vigil).inYears);
     QCOMPARE(ServiceLifeMonths(u"2.5"_s, true), 30);
     QCOMPARE(ServiceLifeMonths(u"12"_s, false), 12);
+    QCOMPARE(ServiceLifeMonths(u"1.5"_s, false), 2);
     QCOMPARE(ServiceLifeMonths(u"x"_s, true), 0);
   }
 

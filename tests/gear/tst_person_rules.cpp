@@ -193,6 +193,29 @@ class TestPersonRules : public QObject {
     QCOMPARE(read, Person());
   }
 
+  void NobodyIsWrittenWithoutAName() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    const QStringList before = loft.Snapshot();
+    ScriptedPrompts prompts;
+    const Person nameless{.lastName = u" "_s, .city = u"Perris"_s};
+    prompts.ExpectBox(u"Oops!"_s, u"You must enter a name"_s);
+    QCOMPARE(SaveNewOwner(nameless, true), 0);
+    prompts.ExpectBox(u"Oops!"_s, u"You must enter a name"_s);
+    UpdateOwner(ann, nameless);
+    QCOMPARE(loft.ChangesSince(before), QStringList());
+  }
+
+  void AClearedRiggerMayStayTheDefault() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    for (const int rigger : {ann, Named(u"Bob Smith"_s), Named(u"Cid Young"_s)}) SetRiggerFlag(rigger, true);
+    SetDefaultRigger(ann);
+    SetRiggerFlag(ann, false);
+    QCOMPARE(loft.Rows(u"select DefaultRiggerID from tblMisc"_s), QStringList(QString::number(ann)));
+    QCOMPARE(EffectiveRigger(), ann);
+  }
+
   void TheFirstRunNamesTheProgramOwner() {
     ThrowAwayLoft loft;
     const int id = SaveNewOwner({.lastName = u"Jones"_s}, true);

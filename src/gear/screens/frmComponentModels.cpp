@@ -3,13 +3,13 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "core/data_folder.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/trap.h"
 #include "gear/catalogue.h"
 #include "gear/component_types.h"
+#include "gear/diagnostic_ids.h"
 #include "gear/models.h"
 #include "gear/models_file.h"
 #include "gear/screens/ui_frmComponentModels.h"
@@ -120,7 +120,7 @@ void frmComponentModels::ShowType() {
 void frmComponentModels::LoadModelList(int select) {
   SavePendingLife();
   const bool byMaker = ui_->optManufacturer->isChecked();
-  ui_->lstModels->Fill(LoadModels(Type(), byMaker ? qMax(Manufacturer(), 0) : kNoManufacturerSelected));
+  ui_->lstModels->Fill(WithIds(LoadModels(Type(), byMaker ? qMax(Manufacturer(), 0) : kNoManufacturerSelected)));
   ui_->lstModels->SelectData(select);
   for (QObject* link : QObjectList{ui_->cmdLink, MenuBar()->findChild<QAction*>(u"mnuLink"_s)})
     link->setProperty("enabled", !byMaker);
@@ -129,7 +129,7 @@ void frmComponentModels::LoadModelList(int select) {
 
 void frmComponentModels::LoadManufacturerList(int select) {
   const QSignalBlocker quiet(ui_->lstManufacturers);
-  ui_->lstManufacturers->Fill(LoadManufacturers());
+  ui_->lstManufacturers->Fill(WithIds(LoadManufacturers()));
   ui_->lstManufacturers->SelectData(select);
 }
 

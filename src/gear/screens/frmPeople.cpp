@@ -49,13 +49,20 @@ frmPeople::~frmPeople() = default;
 
 void frmPeople::MakeMenu() {
   mnuMenu_ = MenuBar()->addMenu(u"Menu"_s);
-  mnuMenu_->addAction(u"Add New Customer"_s, this, &frmPeople::AddNew);
+  mnuMenu_->addAction(u"Add New Customer"_s, this, &frmPeople::AddNew)->setObjectName(u"mnuNewCustomer"_s);
   mnuEditCustomer_ = mnuMenu_->addAction(u"Edit this customer"_s, this, &frmPeople::EditPerson);
   mnuDeleteCustomer_ = mnuMenu_->addAction(u"Delete this customer"_s, this, &frmPeople::DeletePerson);
   mnuJobsDummy_ = MenuBar()->addMenu(u"Jobs"_s);
   mnuReviewJobs_ = mnuJobsDummy_->addAction(u"Review jobs"_s, this, [this] { OpenJobList({.customer = current_}); });
   mnuNewJob_ = mnuJobsDummy_->addAction(u"Start new job"_s, this, [this] { StartNewJob(current_, 0, 0, Today()); });
   mnuExit_ = MenuBar()->addAction(u"Exit"_s, this, &frmPeople::Cancel);
+  mnuMenu_->setObjectName(u"mnuMenu"_s);
+  mnuEditCustomer_->setObjectName(u"mnuEditCustomer"_s);
+  mnuDeleteCustomer_->setObjectName(u"mnuDeleteCustomer"_s);
+  mnuJobsDummy_->setObjectName(u"mnuJobsDummy"_s);
+  mnuReviewJobs_->setObjectName(u"mnuReviewJobs"_s);
+  mnuNewJob_->setObjectName(u"mnuNewJob"_s);
+  mnuExit_->setObjectName(u"mnuExit"_s);
 }
 
 void frmPeople::showEvent(QShowEvent* event) {
@@ -102,6 +109,10 @@ void frmPeople::LoadList() {
 }
 
 void frmPeople::ReloadForm() { Refresh(); }
+
+void frmPeople::ReloadSchedule() {
+  if (current_ > 0) ShowRigsAndDue(current_);
+}
 
 void frmPeople::Refresh() {
   LoadList();
@@ -158,7 +169,9 @@ void frmPeople::ShowFields(const Person& person) {
 void frmPeople::ShowRigsAndDue(int id) {
   ui_->lblRigs->setText(RigCountText(id));
   ui_->lblDue->setText(DueLine(id));
-  ui_->cmdRigs->setEnabled(!locked_ && !ownerSetup_ && NumberOfRigs(id) > 0);
+  const bool open = !locked_ && !ownerSetup_;
+  ui_->cmdRigs->setEnabled(open && NumberOfRigs(id) > 0);
+  ui_->cmdShowSchedule->setEnabled(open && DaysToSoonestDue(id).has_value());
 }
 
 void frmPeople::ShowEnds(int id) {

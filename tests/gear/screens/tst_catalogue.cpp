@@ -3,6 +3,7 @@
 #include <QRadioButton>
 #include <QtTest>
 
+#include "core/data_folder.h"
 #include "core/default_rows.h"
 #include "core/widgets/list.h"
 #include "gear/catalogue.h"
@@ -95,6 +96,15 @@ class TestCatalogueScreen : public QObject {
     ListOf(form, "lstTypes").SelectData(kAad);
     QCOMPARE(TextOf(form, u"optAll"_s).remove(u'&'), u"Display all AAD's"_s);
     QCOMPARE(TextOf(form, u"cmdAdd"_s), u"&Add new AAD"_s);
+  }
+
+  void DiagnosticsShowIds() {
+    Catalogue shop;
+    DiagnosticMode = true;
+    Form& form = shop.Open();
+    QCOMPARE(Items(Models(form)).first(), u"Javelin (%1)"_s.arg(shop.javelin));
+    QCOMPARE(Items(Makers(form)), QStringList({u"Sun Path (1)"_s, u"UPT (2)"_s, u"(not specified)"_s}));
+    DiagnosticMode = false;
   }
 
   void AMakerThatHasGoneIsPutRightWhenTheModelIsChosen() {

@@ -54,6 +54,9 @@ class TestPeopleScreens : public QObject {
     ScreenScript screens;
     screens.WhenShown(u"frmPeople"_s, [&](Form& form) {
       QCOMPARE(form.windowTitle(), u"Customers"_s);
+      QCOMPARE(TextOf(form, u"cmdPrev"_s), u"<---   Previous"_s);
+      QCOMPARE(TextOf(form, u"cmdNext"_s), u"Next     --->"_s);
+      QCOMPARE(TextOf(form, u"lblNoPhoto"_s), u"No customer photo"_s);
       QCOMPARE(TextOf(form, u"lblName"_s), u"Ann Jones"_s);
       QCOMPARE(TextOf(form, u"lblOrgName"_s), u"Sky Club"_s);
       QCOMPARE(TextOf(form, u"lblZip"_s), u"92570"_s);
@@ -254,11 +257,78 @@ class TestPeopleScreens : public QObject {
     ThrowAwayLoft loft;
     const int ann = Named(u"Ann Jones"_s);
     Named(u"Bob Smith"_s);
+    loft.Add(u"tblSchedules"_s,
+             {{u"rigID"_s, CreateRig(ann, 1, u"Red"_s)}, {u"DateDue"_s, Date::FromParts(2026, 3, 14)}});
     OpenPeople(ann);
     Click(dynamic_cast<Form&>(*Forms::Find(u"frmPeople"_s)), u"cmdShowSchedule"_s);
     auto& schedule = dynamic_cast<Form&>(*Forms::Find(u"frmSchedule"_s));
     QVERIFY(schedule.isVisible());
     QCOMPARE(TextOf(schedule, u"lblCustomer"_s), u"Customer:  Ann Jones"_s);
+  }
+
+  void TheScheduleNeedsSomethingDue() {
+    const FixedClock clock(2026, 3, 2);
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    Named(u"Bob Smith"_s);
+    const int rig = CreateRig(ann, 1, u"Red"_s);
+    OpenPeople(ann);
+    auto& form = dynamic_cast<Form&>(*Forms::Find(u"frmPeople"_s));
+    QCOMPARE(TextOf(form, u"cmdShowSchedule"_s), u"&View Schedule"_s);
+    QCOMPARE(TextOf(form, u"lblDue"_s), u"(no scheduled tasks)"_s);
+    QVERIFY(!IsEnabled(form, u"cmdShowSchedule"_s));
+    loft.Add(u"tblSchedules"_s, {{u"rigID"_s, rig}, {u"DateDue"_s, Date::FromParts(2026, 3, 3)}});
+    Forms::ReloadSchedules();
+    QCOMPARE(TextOf(form, u"lblDue"_s), u"Has tasks due tomorrow!"_s);
+    QVERIFY(IsEnabled(form, u"cmdShowSchedule"_s));
+    Click(form, u"cmdNext"_s);
+    QVERIFY(!IsEnabled(form, u"cmdShowSchedule"_s));
+    Click(form, u"cmdPrev"_s);
+    QVERIFY(IsEnabled(form, u"cmdShowSchedule"_s));
+  }
+
+  void TheProgramOwnersSetUpOpensNeitherRigsNorSchedule() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    loft.Add(u"tblSchedules"_s,
+             {{u"rigID"_s, CreateRig(ann, 1, u"Red"_s)}, {u"DateDue"_s, Date::FromParts(2026, 3, 3)}});
+    ScreenScript screens;
+    screens.WhenShown(u"frmPeople"_s, [](Form& form) {
+      QCOMPARE(TextOf(form, u"lblRigs"_s), u"1 rig"_s);
+      QVERIFY(!IsEnabled(form, u"cmdRigs"_s));
+      QVERIFY(!IsEnabled(form, u"cmdShowSchedule"_s));
+      Click(form, u"cmdExit"_s);
+    });
+    ShowPeople(ann, true);
+  }
+
+  void TheJobsOfThePersonAreReviewedAndStarted() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    const int bob = Named(u"Bob Smith"_s);
+    loft.Add(u"tblJobs"_s, {{u"JobTitle"_s, "Ann's"}, {u"CustomerID"_s, ann}});
+    loft.Add(u"tblJobs"_s, {{u"JobTitle"_s, "Bob's"}, {u"CustomerID"_s, bob}});
+    ScriptedPrompts prompts;
+    prompts.AnswerRestWith([](const ShownPrompt&) { return Answer::No; });
+    OpenPeople(bob);
+    auto& form = dynamic_cast<Form&>(*Forms::Find(u"frmPeople"_s));
+    ChooseMenu(form, {u"Jobs"_s, u"Start new job"_s});
+    QCOMPARE(prompts.Transcript().last().title, u"Create job for Bob Smith"_s);
+    QCOMPARE(loft.Rows(u"select count(*) from tblJobs"_s), QStringList(u"2"_s));
+    ChooseMenu(form, {u"Jobs"_s, u"Review jobs"_s});
+    QVERIFY(Forms::IsShown(u"frmJobList"_s));
+  }
+
+  void AnEmptiedTableIsTold() {
+    ThrowAwayLoft loft;
+    OpenPeople(Named(u"Ann Jones"_s));
+    auto& form = dynamic_cast<Form&>(*Forms::Find(u"frmPeople"_s));
+    loft.Run(u"delete * from tblPeople"_s);
+    ScriptedPrompts prompts;
+    prompts.ExpectBox(u"No Customers"_s, u"customer database is empty"_s);
+    Click(form, u"cmdRefresh"_s);
+    QCOMPARE(TextOf(form, u"lblName"_s), QString());
+    QVERIFY(!IsEnabled(form, u"cmdEdit"_s));
   }
 
   void StartingWithANewPersonStaysOnThem() {

@@ -181,6 +181,22 @@ class TestRigLists : public QObject {
     QCOMPARE(ComponentRig(shop.spare), shop.red);
   }
 
+  void TheMenusOpenTheScreensOfTheRigAndItsCustomer() {
+    RigShop shop;
+    OpenRigs({.customer = shop.ann});
+    auto& form = dynamic_cast<Form&>(*Forms::Find(u"frmGetRig"_s));
+    ChooseMenu(form, {u"Jobs"_s, u"Review jobs"_s});
+    QVERIFY(Forms::IsShown(u"frmJobList"_s));
+    ChooseMenu(form, {u"Schedule"_s, u"Show schedule"_s});
+    QVERIFY(Forms::IsShown(u"frmSchedule"_s));
+    ChooseMenu(form, {u"History"_s, u"Show this rig's history"_s});
+    QVERIFY(Forms::IsShown(u"frmHistoryForm"_s));
+    for (const auto& [control, text] : {std::pair(u"optSelected"_s, u"Selected customer only"_s),
+                                        {u"chkShowSystems"_s, u"Show # systems per customer"_s},
+                                        {u"chkHidePhotos"_s, u"Hide photos (faster loading)"_s}})
+      QCOMPARE(TextOf(form, control).remove(u'&'), text);
+  }
+
   void DiagnosticsShowIds() {
     RigShop shop;
     DiagnosticMode = true;
