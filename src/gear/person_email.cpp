@@ -33,7 +33,7 @@ bool AskForInvoiceEmail(int person) {
     return false;
   }
   UpdateTableBySQL(u"Update [tblPeople] set [email1] = '"_s + address + u"' where [id] = "_s + QString::number(person));
-  return true;
+  return PersonEmail(person) == address;  // an apostrophe breaks the statement, which has been told
 }
 
 bool AskForStatementEmail(int person) {

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "core/connection.h"
 #include "core/lists.h"
 #include "gear/people.h"
 #include "gear/person_deletion.h"
@@ -337,6 +338,23 @@ class TestPersonRules : public QObject {
     prompts.ExpectInput(u"Enter email address"_s, u"Enter email address for Ann Jones"_s, u"ann@loft.com"_s);
     QVERIFY(AskForInvoiceEmail(ann));
     QCOMPARE(PersonEmail(ann), u"ann@loft.com"_s);
+  }
+
+  void AnApostropheBreaksTheStatementOfAnInvoicesAddress() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    const QStringList before = loft.Snapshot();
+    ScriptedPrompts prompts;
+    prompts.Expect(kProgramTitle, u"Ann Jones doesn't have an email address.\n\nWould you like to enter it?"_s,
+                   Answer::Yes);
+    prompts.ExpectInput(u"Enter email address"_s, u"Enter email address for Ann Jones"_s, u"o'h@loft.com"_s);
+    prompts.AnswerRestWith([](const ShownPrompt&) { return Answer::Ok; });
+    QVERIFY(!AskForInvoiceEmail(ann));
+    QCOMPARE(prompts.Transcript().last().title, u"Sub UpdateTableBySQL(MySQL)"_s);
+    QVERIFY(prompts.Transcript().last().text.contains(
+        u"SQL = Update [tblPeople] set [email1] = 'o'h@loft.com' where [id] = 1"_s));
+    if (ConnectionIsOpen) ConnectionClose();
+    QCOMPARE(loft.ChangesSince(before), QStringList());
   }
 
   void AsksForTheAddressOfAStatement() {

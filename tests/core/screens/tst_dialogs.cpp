@@ -7,6 +7,7 @@
 #include "core/stand_by.h"
 #include "core/widgets/form.h"
 #include "core/widgets/list.h"
+#include "core/widgets/screen_routines.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
@@ -59,6 +60,19 @@ class TestDialogs : public QObject {
     ScreenScript screens;
     prompts.ExpectBox(kProgramTitle, u"didn't allow for this button type"_s);
     QCOMPARE(ShowMessageForm(u"?"_s, u"text"_s, {}, 7), 0);
+  }
+
+  void AMessageIsAsTallAsItsTextNeeds() {
+    for (const int lines : {4, 20}) {
+      ScreenScript screens;
+      screens.WhenShown(u"frmMessage"_s, [lines](Form& form) {
+        const auto& label = Control<QLabel>(form, u"lbl"_s);
+        QVERIFY(label.sizeHint().height() > lines * 10);
+        QCOMPARE(form.height(), label.sizeHint().height() + FromTwips(1500));
+        Click(form, u"cmdExit"_s);
+      });
+      ShowMessageForm(u"Support files"_s, u"a line\n"_s.repeated(lines));
+    }
   }
 
   void ALongMessageFitsTheScreen() {

@@ -12,6 +12,7 @@
 #include "gear/person_record.h"
 #include "gear/rigs.h"
 #include "jobs/job_records.h"
+#include "support/data_home.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
@@ -312,6 +313,33 @@ class HomeCommandsTest : public QObject {
     CountDbAccess = false;
     ConnectionCount = 0;
     QCOMPARE(menu.windowTitle(), u"42"_s);
+  }
+
+  void TheFloatingMenuClosesAConnectionThatWasLeftOpen() {
+    Home home;
+    auto& menu = SharedForm<frmMenu>();
+    menu.Show();
+    menu.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&menu));
+    ConnectionStart();
+    QEvent activation(QEvent::ActivationChange);
+    QCoreApplication::sendEvent(&menu, &activation);
+    QVERIFY(!ConnectionIsOpen);
+  }
+
+  void TheBusinessAddressIsEnteredFromTheMenu() {
+    const DataHome data;
+    Home home;
+    data.Folder().MakeFolder(u"home/loftkeep/support"_s);
+    home.screens.WhenShown(u"frmComments"_s, [](Form& comments) {
+      QCOMPARE(comments.windowTitle(), u"Business Address"_s);
+      QCOMPARE(TextOf(comments, u"lblComments"_s), u"Enter business address"_s);
+      TypeInto(comments, u"txtComments"_s, u"Ann's Loft"_s);
+      Click(comments, u"cmdSave"_s);
+    });
+    home.prompts.ExpectBox(u"Business Address"_s, u"Saved"_s);
+    ChooseMenu(home.page, {u"Set up"_s, u"Business title and address"_s});
+    QVERIFY(data.Folder().Read(u"home/loftkeep/support/address.txt"_s).startsWith("Ann's Loft"));
   }
 
   void TheHomePageKeepsAConnectionOnceWhenAsked() {

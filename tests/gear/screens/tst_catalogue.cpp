@@ -66,7 +66,10 @@ class TestCatalogueScreen : public QObject {
 
  private Q_SLOTS:
   void initTestCase() { IsolateSettings(); }
-  void cleanup() { UnloadScreens(); }
+  void cleanup() {
+    UnloadScreens();
+    DiagnosticMode = false;
+  }
 
   void ShowsModelsOfATypeAndOfAMaker() {
     Catalogue shop;
@@ -104,7 +107,6 @@ class TestCatalogueScreen : public QObject {
     Form& form = shop.Open();
     QCOMPARE(Items(Models(form)).first(), u"Javelin (%1)"_s.arg(shop.javelin));
     QCOMPARE(Items(Makers(form)), QStringList({u"Sun Path (1)"_s, u"UPT (2)"_s, u"(not specified)"_s}));
-    DiagnosticMode = false;
   }
 
   void AMakerThatHasGoneIsPutRightWhenTheModelIsChosen() {
