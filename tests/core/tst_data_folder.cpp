@@ -100,6 +100,9 @@ class DataFolderTest : public QObject {
     QVERIFY(ConnectionIsOpen);
     ConnectionClose();
     QCOMPARE(Folder().Read(u"home/loftkeep/support/helptext.txt"_s), QByteArray("second"));
+    prompts.Finish();
+    CheckHelpFile();  // the next start finds nothing newer
+    QCOMPARE(prompts.Transcript().size(), 1);
   }
 
   void TheSplashCountsTheLoft() {

@@ -59,6 +59,20 @@ class TestRigs : public QObject {
     QVERIFY(!SetComponentTypesOfRigType(0, {1}));
   }
 
+  void AnotherComponentListLeavesTheRigsAsTheyAre() {
+    ThrowAwayLoft loft;
+    const int rig = CreateRig(1, kSport, u"Red"_s);
+    const int aad = NewComponent(AddModel(u"Vigil"_s, kAad), kAad, rig);
+    const QStringList before = loft.Snapshot();
+    QVERIFY(SetComponentTypesOfRigType(kSport, {kContainer, kReserveCanopy, kPassengerHarness}));
+    for (const QString& change : loft.ChangesSince(before))
+      QVERIFY2(change.mid(1).startsWith("tblRigTypeComponents|"_L1), qPrintable(change));
+    QCOMPARE(ComponentRig(aad), rig);
+    QStringList shown;
+    for (const RigComponentRow& row : LoadRigComponents(rig)) shown << row.typeName;
+    QCOMPARE(shown, QStringList({u"Container"_s, u"Reserve Canopy"_s, u"Passenger Harness"_s}));
+  }
+
   void AddsARigType() {
     ThrowAwayLoft loft;
     const QStringList before = loft.Snapshot();

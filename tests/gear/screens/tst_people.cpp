@@ -316,7 +316,9 @@ class TestPeopleScreens : public QObject {
     QCOMPARE(prompts.Transcript().last().title, u"Create job for Bob Smith"_s);
     QCOMPARE(loft.Rows(u"select count(*) from tblJobs"_s), QStringList(u"2"_s));
     ChooseMenu(form, {u"Jobs"_s, u"Review jobs"_s});
-    QVERIFY(Forms::IsShown(u"frmJobList"_s));
+    auto& jobs = Control<List>(dynamic_cast<Form&>(*Forms::Find(u"frmJobList"_s)), u"lstJobs"_s);
+    QCOMPARE(jobs.Count(), 1);
+    QVERIFY(jobs.ItemText(0).contains(u"Bob's"_s));
   }
 
   void AnEmptiedTableIsTold() {
