@@ -32,8 +32,10 @@ frmLocation::~frmLocation() = default;
 
 void frmLocation::SetLocation(int id) {
   LoadList(id);
-  ui_->lblNoDefault->setVisible(DefaultLocation() == 0);
+  ShowWhetherDefault();
 }
+
+void frmLocation::ShowWhetherDefault() { ui_->lblNoDefault->setVisible(DefaultLocation() == 0); }
 
 int frmLocation::Location() const { return ui_->lst->ItemData(ui_->lst->ListIndex()); }
 
@@ -99,7 +101,9 @@ void frmLocation::ShowDefault() {
 }
 
 void frmLocation::DeleteSelected() {
-  if (Location() != 0 && DeleteLocation(Location())) LoadList(0);
+  if (Location() == 0 || !DeleteLocation(Location())) return;
+  LoadList(0);
+  ShowWhetherDefault();
 }
 
 void frmLocation::ToggleDefault(bool isDefault) {
@@ -126,10 +130,12 @@ void frmLocation::Accept() {
   }
   LocationEntry entry = Entry();
   const int saved = SaveLocation(entry, mode_ == Mode::NewLocation ? 0 : id);
-  if (saved != 0)
-    LoadList(saved);
-  else
+  if (saved == 0) {
     ui_->txtCity->setFocus();
+    return;
+  }
+  LoadList(saved);
+  ShowWhetherDefault();
 }
 
 void frmLocation::Cancel() {

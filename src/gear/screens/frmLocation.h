@@ -29,6 +29,7 @@ class frmLocation : public Form {
   void SetMode(Mode mode);
   void LoadList(int select);
   void ShowFields();
+  void ShowWhetherDefault();
   void ShowEntry(const LocationEntry& entry);
   LocationEntry Entry() const;
   void StartEditing();

@@ -232,6 +232,25 @@ class TestLocationScreen : public QObject {
              QStringList({u"Perris|CA|7.25|0"_s, u"Lodi|CA|7.25|0"_s, u"Eloy|AZ|5.0|0"_s, u"Moab|UT|6.85|-1"_s}));
   }
 
+  void TheScreenTellsWhetherThereIsADefault() {
+    Places shop;
+    const auto told = [](Form& form) { return !Control<QWidget>(form, u"lblNoDefault"_s).isHidden(); };
+    shop.Show(0, [&](Form& form) {
+      QVERIFY(told(form));
+      QCOMPARE(TextOf(form, u"lblNoDefault"_s), u"(default location not set)"_s);
+      ChooseMenu(form, {u"Add new"_s});
+      Enter(form, u"Moab"_s, u"UT"_s, u"6.85"_s);
+      Control<QCheckBox>(form, u"chkDefault"_s).click();
+      Click(form, u"cmdOK"_s);
+      QVERIFY(!told(form));
+      shop.prompts.Expect(u"Delete Moab, UT?"_s, u"Are you sure you want to delete this location?"_s, Answer::Yes);
+      ChooseMenu(form, {u"Delete"_s});
+      QVERIFY(told(form));
+      Click(form, u"cmdExit"_s);
+    });
+    QCOMPARE(DefaultLocation(), 0);
+  }
+
   void ALocationWithJobsMayBeDeletedAndItsJobsStay() {
     Places shop;
     shop.loft.Add("tblJobs", {{"JobTitle", "a"}, {"LocationID", shop.lodi}});
