@@ -95,19 +95,15 @@ bool JobTitleExists(const QString& title) {
   return exists;
 }
 
-int JobOfCustomerNamed(int customerID, const QString& name) {
+int JobOfCustomerNamed(int customerID, const QString& name, int exceptJob) {
   int found = 0;
   const QString wanted = name.trimmed().toUpper();
   if (wanted.isEmpty()) return found;
   Trap(u"Function CheckDuplicateName"_s, [&] {
     Bracket bracket;
-    {
-      Recordset jobs(u"Select * from tblJobs where Customerid = %1"_s.arg(customerID));
-      if (RecordsetHasRows(jobs)) {
-        for (; !jobs.Eof() && found == 0; jobs.MoveNext()) {
-          if (jobs[u"JobTitle"].ToText().trimmed().toUpper() == wanted) found = jobs[u"ID"].ToInt();
-        }
-      }
+    for (const Recordset& job : Rows(u"Select * from tblJobs where Customerid = %1"_s.arg(customerID))) {
+      const int id = job[u"ID"].ToInt();
+      if (found == 0 && id != exceptJob && job[u"JobTitle"].ToText().trimmed().toUpper() == wanted) found = id;
     }
     bracket.Close();
   });

@@ -39,8 +39,9 @@ QString GetInvoiceNumber(int jobID);
 void SetJobTitle(int jobID, const QString& title);
 /// Is there a job of this title, case and outer blanks aside?
 bool JobTitleExists(const QString& title);
-/// The customer's job of this name, case and outer blanks aside; 0 for none, and for an empty name.
-int JobOfCustomerNamed(int customerID, const QString& name);
+/// The customer's job of this name, case and outer blanks aside, `exceptJob` left out; 0 for none, and for an empty
+/// name.
+int JobOfCustomerNamed(int customerID, const QString& name, int exceptJob);
 bool InvoiceNumberIsFree(const QString& number);
 /// Writes the flag, and the date when it is set; a false flag clears the date.
 void SetJobStatus(int jobID, bool complete, Date date);

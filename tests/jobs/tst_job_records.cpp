@@ -91,10 +91,11 @@ class TestJobRecords : public QObject {
     SampleJob shop;
     QVERIFY(JobTitleExists(u"  bLUE 03/01/2026 "_s));
     QVERIFY(!JobTitleExists(u"Blue"_s));
-    QCOMPARE(JobOfCustomerNamed(shop.owner, u" BLUE 03/01/2026"_s), shop.job);
-    QCOMPARE(JobOfCustomerNamed(shop.rigger, u"Blue 03/01/2026"_s), 0);
+    QCOMPARE(JobOfCustomerNamed(shop.owner, u" BLUE 03/01/2026"_s, 0), shop.job);
+    QCOMPARE(JobOfCustomerNamed(shop.owner, u"Blue 03/01/2026"_s, shop.job), 0);
+    QCOMPARE(JobOfCustomerNamed(shop.rigger, u"Blue 03/01/2026"_s, 0), 0);
     shop.AddJob("", 0, 0);
-    QCOMPARE(JobOfCustomerNamed(shop.owner, u" "_s), 0);
+    QCOMPARE(JobOfCustomerNamed(shop.owner, u" "_s, 0), 0);
   }
 
   void ClearingTheStatusClearsTheDate() {

@@ -74,7 +74,8 @@ class TestQuickFix : public QObject {
     const QString text =
         u"This event was not part of a rigging job.\nTo edit this event, go to the component's history."_s;
     const int done = shop.AddRepack(Day(3, 1, 2026));
-    for (int task : {done, 99, -888}) {
+    const int logged = shop.loft.Add("tblTasks", {{"JobID", -99}, {"TaskLibID", RepackTaskLibID}});
+    for (int task : {done, logged, 99, -888}) {
       shop.prompts.ExpectBox(kProgramTitle, text);
       QCOMPARE(JobOfScheduledTask(task, shop.rig), 0);
     }

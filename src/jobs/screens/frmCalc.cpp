@@ -14,13 +14,14 @@ frmCalc::frmCalc() : ui_(std::make_unique<Ui::frmCalc>()) {
   ui_->setupUi(this);
   ui_->txtStart->setText(Value(Today()).ToText());
   ui_->txtInt->setText(u"180"_s);
-  for (QLineEdit* box : {ui_->txtStart, ui_->txtInt, ui_->txtEnd})
-    connect(box, &QLineEdit::textEdited, this, &frmCalc::DoCalc);
+  connect(ui_->txtInt, &QLineEdit::textEdited, this, &frmCalc::DoCalc);
+  for (QLineEdit* box : {ui_->txtStart, ui_->txtEnd})
+    connect(box, &QLineEdit::textEdited, this, [this, box] { CalcFrom(box); });
   for (QRadioButton* option : {ui_->optEnd, ui_->optStart})
     connect(option, &QRadioButton::clicked, this, &frmCalc::DoCalc);
   const auto setToday = [this](QLineEdit* box) {
     box->setText(Value(Today()).ToText());
-    DoCalc();
+    CalcFrom(box);
   };
   connect(ui_->cmdToday1, &QPushButton::clicked, this, [=, this] { setToday(ui_->txtStart); });
   connect(ui_->cmdToday2, &QPushButton::clicked, this, [=, this] { setToday(ui_->txtEnd); });
@@ -30,10 +31,17 @@ frmCalc::frmCalc() : ui_(std::make_unique<Ui::frmCalc>()) {
 
 frmCalc::~frmCalc() = default;
 
+QLineEdit* frmCalc::Result() const { return ui_->optEnd->isChecked() ? ui_->txtEnd : ui_->txtStart; }
+
+/// What is typed into the box of the result stays as it was typed.
+void frmCalc::CalcFrom(const QLineEdit* box) {
+  if (box != Result()) DoCalc();
+}
+
 void frmCalc::DoCalc() {
   const bool forward = ui_->optEnd->isChecked();
   QLineEdit* from = forward ? ui_->txtStart : ui_->txtEnd;
-  QLineEdit* result = forward ? ui_->txtEnd : ui_->txtStart;
+  QLineEdit* result = Result();
   const QString typed = from->text().trimmed();
   const bool valid = IsValidDate(typed);
   MarkLabel(ui_->lblStart, forward && !valid);

@@ -4,6 +4,7 @@
 #include "core/widgets/form.h"
 
 class QLabel;
+class QLineEdit;
 
 namespace Ui {
 class frmCalc;
@@ -17,6 +18,8 @@ class frmCalc : public Form {
   ~frmCalc() override;
 
  private:
+  QLineEdit* Result() const;
+  void CalcFrom(const QLineEdit* box);
   void DoCalc();
   void MarkLabel(QLabel* label, bool wrong);
 

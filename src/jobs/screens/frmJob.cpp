@@ -4,7 +4,6 @@
 
 #include "core/access.h"
 #include "core/clock.h"
-#include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/components.h"
@@ -149,7 +148,7 @@ void frmJob::RunListItem() {
   }
   switch (item) {
     case kReserveRepack:
-      if (RepackIsPossible(job_.rigID)) AddLine(RepackTaskLibID);
+      EnterTask();
       break;
     case kFromLibrary:
       AddFromLibrary(false);

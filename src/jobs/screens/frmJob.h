@@ -76,12 +76,15 @@ class frmJob : public Form {
   void DeleteCurrentTask();
   void DeleteAllTasks();
   void ChangeTaskRigger();
+  void PickLineRigger(int row);
   void Restore(bool (*restore)(int taskID), const QString& what);
   void EditTaskComments();
   void CheckTaskComments();
 
   // frmJob_adding.cpp
-  void AddLine(int taskLibID);
+  Date TypedDate() const;
+  void AddLine(int taskLibID, Date date);
+  void EnterTask();
   bool GetLibraryTask(int taskLibID, Date date);
   void AddFromLibrary(bool events);
   void DoMultiTask();

@@ -1,3 +1,4 @@
+#include "core/default_rows.h"
 #include "core/picker.h"
 #include "core/screens.h"
 #include "gear/catalogue.h"
@@ -29,8 +30,17 @@ int SaveCustomTaskToLibrary() {
 
 }  // namespace
 
-void frmJob::AddLine(int taskLibID) {
-  if (GetLibraryTask(taskLibID, WorkingDate(ui_->txtDate->text()))) LoadTasksGrid();
+/// What is typed as date performed; it is read before anything else is asked.
+Date frmJob::TypedDate() const { return WorkingDate(ui_->txtDate->text()); }
+
+void frmJob::AddLine(int taskLibID, Date date) {
+  if (GetLibraryTask(taskLibID, date)) LoadTasksGrid();
+}
+
+/// The reserve repack.
+void frmJob::EnterTask() {
+  const Date date = TypedDate();
+  if (RepackIsPossible(job_.rigID)) AddLine(RepackTaskLibID, date);
 }
 
 /// True when a line was added; what installs and removes gear shows the lines by itself.
@@ -42,13 +52,14 @@ bool frmJob::GetLibraryTask(int taskLibID, Date date) {
 }
 
 void frmJob::AddFromLibrary(bool events) {
-  if (const int entry = SelectTask({.events = events}).taskLibID; entry > 0) AddLine(entry);
+  const Date date = TypedDate();
+  if (const int entry = SelectTask({.events = events}).taskLibID; entry > 0) AddLine(entry, date);
 }
 
 void frmJob::DoMultiTask() {
   const QList<int> entries = SelectMultipleTasks();
   if (entries.isEmpty()) return;
-  const Date date = WorkingDate(ui_->txtDate->text());
+  const Date date = TypedDate();
   for (int entry : entries) GetLibraryTask(entry, date);
   LoadTasksGrid();
 }
@@ -65,9 +76,9 @@ void frmJob::EnterCustom(bool isEvent) {
     road = taskLibID > 0 ? CustomRoad::Library : CustomRoad::None;
   }
   form.UnloadForm();
-  if (road == CustomRoad::Library) AddLine(taskLibID);
+  if (road == CustomRoad::Library) AddLine(taskLibID, TypedDate());
   if (road != CustomRoad::OneOff) return;
-  AddOneOffLine(job_, entry, WorkingDate(ui_->txtDate->text()));
+  AddOneOffLine(job_, entry, TypedDate());
   LoadTasksGrid();
   const bool complete = CheckJobStatus(job_.jobID, WorkDate());
   ShowJobStatus(complete, complete ? HeaderDate(WorkDate()) : u"(n/a)"_s);
@@ -79,11 +90,11 @@ void frmJob::SelectPart() {
     MiscItem item;
     part = EnterMiscItem(item) ? AddPart(item.name, item.price, 0).id : 0;
   }
-  if (part > 0 && AddPartToJob(job_, part, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
+  if (part > 0 && AddPartToJob(job_, part, TypedDate()) != 0) LoadTasksGrid();
 }
 
 void frmJob::EnterCustomPart() {
   MiscItem item;
   if (!EnterMiscItem(item, {.caption = u"Enter Custom Item"_s})) return;
-  if (AddCustomPart(job_, item.name, item.price, WorkingDate(ui_->txtDate->text())) != 0) LoadTasksGrid();
+  if (AddCustomPart(job_, item.name, item.price, TypedDate()) != 0) LoadTasksGrid();
 }

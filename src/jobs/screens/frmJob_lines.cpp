@@ -104,7 +104,7 @@ void frmJob::EditCell(int row, int column) {
   const QString text = ui_->Grid2->Text(row, column).trimmed();
   switch (column) {
     case kRigger:
-      ChangeTaskRigger();
+      PickLineRigger(row);
       break;
     case kStatus:
       ToggleLine(row);
@@ -170,12 +170,14 @@ void frmJob::ChangeTaskRigger() {
     MsgBox(u"There are no tasks to select"_s, u"Can't change rigger for task"_s);
     return;
   }
-  const int row = ui_->Grid2->CurrentRow();
-  const int task = SelectedTask();
-  if (task == 0) {
+  if (SelectedTask() == 0)
     MsgBox(u"You must select a task"_s, u"Please select a task"_s);
-    return;
-  }
+  else
+    EditCell(ui_->Grid2->CurrentRow(), kRigger);
+}
+
+void frmJob::PickLineRigger(int row) {
+  const int task = ui_->Grid2->RowData(row);
   const Picked picked = PickItem(kPickRigger, 0, LoadJobLine(task).riggerID);
   if (picked.id < 1) return;
   SetLineRigger(task, picked.id);

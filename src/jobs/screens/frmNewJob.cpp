@@ -21,7 +21,8 @@ frmNewJob::frmNewJob() : ui_(std::make_unique<Ui::frmNewJob>()) {
 
 frmNewJob::~frmNewJob() = default;
 
-void frmNewJob::SetJob(int customerID, const QString& name, Date date) {
+void frmNewJob::SetJob(int jobID, int customerID, const QString& name, Date date) {
+  jobID_ = jobID;
   customerID_ = customerID;
   jobToLoad_ = 0;
   ui_->txtName->setText(name);
@@ -50,7 +51,7 @@ void frmNewJob::Accept() {
 
 /// False when the name is taken and the form stays.
 bool frmNewJob::OfferExistingJob() {
-  const int existing = JobOfCustomerNamed(customerID_, JobName());
+  const int existing = JobOfCustomerNamed(customerID_, JobName(), jobID_);
   if (existing == 0) return true;
   const QString taken = customerID_ == 0 ? u"There is already a job with that name"_s
                                          : PersonDisplayName(customerID_) + u" already has a job with that name"_s;

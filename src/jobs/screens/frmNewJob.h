@@ -16,7 +16,8 @@ class frmNewJob : public Form {
   frmNewJob();
   ~frmNewJob() override;
 
-  void SetJob(int customerID, const QString& name, Date date);
+  /// The row of the new job is there already, under a title of its own.
+  void SetJob(int jobID, int customerID, const QString& name, Date date);
   QString JobName() const;
   Date DateStarted() const { return date_; }
   int JobToLoad() const { return jobToLoad_; }
@@ -29,6 +30,7 @@ class frmNewJob : public Form {
   bool OfferExistingJob();
 
   std::unique_ptr<Ui::frmNewJob> ui_;
+  int jobID_ = 0;
   int customerID_ = 0;
   int jobToLoad_ = 0;
   Date date_;

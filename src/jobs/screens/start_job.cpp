@@ -130,7 +130,7 @@ void StartJobDialog(int customerID, int rigID, int componentID, int& jobID, int 
   if (newJob == 0) return;
 
   auto& form = SharedForm<frmNewJob>();
-  form.SetJob(customerID, ProposedName(seed, customerID, componentID), Today());
+  form.SetJob(newJob, customerID, ProposedName(seed, customerID, componentID), Today());
   form.ShowModal();
   const QString name = form.Tag() == "cancel"_L1 ? QString() : form.JobName();
   const int other = form.JobToLoad();

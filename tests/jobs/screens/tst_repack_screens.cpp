@@ -185,6 +185,18 @@ class TestRepackScreens : public QObject {
     QVERIFY(!Forms::IsShown(u"frmCalc"_s));
   }
 
+  void WhatIsTypedOverTheResultStays() {
+    const FixedClock clock(2026, 3, 15);
+    Form& form = Calculator();
+    TypeInto(form, u"txtEnd"_s, u"12/24/2026"_s);
+    QCOMPARE(TextOf(form, u"txtEnd"_s), u"12/24/2026"_s);
+    QCOMPARE(TextOf(form, u"txtStart"_s), u"3/15/2026"_s);
+    Click(form, u"cmdToday2"_s);
+    QCOMPARE(TextOf(form, u"txtEnd"_s), u"3/15/2026"_s);
+    TypeInto(form, u"txtInt"_s, u"1"_s);
+    QCOMPARE(TextOf(form, u"txtEnd"_s), u"3/16/2026"_s);
+  }
+
   void WhatIsNoDateIsMarkedAndWaits() {
     const FixedClock clock(2026, 3, 15);
     Form& form = Calculator();

@@ -123,6 +123,37 @@ class TestStartJob : public QObject {
     QCOMPARE(LastJobID(), shop.job);
   }
 
+  /// Its row stands under that title already while the name is asked for.
+  void AJobMayBearTheNameOfItsRigAlone() {
+    SampleRig shop;
+    ScreenScript screens;
+    NameIt(screens, u"Blue"_s);
+    int job = 0;
+    StartJobDialog(shop.owner, shop.rig, 0, job, 0, 0, Date());
+    QCOMPARE(JobTitle(job), u"Blue"_s);
+    screens.WhenShown(u"frmNewJob"_s, [&](Form& form) {
+      TypeInto(form, u"txtName"_s, u"Blue"_s);
+      shop.prompts.Expect(u"Blue"_s, u"Olaf Owner already has a job with that name\nWould like like to load it?"_s,
+                          Answer::Yes);
+      Click(form, u"cmdOK"_s);
+    });
+    int second = 0;
+    StartJobDialog(shop.owner, shop.rig, 0, second, 0, 0, Date());
+    QCOMPARE(second, job);
+    QCOMPARE(Counts(shop), u"1|4"_s);
+  }
+
+  /// The name of a crash remnant is no name: the next load clears the job away.
+  void AJobNamedLikeARemnantGoesWithTheNextLoad() {
+    SampleJob shop;
+    ScreenScript screens;
+    NameIt(screens, u"loadme"_s);
+    int job = 0;
+    StartJobDialog(shop.owner, shop.rig, 0, job, 0, 0, Date());
+    QVERIFY(!JobExists(job));
+    QVERIFY(JobExists(shop.job));
+  }
+
   void AJobWithoutACustomerIsToldSo() {
     SampleRig shop;
     int other = 0;
