@@ -46,6 +46,7 @@ class frmJob : public Form {
   // frmJob_gear.cpp
   void ConnectGear();
   void LoadSystemInfo();
+  void ShowPhotos();
   void CheckRigChange();
   void ExplainGearChange();
 

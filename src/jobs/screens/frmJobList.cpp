@@ -59,23 +59,23 @@ frmJobList::frmJobList() : ui_(std::make_unique<Ui::frmJobList>()) {
 frmJobList::~frmJobList() = default;
 
 void frmJobList::BuildMenus() {
-  QMenu* customers = MenuBar()->addMenu(u"Customers"_s);
+  QMenu* customers = MenuBar()->addMenu(u"Cus&tomers"_s);
   customers->addAction(u"Add new customer"_s, this, &frmJobList::AddNewCustomer);
   customers->addAction(u"Delete customer"_s, this, &frmJobList::DeleteSelectedCustomer);
-  QMenu* jobs = MenuBar()->addMenu(u"Jobs"_s);
+  QMenu* jobs = MenuBar()->addMenu(u"&Jobs"_s);
   jobs->addAction(u"Start new job"_s, this, &frmJobList::StartJob);
   jobs->addAction(u"Delete job"_s, this, &frmJobList::DeleteSelectedJob);
-  MenuBar()->addMenu(u"Rig"_s)->addAction(u"Show rig"_s, this, &frmJobList::ShowThisRig);
-  QMenu* search = MenuBar()->addMenu(u"Search"_s);
+  MenuBar()->addMenu(u"R&ig"_s)->addAction(u"Show rig"_s, this, &frmJobList::ShowThisRig);
+  QMenu* search = MenuBar()->addMenu(u"&Search"_s);
   search->addAction(u"by task type"_s, this, &frmJobList::NarrowByTask);
   search->addAction(u"All jobs"_s, this, [this] {
     taskLibID_ = 0;
     LoadJobs(Job());
   });
-  MenuBar()->addMenu(u"Tools"_s)->addAction(u"Delete all empty jobs"_s, this, [this] {
+  MenuBar()->addMenu(u"T&ools"_s)->addAction(u"Delete all empty jobs"_s, this, [this] {
     if (DeleteAllEmptyJobs()) ReloadForm();
   });
-  MenuBar()->addMenu(u"Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
+  MenuBar()->addMenu(u"For&ms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
 }
 
 void frmJobList::SetStart(const JobListStart& start) {

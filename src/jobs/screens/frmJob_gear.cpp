@@ -1,4 +1,5 @@
 #include "core/prompts.h"
+#include "gear/rig_rules.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "jobs/job_components.h"
@@ -25,13 +26,25 @@ void frmJob::ConnectGear() {
   connect(ui_->grid, &Grid::CellEnter, this, act);
   connect(ui_->grid, &Grid::CellF2, this, act);
   connect(ui_->grid, &Grid::CellDelete, this, [this] { gear_->RemoveComponent(); });
+  connect(ui_->chkHidePhotos, &QCheckBox::clicked, this, [this](bool hidden) {
+    SetPhotosHidden(hidden);
+    ShowPhotos();
+  });
   connect(ui_->cmdGearChange, &QPushButton::clicked, this, &frmJob::ExplainGearChange);
   connect(ui_->cmdCurrentComp, &QPushButton::clicked, this, [this] { ShowCurrentComponents(job_.rigID); });
 }
 
 void frmJob::LoadSystemInfo() {
   FillGearGrid(*ui_->grid, job_.jobID, RigExists(job_.rigID) ? job_.rigID : 0);
+  ui_->gearPanel->setVisible(job_.rigID != 0 || componentID_ != 0 || ui_->grid->RowCount() > 0);
+  ShowPhotos();
   CheckRigChange();
+}
+
+void frmJob::ShowPhotos() {
+  const bool hidden = PhotosAreHidden();
+  ui_->chkHidePhotos->setChecked(hidden);
+  for (QLabel* photo : {ui_->imageRig, ui_->imageCanopy}) photo->setVisible(!hidden);
 }
 
 void frmJob::CheckRigChange() {
@@ -40,7 +53,7 @@ void frmJob::CheckRigChange() {
   QString differences;
   if (rigExists) rigComponentsCurrent_ = JobMatchesRig(job_.jobID, job_.rigID, differences);
   const bool differs = hasRig && (!rigExists || !rigComponentsCurrent_);
-  ui_->gearButtons->setVisible(differs);
+  for (QWidget* button : {ui_->cmdGearChange, ui_->cmdCurrentComp}) button->setVisible(differs);
   ui_->lblSystem->setText(rigExists ? RigName(job_.rigID) : u"(n/a)"_s);
 }
 

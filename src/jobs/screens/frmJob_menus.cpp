@@ -83,7 +83,7 @@ void frmJob::BuildMenus() {
   component->addAction(u"Edit selected component"_s, this, [this] { gear_->EditSelectedComponent(); });
   component->addAction(u"Add a component"_s, this, [this] { gear_->InstallComponent(); });
   bar->addMenu(u"&Invoice"_s)->addAction(u"View/Print/Email invoice"_s, this, &frmJob::ShowInvoice);
-  bar->addMenu(u"&Schedule"_s)->addAction(u"Show schedule"_s, this, [this] { OpenSchedule({.rig = job_.rigID}); });
+  bar->addMenu(u"Sched&ule"_s)->addAction(u"Show schedule"_s, this, [this] { OpenSchedule({.rig = job_.rigID}); });
   bar->addMenu(u"&History"_s)->addAction(u"Show history"_s, this, &frmJob::ShowHistory);
   bar->addMenu(u"&Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
 

@@ -99,7 +99,7 @@ void frmTaskType::Load(int taskLibID) {
   taskLibID_ = LoadTaskType(taskLibID, entry) ? taskLibID : 0;
   if (taskLibID_ == 0) entry.modelID = modelID_;
   ShowEntry(entry);
-  ui_->cmdSave->setText(taskLibID_ == 0 ? u"Sa&ve"_s : u"&Update"_s);
+  ui_->cmdSave->setText(taskLibID_ == 0 ? u"&Save"_s : u"&Update"_s);
   ui_->cmdDeleteTaskType->setEnabled(taskLibID_ != 0);
   SelectAllInBox(ui_->txtName);
 }

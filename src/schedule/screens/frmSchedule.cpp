@@ -93,7 +93,7 @@ void frmSchedule::BuildMenus() {
   bar->addMenu(u"&History"_s)->addAction(u"Show history"_s, this, &frmSchedule::ShowHistory);
   bar->addMenu(u"&Print"_s)->addAction(u"Print schedule"_s)->setEnabled(false);
   bar->addMenu(u"&Forms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
-  bar->addAction(u"E&xit"_s, this, &frmSchedule::Cancel);
+  bar->addAction(u"Exit"_s, this, &frmSchedule::Cancel);
 }
 
 void frmSchedule::SetStart(const ScheduleStart& start) {

@@ -1,47 +1,7 @@
-#include <QMenuBar>
-#include <QPushButton>
-
-#include <set>
-
 #include "gear/screens/rig_shop.h"
+#include "support/screens/keyboard.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The controls that Tab reaches from one on, in order, until it comes round.
-QStringList TabRoad(Form& form, const QString& from) {
-  QStringList road;
-  auto* start = &Control<QWidget>(form, from);
-  start->setFocus();
-  QWidget* at = start;
-  do {
-    road << at->objectName();
-    QTest::keyClick(at, Qt::Key_Tab);
-    at = form.focusWidget();
-  } while (at != start && road.size() < 60);
-  return road;
-}
-
-/// Letters that two commands of a form claim together with Alt.
-QStringList ClashesOf(Form& form) {
-  QStringList clashes;
-  std::set<QChar> seen;
-  const auto claim = [&](const QString& text) {
-    const qsizetype at = QString(text).replace(u"&&"_s, u"  "_s).indexOf(u'&');
-    if (at < 0 || at + 1 >= text.size()) return;
-    if (!seen.insert(text.at(at + 1).toLower()).second) clashes << text;
-  };
-  for (QAbstractButton* button : form.findChildren<QAbstractButton*>())
-    if (button->isVisible()) claim(button->text());
-  for (QLabel* label : form.findChildren<QLabel*>())
-    if (label->isVisible() && label->buddy()) claim(label->text());
-  if (auto* bar = form.findChild<QMenuBar*>())
-    for (QAction* action : bar->actions()) claim(action->text());
-  return clashes;
-}
-
-}  // namespace
 
 /// The screens of gear without a mouse.
 class TestGearKeyboard : public QObject {
@@ -54,7 +14,7 @@ class TestGearKeyboard : public QObject {
     RigShop shop;
     shop.OnRigs(shop.ann, [](Form& form) {
       QCOMPARE(
-          TabRoad(form, u"lstCustomers"_s).join(u' '),
+          TabRoad(form, u"lstCustomers"_s),
           u"lstCustomers cmdSearch chkShowSystems optAll optSelected lstGear Grid cmdEnter cmdRemove cmdUpdateTask "
           "Grid2 chkHidePhotos cmdAddRig cmdRename cmdDeleteRig cmdRefresh cmdExit"_s);
     });
@@ -63,7 +23,7 @@ class TestGearKeyboard : public QObject {
   void TabWalksThroughTheComponentScreen() {
     RigShop shop;
     shop.screens.WhenShown(u"frmComponent"_s, [](Form& form) {
-      QCOMPARE(TabRoad(form, u"txtModel"_s).join(u' '),
+      QCOMPARE(TabRoad(form, u"txtModel"_s),
                u"txtModel txtSerial txtColor txtDom txtJumps txtComment chkHidePhotos cmdEdit cmdChangeModel cmdRemove "
                "cmdRefresh cmdUpdateHelp cmdExit"_s);
       Click(form, u"cmdExit"_s);
@@ -73,10 +33,10 @@ class TestGearKeyboard : public QObject {
 
   void NoLetterIsClaimedTwice() {
     RigShop shop;
-    shop.OnRigs(shop.ann, [](Form& form) { QCOMPARE(ClashesOf(form).join(u' '), QString()); });
+    shop.OnRigs(shop.ann, [](Form& form) { QCOMPARE(ClashesOf(form), QString()); });
     const auto check = [&](const QString& name) {
       shop.screens.WhenShown(name, [](Form& form) {
-        QCOMPARE(ClashesOf(form).join(u' '), QString());
+        QCOMPARE(ClashesOf(form), QString());
         PressKey(form, Qt::Key_Escape);
       });
     };

@@ -165,6 +165,28 @@ class TestJob : public QObject {
     shop.Choose(u"Component"_s, u"Edit selected component"_s);
   }
 
+  void PhotosAreHiddenOnDemand() {
+    OpenJob shop;
+    QVERIFY(shop.Shows("imageRig") && shop.Shows("imageCanopy"));
+    Click(shop.Screen(), u"chkHidePhotos"_s);
+    QVERIFY(!shop.Shows("imageRig") && !shop.Shows("imageCanopy"));
+    QCOMPARE(shop.loft.Rows(u"select HidePhotos from tblMisc"_s), QStringList(u"-1"_s));
+    shop.loft.Run(u"update tblMisc set HidePhotos = false"_s);
+    shop.Choose(u"Tools"_s, u"Refresh"_s);
+    QVERIFY(shop.Shows("imageRig") && shop.Shows("imageCanopy"));
+  }
+
+  void WithoutGearThePanelIsHidden() {
+    OpenJob shop;
+    GotoJob(shop.AddJob("No gear", 0, 0));
+    QVERIFY(!shop.Shows("Grid") && !shop.Shows("imageRig"));
+    GotoJob(shop.AddJob("One component", 0, shop.aad));
+    QVERIFY(shop.Shows("Grid") && shop.Shows("imageRig"));
+    shop.loft.Run(u"delete * from tblJobComponents"_s);
+    shop.Open();
+    QVERIFY(shop.Shows("Grid"));
+  }
+
   void ExitHidesTheScreenAndKeepsItLoaded() {
     OpenJob shop;
     Click(shop.Screen(), u"cmdExit"_s);

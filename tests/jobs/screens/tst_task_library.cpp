@@ -221,6 +221,30 @@ class TestTaskLibrary : public QObject {
     QVERIFY(!shop.Texts(form, "lstTasks").contains(u"Line check"_s));
   }
 
+  void AnEntryInUseIsAskedForWithItsLines() {
+    TaskLibrary shop;
+    shop.AddTask(shop.lineCheck);
+    Form& form = shop.Browse();
+    shop.SelectText(form, "lstTasks", u"Line check"_s);
+    const QStringList before = shop.loft.Snapshot();
+    const auto answer = [&](Answer reply) {
+      shop.prompts
+          .Expect(u"Delete Line check?"_s,
+                  u"There is 1 task that uses this task type. If you delete\n"
+                  "this task type, you will also delete that task.\n"
+                  "(you can see this task by accessing Reports/Task Report from the main menu)\n"
+                  "Are you sure you want to delete this task type?"_s,
+                  reply)
+          .WithButtons(Buttons::YesNo);
+      Choose(form, "Delete");
+    };
+    answer(Answer::No);
+    QCOMPARE(shop.loft.ChangesSince(before), QStringList());
+    answer(Answer::Yes);
+    QVERIFY(!TaskLibExists(shop.lineCheck));
+    QVERIFY(LinesOfJob(shop.job).isEmpty());
+  }
+
   void RefreshShowsWhatOthersWrote() {
     TaskLibrary shop;
     Form& form = shop.Browse();

@@ -46,7 +46,7 @@ class TestTaskType : public QObject {
     shop.AddPart("Closing loop", 3);
     const int id = shop.Edit({.name = u"Gear check"_s}, [&](Form& form) {
       QCOMPARE(form.windowTitle(), u"Task Library"_s);
-      QCOMPARE(TextOf(form, u"cmdSave"_s), u"Sa&ve"_s);
+      QCOMPARE(TextOf(form, u"cmdSave"_s), u"&Save"_s);
       QCOMPARE(TextOf(form, u"txtName"_s), u"Gear check"_s);
       QCOMPARE(TextOf(form, u"txtFlatRate"_s), u"0.00"_s);
       QVERIFY(!IsLive(form, "cmdDeleteTaskType"));
