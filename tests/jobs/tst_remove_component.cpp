@@ -67,6 +67,19 @@ class TestRemoveComponent : public QObject {
     QCOMPARE(ComponentRig(shop.reserve), 0);
   }
 
+  /// Of the schedule a removal takes the repack alone; what the component owes by itself is not forgotten.
+  void WorkOnTheComponentAloneStaysDue() {
+    GearShop shop;
+    const int lineCheck = shop.AddEntry("Line check", 1, 3, {kMainCanopy});
+    shop.AddSchedule(shop.rig, lineCheck, Day(9, 1, 2026), 0, shop.mainCanopy);
+    shop.AddSchedule(shop.rig, RepackTaskLibID, Day(8, 1, 2026), 0, 0);
+    const QStringList schedules = shop.Schedules();
+    shop.prompts.Expect(u"Remove Main Canopy - Sabre "_s, kSure, Answer::Yes);
+    QVERIFY(Remove(shop, shop.mainCanopy));
+    QCOMPARE(ComponentRig(shop.mainCanopy), 0);
+    QCOMPARE(shop.Schedules(), schedules);
+  }
+
   void AnotherRigKeepsItsRepack_data() {
     QTest::addColumn<Answer>("answer");
     QTest::newRow("leaves the rig") << Answer::Yes;
