@@ -10,6 +10,10 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+constexpr int kMostGearRows = 8;
+}
+
 void frmJob::ConnectGear() {
   SetUpGearGrid(*ui_->grid);
   gear_ = std::make_unique<JobGearCommands>(JobGearCommands::Screen{.grid = ui_->grid,
@@ -36,6 +40,7 @@ void frmJob::ConnectGear() {
 
 void frmJob::LoadSystemInfo() {
   FillGearGrid(*ui_->grid, job_.jobID, RigExists(job_.rigID) ? job_.rigID : 0);
+  ui_->grid->FitHeight(kMostGearRows);
   ui_->gearPanel->setVisible(job_.rigID != 0 || componentID_ != 0 || ui_->grid->RowCount() > 0);
   ShowPhotos();
   CheckRigChange();
