@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QOperatingSystemVersion>
+#include <QProcess>
 #include <QStandardPaths>
+#include <QStorageInfo>
 
 #ifndef Q_OS_WIN
 #include <fcntl.h>
@@ -52,6 +54,29 @@ QString PlatformPath(const QString& path) {
 }
 
 QString CommonDataFolder() { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
+
+QStringList DriveFolders() {
+  QStringList folders;
+  for (const QFileInfo& drive : QDir::drives()) folders << QDir::toNativeSeparators(drive.absoluteFilePath());
+  // Where drives have no letters, they show as folders, in between those of the system itself.
+  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+    const QString root = volume.rootPath();
+    const bool isMedium = root.startsWith("/media/"_L1) || root.startsWith("/run/media/"_L1) ||
+                          root.startsWith("/mnt/"_L1) || root.startsWith("/Volumes/"_L1);
+    if (isMedium && volume.isReady() && !folders.contains(root)) folders << root;
+  }
+  return folders;
+}
+
+bool OpenAddress(const QString& address) {
+#if defined(Q_OS_WIN)
+  return QProcess::startDetached(u"explorer"_s, {address});
+#elif defined(Q_OS_MACOS)
+  return QProcess::startDetached(u"open"_s, {address});
+#else
+  return QProcess::startDetached(u"xdg-open"_s, {address});
+#endif
+}
 
 void SyncFolder([[maybe_unused]] const QString& folder) {
 #ifndef Q_OS_WIN

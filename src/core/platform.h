@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -10,6 +11,12 @@ QString PlatformPath(const QString& path);
 
 /// The folder that holds the data folders of programs, without a closing separator.
 QString CommonDataFolder();
+
+/// The folders where the drives begin that a person keeps files on.
+QStringList DriveFolders();
+
+/// Shows an address of the web in the person's browser. False when there is none.
+bool OpenAddress(const QString& address);
 
 /// Brings a folder's list of names to the disk, so that a file renamed into it survives a power cut.
 void SyncFolder(const QString& folder);

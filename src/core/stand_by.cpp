@@ -12,4 +12,8 @@ void UnloadStandBy() {
   if (installed.unload) installed.unload();
 }
 
+void PauseOnStandBy() {
+  if (installed.pause) installed.pause();
+}
+
 void SetStandByNotice(StandByNotice notice) { installed = notice; }

@@ -18,22 +18,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void LetGoOfFile() {
-  if (ConnectionIsOpen) ConnectionClose();
-  ReleaseDatabaseFile();
-}
-
-QString BackupFolder() { return PlatformPath(DataPath + u"backup/"_s); }
-
 void RemoveFile(const QString& path) {
   if (ExistFile(path) && !QFile::remove(path)) throw Failure(u"Path/File access error"_s);
 }
 
 }  // namespace
 
+void LetGoOfDatabaseFile() {
+  if (ConnectionIsOpen) ConnectionClose();
+  ReleaseDatabaseFile();
+}
+
+QString BackupFolder() { return PlatformPath(DataPath + u"backup/"_s); }
+
 void xCreatedbFile(const QString& myDb) {
   Trap(u"Sub xCreatedbFile"_s, [&] {
-    LetGoOfFile();
+    LetGoOfDatabaseFile();
     QString source = SupportFile(u"blank.mdb"_s);
     if (!ExistFile(source)) source = ProgramFile(u"blank.mdb"_s);
     if (!source.isEmpty()) {
@@ -59,7 +59,7 @@ void CreateNewDatabase() {
 }
 
 bool IsValidDatabase(const QString& path) {
-  LetGoOfFile();
+  LetGoOfDatabaseFile();
   const QString live = std::exchange(ConnectionString, ConnectionStringFor(path));
   bool valid = true;
   try {
@@ -72,6 +72,12 @@ bool IsValidDatabase(const QString& path) {
   }
   ConnectionString = live;
   return valid;
+}
+
+bool AcceptDatabase(const QString& path) {
+  if (IsValidDatabase(path)) return true;
+  MsgBox(path + u" is NOT a valid Loftkeep database file"_s, u"Invalid file"_s);
+  return false;
 }
 
 QString NextDBfile() {
@@ -89,7 +95,7 @@ QString NextDBfile() {
 void MakeBackupCopy(bool deleteOriginal, QString& fileName) {
   fileName.clear();
   Trap(u"Sub MakeBackupCopy"_s, [&] {
-    LetGoOfFile();
+    LetGoOfDatabaseFile();
     const QString name = NextDBfile();
     if (!MyFileCopy(DatabaseFile(), BackupFolder() + name)) return;
     fileName = name;
@@ -102,10 +108,7 @@ bool InstallDatabaseFile(const QString& path) {
     MsgBox(path, u"File doesn't exist"_s);
     return false;
   }
-  if (!IsValidDatabase(path)) {
-    MsgBox(path + u" is NOT a valid Loftkeep database file"_s, u"Invalid file"_s);
-    return false;
-  }
+  if (!AcceptDatabase(path)) return false;
   return Trap(u"Sub InstallDatabaseFile"_s, [&] {
     if (ExistFile(DatabaseFile())) {
       QString backup;

@@ -11,8 +11,15 @@ void xCreatedbFile(const QString& myDb);
 /// Makes the live database file and brings it to the schema.
 void CreateNewDatabase();
 
+/// Closes the connection and the file behind it.
+void LetGoOfDatabaseFile();
+
 /// True when the file is a database that holds the program's main tables.
 bool IsValidDatabase(const QString& path);
+/// The same, with a box when it is none.
+bool AcceptDatabase(const QString& path);
+
+QString BackupFolder();  ///< with its closing separator
 
 /// Name of the next numbered copy in the backup folder: one above the highest, "db00001.mdb" for the first.
 QString NextDBfile();

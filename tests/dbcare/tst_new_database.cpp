@@ -4,9 +4,9 @@
 #include "core/access.h"
 #include "core/data_folder.h"
 #include "core/files.h"
-#include "dbcare/check_fields.h"
 #include "dbcare/new_database.h"
 #include "support/data_home.h"
+#include "support/exported_loft.h"
 #include "support/scripted_prompts.h"
 
 using namespace Qt::StringLiterals;
@@ -35,7 +35,7 @@ class NewDatabaseTest : public QObject {
 
   void AnEmptyDatabaseIsCopied() {
     ScriptedPrompts prompts;
-    MakeDatabase(SupportFile(u"blank.mdb"_s), u"Copied"_s);
+    MakeDatabaseFile(SupportFile(u"blank.mdb"_s), u"Copied"_s);
     prompts.ExpectBox(u"Create new database"_s,
                       u"Preparing to create new database.\n\nThis should take just a few seconds .........."_s);
     CreateNewDatabase();
@@ -45,7 +45,7 @@ class NewDatabaseTest : public QObject {
   void TellsAValidDatabase() {
     ScriptedPrompts prompts;
     const QString good = Folder() / u"good.mdb"_s;
-    MakeDatabase(good, u"Lee"_s);
+    MakeDatabaseFile(good, u"Lee"_s);
     QVERIFY(IsValidDatabase(good));
     ConnectionString = ConnectionStringFor(good);
     UpdateTableBySQL(u"delete * from tblPeople"_s);
@@ -69,7 +69,7 @@ class NewDatabaseTest : public QObject {
 
   void ABackupIsTheWholeFile() {
     ScriptedPrompts prompts;
-    MakeDatabase(DatabaseFile(), u"Lee"_s);
+    MakeDatabaseFile(DatabaseFile(), u"Lee"_s);
     QString name;
     MakeBackupCopy(false, name);
     QCOMPARE(name, u"db00001.mdb"_s);
@@ -82,9 +82,9 @@ class NewDatabaseTest : public QObject {
 
   void AFileIsInstalledAfterABackup() {
     ScriptedPrompts prompts;
-    MakeDatabase(DatabaseFile(), u"Old"_s);
+    MakeDatabaseFile(DatabaseFile(), u"Old"_s);
     const QString other = Folder() / u"other.mdb"_s;
-    MakeDatabase(other, u"New"_s);
+    MakeDatabaseFile(other, u"New"_s);
     ConnectionString = ConnectionStringFor(other);
     {
       Bracket bracket;
@@ -106,7 +106,7 @@ class NewDatabaseTest : public QObject {
 
   void AnInvalidOrMissingFileChangesNothing() {
     ScriptedPrompts prompts;
-    MakeDatabase(DatabaseFile(), u"Old"_s);
+    MakeDatabaseFile(DatabaseFile(), u"Old"_s);
     const QByteArray before = Folder().Read(u"home/loftkeep/loftkeep.mdb"_s);
     const QString words = Folder().Write(u"words.mdb"_s, "no database at all");
     prompts.ExpectBox(u"Invalid file"_s, words + u" is NOT a valid Loftkeep database file"_s);
@@ -118,15 +118,6 @@ class NewDatabaseTest : public QObject {
   }
 
  private:
-  static void MakeDatabase(const QString& path, const QString& lastName) {
-    const QString before = std::exchange(ConnectionString, ConnectionStringFor(path));
-    Database::CreateFile(path);
-    CheckAllFields(false);
-    UpdateTableBySQL(u"insert into tblPeople (LastName) values ('%1')"_s.arg(lastName));
-    ReleaseDatabaseFile();
-    ConnectionString = before.isEmpty() ? ConnectionStringFor(path) : before;
-  }
-
   const TempFolder& Folder() const { return home_->Folder(); }
 
   std::unique_ptr<DataHome> home_;

@@ -5,7 +5,6 @@
 frmInstall::frmInstall() : ui_(std::make_unique<Ui::frmInstall>()) {
   ui_->setupUi(this);
   SetRemembersPlace(false);
-  ui_->optCurrent->setEnabled(false);  // comes with the exchange of whole installations
   connect(ui_->cmdOK, &QPushButton::clicked, this, [this] { Leave(); });
   connect(ui_->cmdCancel, &QPushButton::clicked, this, [this] { Cancel(); });
 }

@@ -14,6 +14,7 @@
 #include "core/screens/support_listing.h"
 #include "core/screens/window_habits.h"
 #include "dbcare/check_fields.h"
+#include "dbcare/screens.h"
 #include "gear/screens.h"
 #include "history/screens.h"
 #include "jobs/repack_price.h"
@@ -33,6 +34,18 @@ void CheckDatabaseFields() {
     return;
   CheckAllFields(true);
   MsgBox(u"Finished checking database tables and fields."_s, u"Done"_s);
+}
+
+void ImportData() {
+  if (!AskYes(
+          Lines({u"You are about to import your Loftkeep data"_s, u"files.  This assumes that you have run Loftkeep"_s,
+                 u"on another system and exported your files there."_s}),
+          kProgramTitle))
+    return;
+  HideForms();  // what they show and would still save belongs to the present database
+  if (!ImportFromFolder()) return;
+  CheckAllFields(true);
+  CheckDatabaseOnStart();
 }
 
 void ShowDatabaseName() { MsgBox(DatabasePath(), u"Your database file is:"_s); }
@@ -164,8 +177,8 @@ std::vector<MenuLine> MainMenu() {
       {photos, u"Show all customer photos"_s, kLater},
       {photos, u"Show deleted photos"_s, kLater},
       {photos, u"Audit photos"_s, kLater},
-      {tools, u"Export data to another computer"_s, kLater},
-      {tools, u"Import data from another computer"_s, kLater},
+      {tools, u"Export data to another computer"_s, ExportToFolder},
+      {tools, u"Import data from another computer"_s, ImportData},
       {tools, u"View support files"_s, ShowSupportListing},
       {tools, u"Select Loftkeep program owner"_s, kLater},
       {tools, QString(), {}},
@@ -179,7 +192,7 @@ std::vector<MenuLine> MainMenu() {
       {install, u"from any file location"_s, kLater},
       {install, u"from backup folder only"_s, kLater},
       {database, u"Get stored database file from Loftkeep server"_s, kLater},
-      {database, u"Export backup database files to another location"_s, kLater},
+      {database, u"Export backup database files to another location"_s, ExportBackupFiles},
       {database, u"Create a new database"_s, kLater},
       {database, u"Display current database file name"_s, ShowDatabaseName},
       {help, u"Help"_s, kLater},

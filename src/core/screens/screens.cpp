@@ -74,5 +74,6 @@ void InstallStandByNotice() {
   SetStandByNotice({[](const QString& text) { SharedForm<frmStandBy>().ShowText(text); },
                     [] {
                       if (auto* form = FormIfLoaded<frmStandBy>()) form->UnloadForm();
-                    }});
+                    },
+                    [] { WaitSeconds(0.3); }});
 }

@@ -92,6 +92,20 @@ void MakeDatabase() {
   bracket.Close();
 }
 
+/// Takes over the data files of another computer, whose database is used from then on.
+bool ImportOnFirstRun() {
+  return AskYes(Lines({u"Importing data files from another computer"_s,
+                       u"On the next screen, you will select the folder"_s,
+                       u"where your exported Loftkeep files are located."_s,
+                       u"This assumes that you have run Loftkeep on a "_s,
+                       u"different computer and have used the EXPORT tool"_s,
+                       u"to move your data files to a designated folder"_s,
+                       u"(see TOOLS - export data to another computer) "_s,
+                       u"Are you ready to select the folder to import files? "_s}),
+                u"Select import folder"_s) &&
+         ImportFromFolder();
+}
+
 void AskForOwner() {
   int owner = 0;
   MsgBox(Lines({u"Please enter your name"_s, QString(), u"Press OK to continue"_s}), u"Your Information"_s);
@@ -186,7 +200,15 @@ void FirstRunSetup(bool forNewDatabase) {
     choice = form.Result();
     form.UnloadForm();
   }
-  if (choice != frmInstall::Choice::NewUser) {
+  if (choice == frmInstall::Choice::CurrentUser) {
+    if (ImportOnFirstRun()) return;
+    if (!AskYes(Lines({u"Importing cancelled."_s, QString(), u"Would you like to continue as a new user?"_s}),
+                kProgramTitle)) {
+      MsgBox(u"Exiting Loftkeep"_s);
+      Stop();
+      return;
+    }
+  } else if (choice == frmInstall::Choice::None) {
     MsgBox(u"You have chosen to cancel the Loftkeep setup process."_s, u"Loftkeep Setup Cancelled"_s);
     Stop();
     return;

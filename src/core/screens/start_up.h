@@ -13,7 +13,8 @@ void LeaveDataFolder();
 /// gave up, and a database that can't be had, leave ConnectionCount at -999.
 void CheckFolderSystem();
 
-/// Makes a new loft with the person's name and repack cycle. `forNewDatabase` leaves out the question who is asking.
+/// Makes a new loft with the person's name and repack cycle, or takes over the one of another computer.
+/// `forNewDatabase` leaves out the question who is asking.
 void FirstRunSetup(bool forNewDatabase);
 
 /// The fixes that run once before the first screen.

@@ -1,3 +1,4 @@
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -170,11 +171,18 @@ class TestDialogs : public QObject {
     PressKey(*form, Qt::Key_Escape);
     form->close();
     QVERIFY(Forms::IsShown(u"frmStandBy"_s));
+    QElapsedTimer timer;
+    timer.start();
+    PauseOnStandBy();
+    QVERIFY(timer.elapsed() >= 100);
     UnloadStandBy();
     QVERIFY(Forms::Names().isEmpty());
     UnloadStandBy();
     SetStandByNotice({});
     ShowStandBy();
+    timer.restart();
+    PauseOnStandBy();
+    QVERIFY(timer.elapsed() < 100);
     QVERIFY(Forms::Names().isEmpty());
   }
 

@@ -124,6 +124,8 @@ class HomeCommandsTest : public QObject {
     row({u"Reports"_s, u"Component history (canopy, container, etc)"_s}, "frmPickComponent", "Select component");
     row({u"Reports"_s, u"Show jobs which use a selected task type"_s}, "frmPicker", "Task Library");
     row({u"Tools"_s, u"View support files"_s}, "frmMessage", "Support files");
+    row({u"Database"_s, u"Export backup database files to another location"_s}, "frmFolders",
+        "Export back up database files");
   }
   void AMenuCommandOpensItsDialog() {
     QFETCH(QStringList, road);
@@ -291,6 +293,20 @@ class HomeCommandsTest : public QObject {
     QVERIFY(!ConnectionIsOpen);
     ChooseMenu(home.page, {u"Forms"_s, u"Close all open forms"_s});
     QCOMPARE(Forms::Names(), (QStringList{u"frmMain2"_s, u"frmMenu"_s}));
+  }
+
+  void TheDataAreExportedFromTheMenu() {
+    const DataHome data;
+    data.Folder().MakeFolder(u"home/loftkeep/support"_s);
+    Home home;
+    home.prompts.AnswerRestWith([](const ShownPrompt&) { return Answer::Yes; });
+    home.screens.WhenShown(u"frmFolders"_s, [](Form& folders) {
+      QCOMPARE(folders.windowTitle(), u"Select or create an empty folder for file exporting"_s);
+      PressKey(folders, Qt::Key_Escape);
+    });
+    ChooseMenu(home.page, {u"Tools"_s, u"Export data to another computer"_s});
+    QCOMPARE(home.prompts.Transcript().first().title, u"Move Loftkeep"_s);
+    QCOMPARE(home.prompts.Transcript().last().title, u"Select a destingation folder"_s);
   }
 
   void AboutStandsOverTheHomePage() {
