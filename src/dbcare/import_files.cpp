@@ -57,8 +57,7 @@ void ShowStep(const QString& text) {
 
 bool ImportDatabase(const QString& folder) {
   ShowStandBy(u"copying database file......"_s);
-  LetGoOfDatabaseFile();
-  const bool copied = MyFileCopy(JoinPath(folder, u"loftkeep.mdb"_s), DatabaseFile());
+  const bool copied = ReplaceDatabaseFile(JoinPath(folder, u"loftkeep.mdb"_s));
   if (copied) ShowStep(u"Database file imported"_s);
   return copied;
 }

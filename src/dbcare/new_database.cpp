@@ -103,6 +103,14 @@ void MakeBackupCopy(bool deleteOriginal, QString& fileName) {
   });
 }
 
+bool ReplaceDatabaseFile(const QString& path) {
+  LetGoOfDatabaseFile();
+  if (!MyFileCopy(path, DatabaseFile())) return false;
+  // What an interrupted write of the old database left behind would be rolled back into the new one.
+  RemoveFile(DatabaseFile() + u"-journal"_s);
+  return true;
+}
+
 bool InstallDatabaseFile(const QString& path) {
   if (!ExistFile(path)) {
     MsgBox(path, u"File doesn't exist"_s);
@@ -118,7 +126,7 @@ bool InstallDatabaseFile(const QString& path) {
                     u"named '"_s + backup + u"' has been created and placed  "_s, u"in the Loftkeep backup folder"_s}),
              u"Back up created"_s);
     }
-    if (!MyFileCopy(path, DatabaseFile())) throw Failure(u"The file could not be copied"_s);
+    if (!ReplaceDatabaseFile(path)) throw Failure(u"The file could not be copied"_s);
     CheckAllFields(false);
     CreateSubFolders();
     MsgBox(u"Database installation complete"_s, u"Done"_s);

@@ -28,6 +28,10 @@ QString NextDBfile();
 /// goes to `fileName`; it stays empty when the copy could not be made, and the original stays too.
 void MakeBackupCopy(bool deleteOriginal, QString& fileName);
 
+/// Copies a file to the place of the live database, which holds its old content until the copy is whole. True when it
+/// was copied; a failure shows its box.
+bool ReplaceDatabaseFile(const QString& path);
+
 /// Puts a valid database in the place of the live one, after a backup, and brings it to the schema. An invalid file
 /// gets its box, and nothing changes. True when it was installed.
 bool InstallDatabaseFile(const QString& path);

@@ -38,7 +38,7 @@ QString FirstLine(const QString& path) { return ReadLines(path).value(0).trimmed
 
 void OfferNewerVersion(const QString& number) {
   QStringList digits;
-  for (int i = 0; i < kNumbers; ++i) digits << number.mid(i, 1);
+  for (const QChar digit : number.left(kNumbers)) digits << digit;
   QStringList lines{u"You are currently running Loftkeep version "_s + VersionNumbers().join(u'.'), QString(),
                     u"You are attempting to import files from version "_s + digits.join(u'.'),      QString(),
                     u"You must be using the latest version of Loftkeep before importing files."_s,  QString()};

@@ -1,6 +1,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <sqlite3.h>
+
 #include "core/access.h"
 #include "core/data_folder.h"
 #include "core/files.h"
@@ -104,6 +106,18 @@ class NewDatabaseTest : public QObject {
     QVERIFY(tasks.ColumnOf(u"LocationID") > 0);
   }
 
+  void AnInterruptedWriteOfTheOldFileLeavesTheNewOneAlone() {
+    ScriptedPrompts prompts;
+    MakeDatabaseFile(DatabaseFile(), u"Old"_s);
+    InterruptWrite();
+    const QString other = Folder() / u"other.mdb"_s;
+    MakeDatabaseFile(other, u"New"_s);
+    const QByteArray before = Folder().Read(u"other.mdb"_s);
+    QVERIFY(ReplaceDatabaseFile(other));
+    QCOMPARE(CustomersIn(DatabaseFile()), QStringList{u"New"_s});
+    QCOMPARE(Folder().Read(u"home/loftkeep/loftkeep.mdb"_s), before);
+  }
+
   void AnInvalidOrMissingFileChangesNothing() {
     ScriptedPrompts prompts;
     MakeDatabaseFile(DatabaseFile(), u"Old"_s);
@@ -118,6 +132,23 @@ class NewDatabaseTest : public QObject {
   }
 
  private:
+  /// Leaves the live database as a power cut does in the middle of a big write: with the journal that undoes it.
+  void InterruptWrite() const {
+    sqlite3* handle = nullptr;
+    QCOMPARE(sqlite3_open(DatabaseFile().toUtf8().constData(), &handle), SQLITE_OK);
+    QCOMPARE(sqlite3_exec(handle,
+                          "PRAGMA cache_size = 1; BEGIN; CREATE TABLE big (t);"
+                          "WITH RECURSIVE n(i) AS (VALUES (1) UNION ALL SELECT i + 1 FROM n WHERE i < 200)"
+                          "INSERT INTO big SELECT hex(zeroblob(2000)) FROM n; UPDATE tblModels SET Name = 'x'",
+                          nullptr, nullptr, nullptr),
+             SQLITE_OK);
+    const QByteArray journal = Folder().Read(u"home/loftkeep/loftkeep.mdb-journal"_s);
+    sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(handle);
+    QVERIFY(journal.startsWith("\xd9\xd5"));
+    Folder().Write(u"home/loftkeep/loftkeep.mdb-journal"_s, journal);
+  }
+
   const TempFolder& Folder() const { return home_->Folder(); }
 
   std::unique_ptr<DataHome> home_;

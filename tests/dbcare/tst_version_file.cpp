@@ -80,7 +80,7 @@ class VersionFileTest : public QObject {
 
   void WithoutABrowserThePersonIsTold() {
     ScriptedPrompts prompts;
-    home_->Folder().Write(u"export/support/version.txt"_s, "300");
+    home_->Folder().Write(u"export/support/version.txt"_s, "3000");
     home_->Folder().Write(u"work/download.txt"_s, "https://loft.example/new\n");
     const QByteArray pathBefore = qgetenv("PATH");
     qputenv("PATH", home_->Folder().MakeFolder(u"nothing"_s).toUtf8());

@@ -1,6 +1,7 @@
 #include "dbcare/screens/frmFolders.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QMenuBar>
 #include <QStandardPaths>
 
@@ -76,7 +77,17 @@ void frmFolders::BuildMenu() {
   });
 }
 
-void frmFolders::FillDrives() { ui_->cboDrive->addItems(DriveFolders()); }
+void frmFolders::FillDrives() {
+  ui_->cboDrive->clear();
+  ui_->cboDrive->addItems(DriveFolders());
+  ui_->cboDrive->setCurrentIndex(DriveOf(folder_, *ui_->cboDrive));
+}
+
+bool frmFolders::eventFilter(QObject* watched, QEvent* event) {
+  // A drive may have been plugged in since the screen came up.
+  if (watched == ui_->cboDrive && event->type() == QEvent::FocusIn) FillDrives();
+  return Form::eventFilter(watched, event);
+}
 
 void frmFolders::ConnectControls() {
   connect(ui_->tree->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
@@ -85,6 +96,7 @@ void frmFolders::ConnectControls() {
   // The names come from the disk a while after the tree shows, and push the selected one away.
   connect(folders_, &QFileSystemModel::directoryLoaded, this,
           [this] { ui_->tree->scrollTo(ui_->tree->currentIndex()); });
+  ui_->cboDrive->installEventFilter(this);
   connect(ui_->cboDrive, &QComboBox::textActivated, this, &frmFolders::GoTo);
   connect(ui_->cboPaths, &QComboBox::textActivated, this, &frmFolders::GoToSavedPath);
   connect(ui_->cmdDocuments, &QPushButton::clicked, this, [this] { GoTo(Documents()); });

@@ -24,6 +24,8 @@ class frmFolders : public Form {
   void GoTo(const QString& folder);
   QString Folder() const { return folder_; }
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void BuildMenu();
   void FillDrives();
