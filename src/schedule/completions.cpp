@@ -10,10 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A line never touched the component that an empty place lacks.
 bool TaskTouched(int taskID, int componentID) {
-  return GetNumberRecordsComplex(
+  return componentID != 0 &&
+         GetNumberRecordsComplex(
              u"Select * from tblTaskComponents where TaskID = %1 and CompID = %2"_s.arg(taskID).arg(componentID))
-             .ToInt() > 0;
+                 .ToInt() > 0;
 }
 
 /// When a line is a completed repack; no date otherwise.
@@ -25,7 +27,7 @@ Date DateOfRepack(int taskID) {
 
 /// Of two completions on one day the one that was entered first counts.
 bool IsLater(const Completion& done, const Completion& latest) {
-  return done.date > latest.date || (done.date == latest.date && !done.date.IsNone() && done.taskID < latest.taskID);
+  return done.date > latest.date || (done.date == latest.date && done.taskID < latest.taskID);
 }
 
 /// Hands over the completed work on components, narrowed by a condition.
@@ -119,7 +121,7 @@ Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
 Date LastRepackOfPair(int containerID, int reserveID, int& taskID) {
   Date date;
   taskID = 0;
-  if (containerID == 0 || reserveID == 0) return date;
+  if (containerID == 0) return date;
   Trap(u"Function LastRepackOfPair"_s, [&] {
     Bracket bracket;
     for (const Recordset& row : Rows(u"Select * from tblTaskComponents where CompID = %1"_s.arg(containerID))) {

@@ -73,10 +73,8 @@ class Loader {
   void DoComponentExpiration() {
     QList<int> models;
     GetArrayOfModelsWithServiceLife(models);
-    for (int model : models) {
-      if (model == 0) continue;
+    for (int model : models)
       for (const Recordset& row : Rows(u"Select * from tblComponents where ModelID = %1"_s.arg(model))) AddEnd(row);
-    }
   }
 
   void AddEnd(const Recordset& row) {

@@ -73,6 +73,40 @@ class TestCompletions : public QObject {
     QCOMPARE(task, 0);
   }
 
+  void OfCompletionsOnOneDayAComponentTakesTheFirst() {
+    SampleRig shop;
+    const Date day = Day(2, 5, 2026);
+    const int first = shop.AddDone(shop.aadCheck, day, {}, shop.rig);
+    shop.AddDone(shop.aadCheck, day, {shop.aad}, shop.rig);
+    shop.loft.Add("tblTaskComponents", {{"TaskID", first}, {"CompID", shop.aad}, {"Complete", true}});
+    shop.AddDone(shop.aadCheck, day, {shop.aad}, shop.rig);
+    int task = 0;
+    QCOMPARE(LastCompletionForComponent(shop.aad, shop.aadCheck, task), day);
+    QCOMPARE(task, first);
+    QCOMPARE(LatestOf(AllCompletions().value(shop.aad), shop.aadCheck).taskID, first);
+  }
+
+  void OfCompletionsOnOneDayARigTakesTheLast() {
+    SampleRig shop;
+    shop.AddRepack(Day(2, 5, 2026));
+    const int last = shop.AddRepack(Day(2, 5, 2026));
+    int task = 0;
+    QCOMPARE(LastCompletionForRig(shop.rig, RepackTaskLibID, task), Day(2, 5, 2026));
+    QCOMPARE(task, last);
+  }
+
+  void AMissingReserveMatchesNoWork() {
+    SampleRig shop;
+    const int task = shop.AddRepack(Day(2, 5, 2026));
+    shop.loft.Add("tblTaskComponents", {{"TaskID", task}, {"CompID", 0}, {"Complete", true}});
+    shop.loft.Run(u"update tblComponents set RigID = 0 where ID = %1"_s.arg(shop.reserve));
+    QVERIFY(!TaskMatchesRig(task, shop.rig, RepackTaskLibID));
+    int found = 0;
+    QVERIFY(LastRepackOfPair(shop.container, 0, found).IsNone());
+    QVERIFY(LastRepackOfPair(0, shop.reserve, found).IsNone());
+    QCOMPARE(found, 0);
+  }
+
   void AnEntryTellsTheTypesItConcerns() {
     SampleRig shop;
     QList<int> types;

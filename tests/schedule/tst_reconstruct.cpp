@@ -43,6 +43,27 @@ class TestReconstruct : public QObject {
              (QStringList{row, row, SampleRig::ScheduleRow(0, entry, Day(2, 1, 2026), Day(2, 1, 2027), other, 0)}));
   }
 
+  void AnEntryWithoutRequiredTypesNamesNoComponent() {
+    SampleRig shop;
+    const int wash = shop.AddEntry("Wash", 1, 3);
+    const int line = shop.AddDone(wash, Day(3, 1, 2026), {shop.aad}, shop.rig);
+    ReconstructSchedules();
+    QCOMPARE(shop.Schedules(),
+             QStringList(SampleRig::ScheduleRow(shop.rig, wash, Day(3, 1, 2026), Day(3, 1, 2027), line, 0)));
+  }
+
+  void RowsComeByComponentTypeAndThenByEntry() {
+    SampleRig shop;
+    const int battery = shop.AddEntry("Battery", 2, 3, {kAad});
+    const int reline = shop.AddEntry("Reline", 5, 3, {kMainCanopy});
+    const int loose = shop.AddComponent("Stiletto", kMainCanopy, 0);
+    for (int entry : {battery, shop.aadCheck}) shop.AddDone(entry, Day(3, 1, 2026), {shop.aad}, shop.rig);
+    shop.AddDone(reline, Day(3, 1, 2026), {loose}, 0);
+    ReconstructSchedules();
+    QCOMPARE(shop.loft.Rows(u"select TaskLibID from tblSchedules order by ID"_s),
+             (QStringList{QString::number(reline), QString::number(shop.aadCheck), QString::number(battery)}));
+  }
+
   void AComponentInNoRigHasARowOfItsOwn() {
     SampleRig shop;
     const int loose = shop.AddComponent("Vigil", kAad, 0);

@@ -88,8 +88,12 @@ class TestRigAudit : public QObject {
     SampleRig shop;
     shop.loft.Run(u"update tblModels set ServiceLife = 144 where Name = 'Cypres' or Name = 'Raven'"_s);
     shop.loft.Run(u"update tblComponents set DOM = %1 where ID = %2"_s.arg(Day(3, 14, 2014).Days()).arg(shop.aad));
-    QCOMPARE(Shown(shop.rig).mid(2), (QStringList{u"Raven expiration||unknown|unknown|0|-1"_s,
-                                                  u"Cypres expiration||03/14/2026|Expired!|2|-1"_s}));
+    // Sorted by type, whatever was entered first.
+    shop.AddComponent("Pilot", kMainCanopy);
+    shop.loft.Run(u"update tblModels set ServiceLife = 144 where Name = 'Pilot'"_s);
+    QCOMPARE(Shown(shop.rig).mid(2),
+             (QStringList{u"Pilot expiration||unknown|unknown|0|-1"_s, u"Raven expiration||unknown|unknown|0|-1"_s,
+                          u"Cypres expiration||03/14/2026|Expired!|2|-1"_s}));
   }
 
   void OneComponentOwesItsOwnWorkAndThatOfItsRig() {
@@ -107,10 +111,23 @@ class TestRigAudit : public QObject {
     UpdateSchedule(shop.aadCheck, 0, spare);
     QCOMPARE(ShownOf(spare), QStringList(u"AAD check|10/01/2025|04/01/2026|17 days|1|%1"_s.arg(shop.aadCheck)));
     QCOMPARE(ShownOf(loose), QStringList());
+    shop.AddComponent("Tempo", kReserveCanopy, 0);  // loose gear is not the gear of one rig
+    QCOMPARE(ShownOf(loose), QStringList());
+    shop.loft.Run(u"update tblComponents set RigID = 77 where ID = %1"_s.arg(loose));
+    QCOMPARE(ShownOf(loose), QStringList());
     shop.loft.Run(u"update tblTaskLib set ModelID = 999 where ID = %1"_s.arg(shop.aadCheck));
     QCOMPARE(ShownOf(spare), QStringList());
     shop.loft.Run(u"update tblTaskLib set ModelID = 0, IsRigTypeSpecific = true where ID = %1"_s.arg(shop.aadCheck));
     QCOMPARE(ShownOf(spare), QStringList());
+  }
+
+  void WorkOnOneComponentIsReadByTheComponent() {
+    SampleRig shop;
+    shop.AddDone(shop.aadCheck, Day(10, 1, 2025), {shop.aad}, 77);
+    UpdateSchedule(shop.aadCheck, 77, shop.aad);
+    const QStringList row(u"AAD check|10/01/2025|04/01/2026|17 days|1|%1"_s.arg(shop.aadCheck));
+    QCOMPARE(ShownOf(shop.aad), row);
+    QCOMPARE(Shown(shop.rig).mid(1), row);
   }
 
   void KnowsWhetherAnythingFallsDueOnAComponent() {

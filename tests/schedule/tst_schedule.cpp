@@ -159,6 +159,19 @@ class TestSchedule : public QObject {
     QCOMPARE(id, 0);
     QCOMPARE(shop.loft.ChangesSince(before), QStringList());
     QCOMPARE(shop.Schedules().size(), 1);
+    // Not even the loss of its completion takes the row.
+    shop.loft.Run(u"delete * from tblTasks"_s);
+    UpdateSchedule(shop.aadCheck, shop.rig, shop.aad);
+    QCOMPARE(shop.Schedules().size(), 1);
+  }
+
+  void ARigsRowFollowsTheWorkOnThatRig() {
+    SampleRig shop;
+    const int here = shop.AddDone(shop.aadCheck, Day(1, 10, 2026), {shop.aad}, shop.rig);
+    shop.AddDone(shop.aadCheck, Day(2, 10, 2026), {shop.aad}, shop.rig + 1);
+    UpdateSchedule(shop.aadCheck, shop.rig, shop.aad);
+    QCOMPARE(shop.Schedules(), QStringList(SampleRig::ScheduleRow(shop.rig, shop.aadCheck, Day(1, 10, 2026),
+                                                                  Day(7, 10, 2026), here, shop.aad)));
   }
 
   void ADueDateThatCantBeBuiltLeavesNoRow() {
@@ -226,8 +239,8 @@ class TestSchedule : public QObject {
 
   void ReadsDueDates() {
     SampleRig shop;
-    shop.AddSchedule(shop.rig, 1, Day(5, 9, 2026), 1, 0);
     shop.AddSchedule(shop.rig, 4, Day(5, 2, 2026), 2, shop.aad);
+    shop.AddSchedule(shop.rig, 1, Day(5, 9, 2026), 1, 0);
     shop.AddSchedule(0, 1, Day(4, 1, 2026), 3, shop.aad);
     QCOMPARE(GetDueDateByRig(shop.rig, 1), Day(5, 9, 2026));
     QCOMPARE(GetDueDateByRig(shop.rig, 2), Date());

@@ -36,10 +36,11 @@ class TestScheduleList : public QObject {
     const int repack = shop.AddRepack(Day(1, 10, 2026));
     shop.AddSchedule(0, shop.aadCheck, Day(8, 1, 2026), 0, shop.aad);
     shop.AddSchedule(shop.rig, RepackTaskLibID, Day(7, 9, 2026), repack, 0);
+    shop.loft.Run(u"update tblSchedules set DateDone = %1 where ID = 1"_s.arg(Day(1, 2, 2026).Days()));
     GiveLife(shop, Day(4, 20, 2014));
     QCOMPARE(Told(),
              QStringList({u"2|Owner, Olaf|Blue/Javelin, Raven|Inspect and repack reserve|01/10/2026|46212|116 days"_s,
-                          u"1|Owner, Olaf|Blue / Cypres|AAD check|02/02/2026|46235|139 days"_s,
+                          u"1|Owner, Olaf|Blue / Cypres|AAD check|01/02/2026|46235|139 days"_s,
                           u"-888|Owner, Olaf|Cypres/Blue|End of service life|Expires on:|46132|36 days"_s}));
     const QList<ScheduleEntry> rows = LoadSchedule({});
     QCOMPARE(rows[1].rigID, shop.rig);  // where the component is now
@@ -47,6 +48,12 @@ class TestScheduleList : public QObject {
     QCOMPARE(rows[2].taskLibID, kServiceLifeRow);
     QCOMPARE(rows[2].componentID, shop.aad);
     QCOMPARE(rows[2].rigID, shop.rig);
+  }
+
+  void AServiceLifeWithoutADateOfManufactureHasNoEnd() {
+    SampleRig shop;
+    GiveLife(shop, Date());
+    QCOMPARE(Told(), QStringList());
   }
 
   void OneTaskIsListedWithoutServiceLives() {

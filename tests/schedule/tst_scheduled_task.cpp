@@ -166,12 +166,29 @@ class TestScheduledTask : public QObject {
     QCOMPARE(GetDueDateByRig(shop.rig, RepackTaskLibID), Day(2, 2, 2026) + 180);
   }
 
+  void WorkThatIsNotOnTheScheduleMayBeOfAnyDay() {
+    SampleRig shop;
+    shop.AddRepack(Day(2, 1, 2026));
+    shop.AddDone(shop.aadCheck, Day(2, 1, 2026), {shop.aad}, shop.rig);
+    shop.prompts.ExpectInput(kProgramTitle, kAskDate, u"1/1/2026"_s);
+    QVERIFY(UpdateScheduledTask(shop.aadCheck, shop.rig, shop.aad));
+    QCOMPARE(GetDueDateByComponent(shop.aad, shop.aadCheck), Day(7, 1, 2026));
+    ExpectRepackQuestion(shop, u"02/01/2026"_s, Answer::No);
+    shop.prompts.ExpectInput(kProgramTitle, kAskDate, u"1/2/2026"_s);
+    QVERIFY(UpdateScheduledTask(RepackTaskLibID, shop.rig, 0));
+    QCOMPARE(GetDueDateByRig(shop.rig, RepackTaskLibID), Day(1, 2, 2026) + 180);
+  }
+
   void FindsTheLatestRepackOfAPairOnAnyRig() {
     SampleRig shop;
     int task = 0;
+    const int open = shop.AddRepack(Day(3, 5, 2026));
+    shop.loft.Run(u"update tblTasks set status = 0, DateTaskCompleted = 0 where ID = %1"_s.arg(open));
     QVERIFY(LastRepackOfPair(shop.container, shop.reserve, task).IsNone());
+    QCOMPARE(task, 0);
     const int latest = shop.AddDone(RepackTaskLibID, Day(2, 1, 2026), {shop.reserve, shop.container}, 77);
     shop.AddRepack(Day(1, 1, 2026));
+    shop.AddRepack(Day(2, 1, 2026));
     shop.AddDone(RepackTaskLibID, Day(3, 1, 2026), {shop.container}, shop.rig);
     shop.AddDone(shop.aadCheck, Day(3, 2, 2026), {shop.container, shop.reserve}, shop.rig);
     QCOMPARE(LastRepackOfPair(shop.container, shop.reserve, task), Day(2, 1, 2026));

@@ -29,6 +29,8 @@ class TestServiceLife : public QObject {
     QCOMPARE(ServiceLifeExpiry(shop.aad), Day(2, 29, 2028));
     shop.loft.Run(u"update tblModels set ServiceLife = 12 where Name = 'Cypres'"_s);
     QCOMPARE(ServiceLifeExpiry(shop.aad), Day(2, 28, 2017));
+    shop.loft.Run(u"update tblModels set ServiceLife = 40000 where Name = 'Cypres'"_s);
+    QVERIFY(ServiceLifeExpiry(shop.aad) > Day(1, 1, 4000));
   }
 
   void ACustomersComponentsWithAServiceLifeAreListed() {
@@ -79,8 +81,10 @@ class TestServiceLife : public QObject {
     GiveLife(shop, Day(4, 13, 2014));
     QVERIFY(WithinCorrectTimeFrame(shop.owner, true, true, 30));
     QVERIFY(!WithinCorrectTimeFrame(shop.rigger, true, true, 30));
-    GiveLife(shop, Day(4, 14, 2014));
-    QVERIFY(!WithinCorrectTimeFrame(shop.owner, true, true, 30));
+    for (const Date manufactured : {Day(4, 14, 2014), Date()}) {
+      GiveLife(shop, manufactured);
+      QVERIFY(!WithinCorrectTimeFrame(shop.owner, true, true, 30));
+    }
   }
 };
 

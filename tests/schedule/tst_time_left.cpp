@@ -19,7 +19,9 @@ class TestTimeLeft : public QObject {
     };
     row(5000, u"14 years"_s, u"14 years"_s, u"14 years left"_s);
     row(1465, u"4 years"_s, u"4 years"_s, u"4 years left"_s);
+    row(1643, u"5 years"_s, u"5 years"_s, u"5 years left"_s);
     row(1464, u"48 months"_s, u"48 months"_s, u"48 months left"_s);
+    row(382, u"13 months"_s, u"13 months"_s, u"13 months left"_s);
     row(367, u"12 months"_s, u"12 months"_s, u"12 months left"_s);
     row(366, u"366 days"_s, u"366 days"_s, u"366 days left"_s);
     row(2, u"2 days"_s, u"2 days"_s, u"2 days left"_s);
