@@ -101,7 +101,7 @@ QList<GearPlace> LoadJobGear(int jobID, int rigID) {
     Bracket bracket;
     DeleteVanishedComponents(jobID);
     if (const int rigType = rigID == 0 ? 0 : RigType(rigID); rigType != 0) {
-      for (int type : ComponentTypesOfRigType(rigType, true)) places.append({type, JobComponentOfType(jobID, type)});
+      for (int type : ComponentTypesOfRigType(rigType)) places.append({type, JobComponentOfType(jobID, type)});
     } else {
       for (int component : ComponentsOfJob(jobID)) places.append({ComponentTypeOf(component), component});
     }

@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 
 int JobOfScheduledTask(int taskID, int rigID) {
-  const int jobID = taskID > 0 ? LineField(taskID, u"JobID"_s).ToInt() : 0;
+  const int jobID = LineField(taskID, u"JobID"_s).ToInt();
   if (jobID < 1) {
     MsgBox(Lines(
         {u"This event was not part of a rigging job."_s, u"To edit this event, go to the component's history."_s}));

@@ -122,6 +122,10 @@ class TestComponentRules : public QObject {
     SetComponentOwner(gear.canopy, 0);
     QVERIFY(CheckOwner(gear.blue, gear.canopy));
     QCOMPARE(ComponentOwner(gear.canopy), 0);
+    SetComponentOwner(gear.canopy, gear.ann);
+    SetRigOwner(gear.blue, 0);
+    QVERIFY(CheckOwner(gear.blue, gear.canopy));
+    QCOMPARE(ComponentOwner(gear.canopy), gear.ann);
   }
 
   void InstallingFreesThePlaceAndTakesThePhotosAlong() {

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "gear/components.h"
+#include "gear/rigs.h"
 #include "history/history_texts.h"
 #include "history/sample_history.h"
 
@@ -142,6 +143,13 @@ class TestHistory : public QObject {
     QCOMPARE(LoadHx2({}, false).size(), 0);
   }
 
+  void ALineOnNoComponentIsShownNowhere() {
+    SampleHistory shop;
+    shop.AddWork({.onRig = shop.rig, .done = Day(1, 1, 2026)}, {0});
+    QCOMPARE(LoadHx3(shop.rig, {.types = {0, kAad}}).size(), 0);
+    QCOMPARE(LoadHx2({0}, false).size(), 0);
+  }
+
   void NoRigHasNoHistory() {
     SampleHistory shop;
     const int loose = shop.AddComponent("Loose", kMainCanopy, 0);
@@ -184,6 +192,9 @@ class TestHistory : public QObject {
     QCOMPARE(HistoryOwnersOf(shop.aad).owner, u"Rita Rigger"_s);
     QCOMPARE(HistoryOwnersOf(shop.aad).rigOwner, u"(rig is owned by Olaf Owner)"_s);
     SetComponentOwner(shop.aad, 0);
+    QCOMPARE(HistoryOwnersOf(shop.aad).rigOwner, QString());
+    SetComponentOwner(shop.aad, shop.rigger);
+    SetRigOwner(shop.rig, 0);
     QCOMPARE(HistoryOwnersOf(shop.aad).rigOwner, QString());
     SetComponentRig(shop.aad, 0);
     QCOMPARE(HistoryOwnersOf(shop.aad).rig, u"(no rig)"_s);

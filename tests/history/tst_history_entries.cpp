@@ -71,7 +71,9 @@ class TestHistoryEntries : public QObject {
 
   void ARepackIsAddedToTheRig() {
     Entries shop;
-    QVERIFY(AddHistoryEntry(shop.Rig(), RepackTaskLibID, u"3\\10\\2026"_s));
+    HistoryView view = shop.Rig();
+    view.componentID = shop.aad;  // a line was chosen before
+    QVERIFY(AddHistoryEntry(view, RepackTaskLibID, u"3\\10\\2026"_s));
     QCOMPARE(shop.LastLine(), u"0|%1|0|0|0|0.0|< >|%2|%2|1|0|-1|Inspect and repack reserve|%3|0|0|0"_s.arg(shop.owner)
                                   .arg(Day(3, 10, 2026).Days())
                                   .arg(shop.rig));
@@ -93,6 +95,8 @@ class TestHistoryEntries : public QObject {
     Entries shop;
     QVERIFY(AddHistoryEntry(shop.Rig(), shop.aadCheck, u"1/5/2026"_s));
     QCOMPARE(shop.LastTouched(), QStringList{u"%1|-1"_s.arg(shop.aad)});
+    QCOMPARE(shop.Schedules(), QStringList{SampleRig::ScheduleRow(shop.rig, shop.aadCheck, Day(1, 5, 2026),
+                                                                  Day(7, 5, 2026), shop.LastID(), shop.aad)});
     QVERIFY(AddHistoryEntry(shop.Aad(), shop.aadCheck, u"2/5/2026"_s));
     QCOMPARE(shop.LastTouched(), QStringList{u"%1|-1"_s.arg(shop.aad)});
     QCOMPARE(shop.Schedules(), QStringList{SampleRig::ScheduleRow(shop.rig, shop.aadCheck, Day(2, 5, 2026),
@@ -127,9 +131,11 @@ class TestHistoryEntries : public QObject {
     shop.AddComponent("Loose", kMainCanopy, 0);
     shop.AddComponent("Loose too", kContainer, 0);
     const QStringList due = shop.Schedules();
-    QVERIFY(AddHistoryEntry({}, pair, u"3/1/2026"_s));
-    QCOMPARE(shop.LastTouched(), QStringList());
-    QCOMPARE(shop.Schedules(), due);
+    for (const int entry : {pair, shop.aadCheck}) {  // an AAD is nowhere loose
+      QVERIFY(AddHistoryEntry({}, entry, u"3/1/2026"_s));
+      QCOMPARE(shop.LastTouched(), QStringList());
+      QCOMPARE(shop.Schedules(), due);
+    }
   }
 
   void GearIsOnlyInstalledAndRemovedDuringAJob() {
@@ -229,6 +235,31 @@ class TestHistoryEntries : public QObject {
     shop.prompts.Expect(u"Cypres - AAD check *"_s, u"Are you sure you want to delete this event?"_s, Answer::Yes);
     QVERIFY(DeleteHistoryEntry(shop.LineOf(check, shop.aad)));
     QCOMPARE(shop.loft.ChangesSince(before), QStringList());
+  }
+
+  void DeletingTheCheckOfAComponentGoesBackToTheOneBefore() {
+    Entries shop;
+    const int first = shop.AddWork({.entry = shop.aadCheck, .onRig = shop.rig, .done = Day(1, 1, 2025)}, {shop.aad});
+    const int second = shop.AddWork({.entry = shop.aadCheck, .onRig = shop.rig, .done = Day(7, 1, 2025)}, {shop.aad});
+    UpdateSchedule(shop.aadCheck, shop.rig, shop.aad);
+    shop.prompts.Expect(u"Cypres - Work *"_s, u"Are you sure you want to delete this event?"_s, Answer::Yes);
+    QVERIFY(DeleteHistoryEntry(shop.LineOf(second, shop.aad)));
+    QCOMPARE(shop.Schedules(), QStringList{SampleRig::ScheduleRow(shop.rig, shop.aadCheck, Day(1, 1, 2025),
+                                                                  Day(7, 1, 2025), first, shop.aad)});
+  }
+
+  void DeletingWorkOnAPairOfWhichOneHasMovedOn() {
+    Entries shop;
+    const int pair = shop.AddEntry("Pair check", 90, 1, {kContainer, kMainCanopy});
+    const QList<int> both{shop.container, shop.mainCanopy};
+    const int first = shop.AddWork({.entry = pair, .onRig = shop.rig, .done = Day(1, 1, 2025)}, both);
+    const int second = shop.AddWork({.entry = pair, .onRig = shop.rig, .done = Day(7, 1, 2025)}, both);
+    UpdateSchedule(pair, shop.rig, 0);
+    SetComponentRig(shop.mainCanopy, 0);
+    shop.prompts.Expect(u"Sabre - Work *"_s, u"Are you sure you want to delete this event?"_s, Answer::Yes);
+    QVERIFY(DeleteHistoryEntry(shop.LineOf(second, shop.mainCanopy)));
+    QCOMPARE(shop.Schedules(),
+             QStringList{SampleRig::ScheduleRow(shop.rig, pair, Day(1, 1, 2025), Day(4, 1, 2025), first, 0)});
   }
 
   void DeletingTheCheckOfAComponentThatHasMovedOn() {

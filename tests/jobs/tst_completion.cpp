@@ -130,6 +130,9 @@ class TestCompletion : public QObject {
     QCOMPARE(shop.JobState(), SampleJob::State(0, Date()));
     QCOMPARE(RecomputeJobStatus(shop.job), Date());
     QCOMPARE(shop.JobState(), SampleJob::State(0, Date()));
+    ToggleComplete(first, kWork, true);
+    ToggleComplete(second, kWork, true);
+    QCOMPARE(RecomputeJobStatus(shop.job), Date());  // the first line's date is not that of an open job
   }
 
   void AJobWithoutLinesIsCompleteWithNoDate() {
@@ -168,6 +171,8 @@ class TestCompletion : public QObject {
     QCOMPARE(shop.Status(open), SampleJob::State(-1, kWork));
     QCOMPARE(shop.JobState(), SampleJob::State(-1, kWork));
     QCOMPARE(shop.Schedules().size(), 2);
+    CompleteAllTasks(shop.job, true, kWork + 5, true);
+    QCOMPARE(shop.JobState(), SampleJob::State(-1, kWork));
     CompleteAllTasks(shop.job, false, kWork, true);
     QCOMPARE(shop.Status(done), SampleJob::State(0, Date()));
     QCOMPARE(shop.Status(open), SampleJob::State(0, Date()));

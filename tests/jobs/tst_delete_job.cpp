@@ -3,6 +3,7 @@
 #include "jobs/delete_job.h"
 #include "jobs/sample_job.h"
 #include "schedule/schedule.h"
+#include "support/counting_form.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,10 +60,12 @@ class TestDeleteJob : public QObject {
     SampleJob shop;
     ToggleComplete(shop.AddTask(RepackTaskLibID), Day(3, 2, 2026), true);
     QCOMPARE(shop.Schedules().size(), 1);
+    const CountingForm screen(u"frmJob"_s);
     bool cancelled = true;
     DeleteJob(shop.job, false, cancelled);
     QVERIFY(!cancelled);
     QCOMPARE(shop.Schedules(), QStringList());
+    QCOMPARE(screen.reloads, 1);
   }
 
   void StartsThatWereNeverFinishedAreCleared() {

@@ -4,6 +4,7 @@
 #include "jobs/gear_shop.h"
 #include "jobs/install_component.h"
 #include "schedule/schedule.h"
+#include "support/counting_form.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,8 +29,10 @@ class TestInstallComponent : public QObject {
  private Q_SLOTS:
   void AFreeComponentGoesOnTheJobAndIntoItsRig() {
     GearShop shop;
+    const CountingForm screen(u"frmGetRig"_s);
     const QStringList before = shop.loft.Snapshot();
     QVERIFY(Install(shop, shop.spare));
+    QCOMPARE(screen.reloads, 1);
     QCOMPARE(shop.Changes(before),
              GearShop::Sorted(shop.Moved(shop.spare, 0, shop.rig) +
                               shop.NewLine(1, InstallTaskLibID, u"Install AAD Argus  to Blue"_s, shop.spare) +
@@ -59,11 +62,11 @@ class TestInstallComponent : public QObject {
 
   void ANewComponentGetsTheOwnerOfTheRig() {
     GearShop shop;
-    SetComponentOwner(shop.spare, 0);
+    SetComponentOwner(shop.spare, shop.ann);
     const QStringList before = shop.loft.Snapshot();
     QVERIFY(Install(shop, shop.spare, ChosenComponent::New));
     QCOMPARE(shop.Changes(before),
-             GearShop::Sorted(shop.Moved(shop.spare, 0, shop.rig, 0, shop.owner) +
+             GearShop::Sorted(shop.Moved(shop.spare, 0, shop.rig, shop.ann, shop.owner) +
                               shop.NewLine(1, InstallTaskLibID, u"Install AAD Argus  to Blue"_s, shop.spare) +
                               QStringList(GearShop::OnJob(u'+', shop.job, shop.spare))));
   }
@@ -231,6 +234,30 @@ class TestInstallComponent : public QObject {
     QVERIFY(!RigComponentsCurrent(shop.job, 0));
     shop.DeleteRigOfJob();
     QVERIFY(!RigComponentsCurrent(shop.job, shop.rig));
+  }
+
+  void ARigOfNoTypeKeepsOneOfEachType() {
+    GearShop shop;
+    SetRigType(shop.rig, 0);
+    shop.loft.Add("tblRigTypeComponents", {{"RigTypeID", 0}, {"ComponentTypeID", int{kAad}}});
+    SetComponentRig(shop.aad, shop.rig);
+    // What it wears already is put on the job unasked, and leaves no other rig.
+    const QStringList before = shop.loft.Snapshot();
+    QVERIFY(Install(shop, shop.aad));
+    QCOMPARE(shop.Changes(before),
+             GearShop::Sorted(shop.NewLine(1, InstallTaskLibID, u"Install AAD Cypres  to Blue"_s, shop.aad) +
+                              QStringList(GearShop::OnJob(u'+', shop.job, shop.aad))));
+    RemoveJobComponent(shop.job, shop.aad);
+    QVERIFY(Install(shop, shop.spare));
+    QCOMPARE(ComponentRig(shop.spare), shop.rig);
+    QCOMPARE(ComponentRig(shop.aad), 0);
+  }
+
+  void AnInstalledComponentTakesTheTypeOfItsModel() {
+    GearShop shop;
+    shop.loft.Run(u"update tblModels set TypeID = 5 where Name = 'Argus'"_s);
+    QVERIFY(Install(shop, shop.spare));
+    QCOMPARE(ComponentTypeOf(shop.spare), 5);
   }
 
   void AComponentThatHasGoneVanishesFromTheJob() {

@@ -39,7 +39,7 @@ class TestJobRecords : public QObject {
     QCOMPARE(ComponentsOfJob(job), QList<int>{shop.aad});
     QCOMPARE(JobDateStarted(job), Day(3, 15, 2026));
     CreateNewJob(u"Nothing"_s, shop.owner, 0, 0, job, shop.rigger, 0, Date());
-    QCOMPARE(ComponentsOfJob(job), QList<int>());
+    QCOMPARE(shop.loft.Rows(u"select * from tblJobComponents where JobID = %1"_s.arg(job)), QStringList());
   }
 
   void AJobWithoutARiggerTakesTheDefaultOne() {
@@ -153,6 +153,7 @@ class TestJobRecords : public QObject {
     shop.loft.Run(u"delete * from tblJobs where ID = %1"_s.arg(second));
     QCOMPARE(GetNextValidJobID(second), third);
     QCOMPARE(GetNextValidJobID(third), shop.job);
+    QCOMPARE(GetNextValidJobID(third + 1), third);
     shop.loft.Run(u"delete * from tblJobs"_s);
     QCOMPARE(GetNextValidJobID(second), 0);
   }
@@ -166,6 +167,7 @@ class TestJobRecords : public QObject {
     QVERIFY(!JobMatchesRig(shop.job, shop.rig, differences));
     QCOMPARE(differences, u"\nContainer\nAAD"_s);
     shop.loft.Run(u"update tblRig set TypeID = 0"_s);
+    shop.loft.Add("tblRigTypeComponents", {{"RigTypeID", 0}, {"ComponentTypeID", int{kContainer}}});
     QVERIFY(JobMatchesRig(shop.job, shop.rig, differences));
   }
 

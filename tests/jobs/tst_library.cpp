@@ -4,6 +4,7 @@
 #include "jobs/library_entry.h"
 #include "jobs/library_parts.h"
 #include "jobs/sample_job.h"
+#include "support/counting_form.h"
 
 using namespace Qt::StringLiterals;
 
@@ -79,6 +80,21 @@ class TestLibrary : public QObject {
     QCOMPARE(loaded.rigTypes, QList<int>({1, 2}));
     QCOMPARE(loaded.parts, QList<int>{loop});
     QVERIFY(!LoadTaskType(id + 1, loaded));
+    QVERIFY(LoadTaskType(shop.aadCheck, loaded));
+    QCOMPARE(loaded.rigTypes, QList<int>());
+    QCOMPARE(loaded.parts, QList<int>());
+    QVERIFY(loaded.scheduled);
+    shop.loft.Run(u"update tblTaskLib set IntervalNumber = 0 where ID = %1"_s.arg(shop.aadCheck));
+    QVERIFY(LoadTaskType(shop.aadCheck, loaded));
+    QVERIFY(!loaded.scheduled);  // whatever the unit
+  }
+
+  void EntriesOfAComponentTypeAreListed() {
+    Library shop;
+    const int ride = shop.AddEvent("Reserve ride");
+    shop.loft.Add("tblTaskLibComponentTypes", {{"TaskLibID", 9999}, {"ComponentTypeID", int{kReserveCanopy}}});
+    QCOMPARE(LoadTasksByComponentType(kReserveCanopy, false).ids, QList<int>{RepackTaskLibID});
+    QCOMPARE(LoadTasksByComponentType(kReserveCanopy, true).ids, QList<int>{ride});
   }
 
   void AnUpdateReplacesWhatWasTied() {
@@ -317,9 +333,17 @@ class TestLibrary : public QObject {
     shop.prompts.Expect(u"Delete Reserve ride?"_s, question, Answer::Yes);
     QVERIFY(DeleteTaskTypeFromList(ride, true));
     QVERIFY(LinesOfJob(shop.job).isEmpty());
+    shop.AddTask(shop.aadCheck);
+    shop.AddSchedule(shop.rig, shop.aadCheck, Day(8, 1, 2026), 0, shop.aad);
+    shop.AddSchedule(shop.rig, RepackTaskLibID, Day(8, 2, 2026), 0, 0);
+    const CountingForm job(u"frmJob"_s);
     bool cancelled = true;
     DeleteTaskType(shop.aadCheck, false, cancelled);
     QVERIFY(!cancelled && !TaskLibExists(shop.aadCheck));
+    QVERIFY(LinesOfJob(shop.job).isEmpty());
+    QCOMPARE(shop.loft.Rows(u"select TaskLibID from tblSchedules"_s), QStringList(u"1"_s));
+    QCOMPARE(job.reloads, 1);
+    QCOMPARE(job.scheduleReloads, 1);
   }
 
   void APartsNameIsUsedOnce() {

@@ -101,6 +101,11 @@ class TestLineEdits : public QObject {
     QCOMPARE(LineName(task), u"AAD check"_s);
     shop.prompts.ExpectBox(u"Loftkeep"_s, u"This task's name hasn't changed"_s);
     QVERIFY(!RestoreTaskName(task));
+    shop.loft.Run(u"update tblTaskLib set Name = '%1' where ID = %2"_s.arg(QString(60, u'n')).arg(shop.aadCheck));
+    QVERIFY(RestoreTaskName(task));
+    QCOMPARE(LineName(task), QString(50, u'n'));
+    shop.prompts.ExpectBox(u"Loftkeep"_s, u"This task's name hasn't changed"_s);
+    QVERIFY(!RestoreTaskName(task));
     shop.loft.Run(u"delete * from tblTaskLib where ID = %1"_s.arg(shop.aadCheck));
     shop.prompts.ExpectBox(u"Can't restore price"_s, u"This task type no longer exists. Original price is unknown"_s);
     QVERIFY(!RestorePrice(task));
@@ -195,6 +200,7 @@ class TestLineEdits : public QObject {
     shop.prompts.ExpectBox(u"Can't use this job name"_s, u"There is already a job named: OTHER"_s);
     QCOMPARE(SaveJobName(shop.job, u" OTHER "_s).shown, u"Blue 03/01/2026"_s);
     QVERIFY(!SaveJobName(shop.job, QString()).changed);
+    QVERIFY(!SaveJobName(shop.job, u"Blue 03/01/2026 "_s).changed);
     QCOMPARE(SaveJobName(shop.job, QString(60, u'n')).shown, QString(50, u'n'));
     QCOMPARE(JobTitle(shop.job), QString(50, u'n'));
     SetJobInvoiceNumber(other, u"A-1"_s);
@@ -210,6 +216,7 @@ class TestLineEdits : public QObject {
     const int ann = shop.loft.Add("tblPeople", {{"FirstName", "Ann"}, {"LastName", "Adams"}, {"rigger", true}});
     QVERIFY(!OfferRiggerForTasks(shop.job, ann));
     const int task = shop.AddTask(shop.aadCheck);
+    QVERIFY(!JobHasTasksByOtherRiggers(shop.AddJob("Other", shop.rig, 0), ann));
     const int event = shop.AddTask(shop.AddEvent("Reserve ride"));
     QVERIFY(JobHasTasksByOtherRiggers(shop.job, ann));
     QVERIFY(!JobHasTasksByOtherRiggers(shop.job, shop.rigger));

@@ -143,6 +143,17 @@ class TestLines : public QObject {
     QCOMPARE(shop.JobState(), SampleJob::State(-1, Date()));
   }
 
+  void WithoutARigALineIsUnscheduledByItsComponent() {
+    SampleJob shop;
+    const int early = shop.AddDone(shop.aadCheck, Day(1, 10, 2026), {shop.aad}, 0);
+    shop.job = shop.AddJob("Loose", 0, shop.aad);
+    const int line = shop.AddTask(shop.aadCheck);
+    ToggleComplete(line, Day(3, 2, 2026), false);
+    QVERIFY(DeleteLine(line, true, 0, shop.aad));
+    QCOMPARE(shop.Schedules(), QStringList(SampleRig::ScheduleRow(0, shop.aadCheck, Day(1, 10, 2026), Day(7, 10, 2026),
+                                                                  early, shop.aad)));
+  }
+
   void DeletingAnInstallationTellsWhatStays() {
     SampleJob shop;
     int install = 0;
@@ -163,6 +174,18 @@ class TestLines : public QObject {
                            "component that was removed.  \n"
                            "To restore the component, you must use INSTALL COMPONENT"_s);
     QVERIFY(DeleteLine(removal, false, shop.rig, 0));
+    // The same among all lines, which are asked for once.
+    AddTaskToJob(shop.Context(), RemoveTaskLibID, false, Day(3, 2, 2026), removal);
+    shop.prompts.Expect(u"Delete all entries for this job?"_s,
+                        u"This will permanently delete all tasks and parts for this job.\n"
+                        "Are you sure you want to do this?"_s,
+                        Answer::Yes);
+    shop.prompts.ExpectBox(u"Loftkeep"_s,
+                           u"You are deleting a component removal task.\n"
+                           "This will delete the task but it will not restore the\n"
+                           "component that was removed.  \n"
+                           "To restore the component, you must use INSTALL COMPONENT"_s);
+    QVERIFY(DeleteAllLines(shop.job, shop.rig, 0));
   }
 
   void AllLinesAreDeletedAfterOneQuestion() {

@@ -170,6 +170,18 @@ class TestRemoveComponent : public QObject {
     QCOMPARE(LinesOfJob(shop.job), QList<int>());
   }
 
+  void CancellingTakesNothingFromAnotherRig() {
+    GearShop shop;
+    SetRigType(shop.rig, 0);
+    AddJobComponent(shop.job, shop.spare);
+    AddGearLine(shop.Context(), InstallTaskLibID, u"Install"_s, shop.spare, GearShop::kDone);
+    SetComponentRig(shop.spare, shop.red);
+    shop.prompts.Expect(u"Cancel installation?"_s, kCancelInstallation, Answer::Yes);
+    QVERIFY(Remove(shop, shop.spare));
+    QCOMPARE(ComponentRig(shop.spare), shop.red);
+    QVERIFY(!ComponentIsInGrid(shop.job, shop.spare));
+  }
+
   void AnInstalledComponentMayBeRemovedAllTheSame() {
     GearShop shop;
     QVERIFY(InstallOnJob(shop.Context(), {shop.spare}, GearShop::kDone));

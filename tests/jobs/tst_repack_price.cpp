@@ -6,6 +6,7 @@
 #include "jobs/repack_price.h"
 #include "jobs/sample_job.h"
 #include "schedule/schedule.h"
+#include "schedule/task_library.h"
 
 using namespace Qt::StringLiterals;
 
@@ -181,6 +182,9 @@ class TestRepackPrice : public QObject {
     CheckIR(Money::Whole(85));
     QCOMPARE(LibraryRow(shop, 1), QStringList(u"Inspect and repack reserve|850000|0|-1|0|0|180|1"_s));
     QCOMPARE(shop.loft.Rows(u"select * from tblTaskLibComponentTypes where TaskLibID = 1"_s).size(), 2);
+    shop.loft.Run(u"update tblMisc set RepackCycle = 120"_s);
+    CheckIR(Money::Whole(85));
+    QCOMPARE(IntervalNumber(RepackTaskLibID), 120);
   }
 
   void AMissingRepackEntryIsAddedWithTheDefaultPrice() {

@@ -125,6 +125,16 @@ class TestRigFromJob : public QObject {
     TellRigCreated(shop.NewRig());
   }
 
+  void WhatADeletedRigWoreIsFree() {
+    RigShop shop;
+    SetComponentRig(shop.vigil, 77);
+    SetComponentRig(shop.canopy, 0);
+    shop.prompts.ExpectInput(kProgramTitle, kAnnsRigs, u"Green"_s);
+    QCOMPARE(shop.Build(), shop.NewRig());
+    QCOMPARE(ComponentRig(shop.vigil), shop.NewRig());
+    QCOMPARE(LinesOfJob(0), QList<int>());
+  }
+
   void ARefusedMoveLeavesNoRig() {
     RigShop shop;
     const QStringList before = shop.loft.Snapshot();

@@ -2,6 +2,7 @@
 
 #include "jobs/gear_shop.h"
 #include "jobs/rig_sync.h"
+#include "support/counting_form.h"
 
 using namespace Qt::StringLiterals;
 
@@ -75,9 +76,11 @@ class TestRigSync : public QObject {
     GearShop shop;
     SetComponentRig(shop.spare, shop.rig);
     const QStringList before = shop.loft.Snapshot();
+    const CountingForm screen(u"frmGetRig"_s);
     ExpectQuestion(shop, u"AAD"_s);
     QVERIFY(Update(shop));
     QCOMPARE(shop.Changes(before), GearShop::Sorted(shop.Moved(shop.spare, shop.rig, 0)));
+    QCOMPARE(screen.reloads, 1);
   }
 
   void WhatAnotherOwnersRigWearsIsAskedAbout() {
@@ -108,6 +111,17 @@ class TestRigSync : public QObject {
     ExpectQuestion(shop, u"Main Canopy"_s);
     QVERIFY(Update(shop));
     QCOMPARE(shop.Changes(before), GearShop::Sorted(shop.Moved(shop.mainCanopy, shop.red, shop.rig)));
+  }
+
+  void WhatSitsInTheRigAlreadyStaysAsItIs() {
+    GearShop shop;
+    const int second = shop.AddComponent("Pilot", kMainCanopy);
+    RemoveJobComponent(shop.job, shop.mainCanopy);
+    AddJobComponent(shop.job, second);
+    const QStringList before = shop.loft.Snapshot();
+    ExpectQuestion(shop, u"Main Canopy"_s);
+    QVERIFY(Update(shop));
+    QCOMPARE(shop.Changes(before), QStringList());
   }
 
   void WhatADeletedRigWoreMovesUnasked() {

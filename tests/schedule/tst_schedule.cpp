@@ -1,27 +1,11 @@
 #include <QtTest>
 
 #include "core/failure.h"
-#include "core/forms.h"
 #include "schedule/sample_rig.h"
 #include "schedule/schedule.h"
+#include "support/counting_form.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A loaded screen that counts how often it is told to read its data anew.
-class CountingForm : public LoadedForm {
- public:
-  CountingForm() { Forms::Add(this); }
-  ~CountingForm() override { Forms::Remove(this); }
-  QString FormName() const override { return u"frmSchedule"_s; }
-  bool FormIsShown() const override { return true; }
-  void ReloadForm() override { ++reloads; }
-  void UnloadForm() override {}
-  int reloads = 0;
-};
-
-}  // namespace
 
 class TestSchedule : public QObject {
   Q_OBJECT
@@ -76,7 +60,7 @@ class TestSchedule : public QObject {
 
   void ACompletedRepackIsScheduledByTheRigAlone() {
     SampleRig shop;
-    CountingForm form;
+    const CountingForm form(u"frmSchedule"_s);
     const int line = shop.AddRepack(Day(3, 1, 2026));
     const QStringList before = shop.loft.Snapshot();
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
@@ -99,7 +83,7 @@ class TestSchedule : public QObject {
 
   void UncompletingBringsTheOlderCompletionBackOrTakesTheRow() {
     SampleRig shop;
-    CountingForm form;
+    const CountingForm form(u"frmSchedule"_s);
     const int early = shop.AddRepack(Day(1, 1, 2026));
     const int late = shop.AddRepack(Day(3, 1, 2026));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);

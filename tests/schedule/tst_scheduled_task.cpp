@@ -1,33 +1,17 @@
 #include <QtTest>
 
-#include "core/forms.h"
 #include "schedule/completions.h"
 #include "schedule/rig_audit.h"
 #include "schedule/sample_rig.h"
 #include "schedule/schedule.h"
 #include "schedule/scheduled_task.h"
+#include "support/counting_form.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString kAskDate = u"Enter date peformed"_s;
-
-/// Counts how often due dates are read anew.
-class DueDates : public LoadedForm {
- public:
-  DueDates() { Forms::Add(this); }
-  ~DueDates() override { Forms::Remove(this); }
-  DueDates(const DueDates&) = delete;
-  DueDates& operator=(const DueDates&) = delete;
-  QString FormName() const override { return u"frmGetRig"_s; }
-  bool FormIsShown() const override { return true; }
-  void ReloadForm() override { ++wholeReloads; }
-  void ReloadSchedule() override { ++reloads; }
-  void UnloadForm() override {}
-  int reloads = 0;
-  int wholeReloads = 0;
-};
 
 void ExpectRepackQuestion(SampleRig& shop, const QString& date, Answer answer) {
   shop.prompts
@@ -199,17 +183,17 @@ class TestScheduledTask : public QObject {
 
   void ScreensFollowEachChange() {
     SampleRig shop;
-    const DueDates screen;
+    const CountingForm screen(u"frmGetRig"_s);
     const int repack = shop.AddRepack(Day(2, 1, 2026));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
-    QCOMPARE(screen.reloads, 1);
+    QCOMPARE(screen.scheduleReloads, 1);
     shop.loft.Run(u"delete from tblTasks where ID = %1"_s.arg(repack));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
-    QCOMPARE(screen.reloads, 2);
+    QCOMPARE(screen.scheduleReloads, 2);
     shop.prompts.ExpectBox(u"Sub ReplaceSchedule"_s, u"Type mismatch"_s);
     ReplaceSchedule(shop.rig, shop.aadCheck, Day(8, 31, 2025), 1, shop.aad);
-    QCOMPARE(screen.reloads, 3);
-    QCOMPARE(screen.wholeReloads, 0);
+    QCOMPARE(screen.scheduleReloads, 3);
+    QCOMPARE(screen.reloads, 0);
   }
 };
 
