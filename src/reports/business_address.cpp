@@ -21,10 +21,14 @@ QString GetBusinessAddress() {
   return address;
 }
 
+void WriteAddress(const QString& address) {
+  WriteLines(AddressFile(), LinesOf(address));
+  StripFile(AddressFile());
+}
+
 void SaveAddress(const QString& address) {
   Trap(u"Sub SaveAddress"_s, [&] {
-    WriteLines(AddressFile(), LinesOf(address));
-    StripFile(AddressFile());
+    WriteAddress(address);
     MsgBox(u"Saved"_s, u"Business Address"_s);
   });
 }

@@ -79,7 +79,7 @@ class Gear {
   }
 
   /// A piece of gear of this kind of rig; in no rig when `rig` is 0.
-  int AddComponent(int owner, int rig, int rigType, int type, Date made) {
+  int AddComponent(int owner, int rig, int rigType, int type, Date made, const QString& comment = {}) {
     const Choice& choice = ChoiceOf(rigType, type);
     const QString model = Pick(choice.models);
     const QString size = choice.sizes.isEmpty() ? QString() : Pick(choice.sizes);
@@ -90,6 +90,7 @@ class Gear {
                          .subType = size,
                          .serial = u"%1%2-%3"_s.arg(model.left(1)).arg(size, QString::number(1001 + 37 * ++serials_)),
                          .color = type == kAad ? QString() : Pick(kColors),
+                         .comment = comment,
                          .dom = made + Draw(120),
                          .jumps = type == kMainCanopy ? 40 + Draw(1200) : 0};
     return SaveComponentEntry(entry);
@@ -139,8 +140,11 @@ QList<SampleRig> AddSampleGear(const QList<int>& people, Date start, std::mt1993
     rig.days = rig.type == kTandemRig ? 120 + gear.Draw(50) : 150 + gear.Draw(120);
     rig.nextRepack = start + gear.Draw(rig.days);
   }
-  for (int i = 0; i < 9; ++i)
-    gear.AddComponent(people[3 + 4 * i], 0, kSportRig, i % 3 == 2 ? kReserveCanopy : kMainCanopy,
-                      start - 900 - 200 * i);
+  const QString grounded = u"Grounded: its fabric failed the pull test."_s;
+  for (int i = 0; i < 9; ++i) {
+    const bool reserve = i % 3 == 2;
+    gear.AddComponent(people[3 + 4 * i], 0, kSportRig, reserve ? kReserveCanopy : kMainCanopy, start - 900 - 200 * i,
+                      reserve ? grounded : QString());
+  }
   return rigs;
 }

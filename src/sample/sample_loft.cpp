@@ -11,6 +11,7 @@
 #include "gear/models_file.h"
 #include "gear/people.h"
 #include "jobs/repack_price.h"
+#include "reports/business_address.h"
 #include "sample/sample_history.h"
 #include "sample/sample_jobs.h"
 #include "sample/sample_people.h"
@@ -62,6 +63,7 @@ void MakeSampleLoft(Date today) {
   CreateDefaultRows();
   CheckModelsFile();
   SetRepackCycle(180);
+  WriteAddress(u"Fairhaven Rigging Loft\n1 Airport Road\nFairhaven, CA 92599"_s);
   const QList<int> people = AddPeople();
   SampleShop shop{people.first(kSampleRiggers), AddLocations()};
   AddSampleLibrary(shop);

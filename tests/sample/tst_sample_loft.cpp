@@ -9,6 +9,7 @@
 #include "gear/components.h"
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
+#include "reports/business_address.h"
 #include "sample/sample_loft.h"
 #include "schedule/reconstruct.h"
 #include "support/data_home.h"
@@ -83,6 +84,8 @@ class SampleLoftTest : public QObject {
       if (!end.IsNone() && end < kToday) ++expired;
     }
     QVERIFY(expired >= 1);
+    QVERIFY(Number(u"SELECT count(*) FROM tblComponents WHERE RigID = 0 AND Comment LIKE 'Grounded%'"_s) >= 2);
+    QVERIFY(GetBusinessAddress().startsWith("Fairhaven Rigging Loft\n"_L1));
   }
 
   void EveryRigIsWhole() {

@@ -62,6 +62,10 @@ frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(th
   ConnectControls();
   ConnectGear();
   ConnectHeader();
+  QSizePolicy itsPlace = ui_->lblJobComplete->sizePolicy();
+  itsPlace.setRetainSizeWhenHidden(true);
+  ui_->lblJobComplete->setSizePolicy(itsPlace);
+  ui_->lstTasks->setFocus();
 }
 
 frmJob::~frmJob() = default;
