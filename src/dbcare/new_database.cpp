@@ -105,9 +105,12 @@ void MakeBackupCopy(bool deleteOriginal, QString& fileName) {
 
 bool ReplaceDatabaseFile(const QString& path) {
   LetGoOfDatabaseFile();
+  // What an interrupted write of the old database left behind would be rolled back into the new one. It belongs to the
+  // old one as long as that is there.
+  const QString journal = DatabaseFile() + u"-journal"_s;
+  if (!ExistFile(DatabaseFile())) RemoveFile(journal);
   if (!MyFileCopy(path, DatabaseFile())) return false;
-  // What an interrupted write of the old database left behind would be rolled back into the new one.
-  RemoveFile(DatabaseFile() + u"-journal"_s);
+  RemoveFile(journal);
   return true;
 }
 
