@@ -164,9 +164,9 @@ bool UpdateEventType(const EventTypeEntry& entry, int& taskLibID) {
   return written;
 }
 
-/// Saves an entry as a whole or not at all.
+/// Saves an entry. A new one's id goes to the caller only when all that belongs to it was written.
 template <typename Save>
-bool SaveWhole(const QString& routine, int& taskLibID, Save&& save) {
+bool SaveEntry(const QString& routine, int& taskLibID, Save&& save) {
   int id = taskLibID;
   bool saved = false;
   Trap(routine, [&] {
@@ -221,13 +221,13 @@ EntrySaved SaveTaskType(const TaskTypeEntry& entry, int& taskLibID) {
 }
 
 bool WriteTaskType(const TaskTypeEntry& entry, int& taskLibID) {
-  return SaveWhole(u"Sub UpdateTaskType"_s, taskLibID, [&](int& id) { return UpdateTaskType(entry, id); });
+  return SaveEntry(u"Sub UpdateTaskType"_s, taskLibID, [&](int& id) { return UpdateTaskType(entry, id); });
 }
 
 EntrySaved SaveEventType(const EventTypeEntry& entry, int& taskLibID) {
   if (const auto failed = FailedAudit(entry, taskLibID)) return *failed;
   const bool isNew = taskLibID == 0;
-  if (!SaveWhole(u"Sub UpdateEventType"_s, taskLibID, [&](int& id) { return UpdateEventType(entry, id); }))
+  if (!SaveEntry(u"Sub UpdateEventType"_s, taskLibID, [&](int& id) { return UpdateEventType(entry, id); }))
     return EntrySaved::Refused;
   MsgBox(isNew ? u"Event saved to event library"_s : u"Event library updated"_s, u"Done"_s);
   return EntrySaved::Saved;
@@ -235,7 +235,7 @@ EntrySaved SaveEventType(const EventTypeEntry& entry, int& taskLibID) {
 
 int SaveCustomEventToLib(const QString& desc, const QList<int>& CompsReq, bool AllowMultiple) {
   int id = 0;
-  SaveWhole(u"Sub SaveCustomEventToLib"_s, id, [&](int& newID) {
+  SaveEntry(u"Sub SaveCustomEventToLib"_s, id, [&](int& newID) {
     if (!UpdateEventType({.name = desc, .allowMultiple = AllowMultiple}, newID)) return false;
     for (int type : CompsReq) AddNewRecordToTblTaskLibComponentTypes(type, newID);
     return true;

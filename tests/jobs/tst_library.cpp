@@ -1,5 +1,7 @@
 #include <QtTest>
 
+#include "core/connection.h"
+#include "core/database.h"
 #include "jobs/library_delete.h"
 #include "jobs/library_entry.h"
 #include "jobs/library_parts.h"
@@ -229,6 +231,23 @@ class TestLibrary : public QObject {
     int gone = 77;
     shop.prompts.ExpectBox(kProgramTitle, u"You shouldn't be here"_s);
     QCOMPARE(SaveEventType({.name = u"Ride"_s, .componentTypes = {kAad}}, gone), EntrySaved::Refused);
+  }
+
+  void ASaveThatFailsHalfwayIsToldAndNoneToTheCaller() {
+    Library shop;
+    TaskTypeEntry entry = LineCheck();
+    entry.parts = {shop.AddPart("Loop", 3)};
+    {
+      Bracket bracket;
+      OpenDatabase().ChangeSchema(
+          "CREATE TRIGGER Full BEFORE INSERT ON tblTaskLibParts BEGIN SELECT RAISE(ABORT, 'No room'); END");
+    }
+    shop.prompts.ExpectBox(u"Sub UpdateTaskType"_s,
+                           u"The field is too small to accept the amount of data you attempted to add.  "
+                           "Try inserting or pasting less data."_s);
+    int id = 0;
+    QCOMPARE(SaveTaskType(entry, id), EntrySaved::Refused);
+    QCOMPARE(id, 0);
   }
 
   void AnEventIsSavedWithoutPriceAndInterval() {

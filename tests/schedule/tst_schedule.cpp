@@ -223,12 +223,13 @@ class TestSchedule : public QObject {
 
   void ReadsDueDates() {
     SampleRig shop;
-    shop.AddSchedule(shop.rig, 4, Day(5, 2, 2026), 2, shop.aad);
+    shop.AddSchedule(shop.rig, 4, Day(5, 8, 2026), 2, shop.aad);
     shop.AddSchedule(shop.rig, 1, Day(5, 9, 2026), 1, 0);
+    shop.AddSchedule(shop.rig, 5, Day(5, 2, 2026), 4, shop.container);
     shop.AddSchedule(0, 1, Day(4, 1, 2026), 3, shop.aad);
     QCOMPARE(GetDueDateByRig(shop.rig, 1), Day(5, 9, 2026));
     QCOMPARE(GetDueDateByRig(shop.rig, 2), Date());
-    QCOMPARE(GetDueDateByComponent(shop.aad, 4), Day(5, 2, 2026));
+    QCOMPARE(GetDueDateByComponent(shop.aad, 4), Day(5, 8, 2026));
     QCOMPARE(GetDueDateByComponent(shop.reserve, 4), Date());
     QCOMPARE(GetEarliestDueByRig(shop.rig), Day(5, 2, 2026));
     QCOMPARE(GetEarliestDueByRig(99), Date());
