@@ -134,8 +134,6 @@ class TestComponentRules : public QObject {
     const int loose = NewComponent(gear.storm, kMainCanopy, 0);
     gear.loft.Add(u"tblPhotos"_s, {{u"ComponentID"_s, loose}, {u"rigID"_s, 0}});
     gear.loft.Add(u"tblPhotos"_s, {{u"ComponentID"_s, old}, {u"rigID"_s, gear.blue}});
-    gear.loft.Run(u"update tblComponents set TypeID = 0 where ID = "_s + QString::number(loose));
-    gear.loft.Run(u"update tblComponents set TypeID = 2 where ID = "_s + QString::number(loose));
     ScriptedPrompts prompts;
     QVERIFY(InstallChosenComponent(gear.blue, loose, kToday));
     QCOMPARE(ComponentRig(loose), gear.blue);
@@ -144,6 +142,14 @@ class TestComponentRules : public QObject {
     QCOMPARE(ComponentOwner(loose), 0);
     QCOMPARE(gear.loft.Rows(u"select rigID from tblPhotos"_s), QStringList({u"2"_s, u"2"_s}));
     QCOMPARE(gear.loft.Rows(u"select LastComponentID from tblMisc"_s), QStringList(QString::number(loose)));
+  }
+
+  void AnInstalledComponentTakesTheTypeOfItsModel() {
+    Gear gear;
+    const int loose = NewComponent(gear.storm, kMainCanopy, 0);
+    gear.loft.Run(u"update tblModels set TypeID = 5 where ID = %1"_s.arg(gear.storm));
+    QVERIFY(InstallChosenComponent(gear.blue, loose, kToday));
+    QCOMPARE(ComponentTypeOf(loose), 5);
   }
 
   void ACancelledOwnerQuestionStopsTheInstall() {
