@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QHash>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
@@ -16,11 +17,26 @@
 
 namespace {
 
-/// Where a text has its first letter that is not taken; -1 when it has none.
-qsizetype FreeLetter(const QString& text, const QString& taken) {
-  for (qsizetype i = 0; i < text.size(); ++i)
-    if (text[i].isLetter() && !taken.contains(text[i].toLower())) return i;
-  return -1;
+QString MnemonicOf(const QString& text) {
+  const QString shortcut = QKeySequence::mnemonic(text).toString();
+  return shortcut.isEmpty() ? QString() : QString(shortcut.back().toLower());
+}
+
+/// Which menu has which letter.
+using Claims = QHash<QChar, QAction*>;
+
+/// Claims the first letter of the menu's caption that is free, or that its menu can give up for another one. Letters
+/// that were tried are in `tried`.
+bool ClaimLetter(QAction* menu, Claims& claims, QString& tried) {
+  for (const QChar c : menu->text().toLower()) {
+    if (!c.isLetter() || tried.contains(c)) continue;
+    tried += c;
+    QAction* holder = claims.value(c);
+    if (holder && !ClaimLetter(holder, claims, tried)) continue;
+    claims[c] = menu;
+    return true;
+  }
+  return false;
 }
 
 /// Lives with the last button.
@@ -92,24 +108,17 @@ void CentreForm(QWidget* form, const QWidget* caller) {
 }
 
 void GiveMnemonics(QMenuBar* bar) {
-  QString inBar;
-  QString elsewhere;
-  const auto letterOf = [](const QString& text) {
-    const QString shortcut = QKeySequence::mnemonic(text).toString();
-    return shortcut.isEmpty() ? QString() : QString(shortcut.back().toLower());
-  };
-  for (const QAction* action : bar->actions()) inBar += letterOf(action->text());
+  QString taken;
+  for (const QAction* menu : bar->actions()) taken += MnemonicOf(menu->text());
   for (const QAbstractButton* button : bar->window()->findChildren<QAbstractButton*>())
-    elsewhere += letterOf(button->text());
+    taken += MnemonicOf(button->text());
   for (const QLabel* label : bar->window()->findChildren<QLabel*>())
-    if (label->buddy()) elsewhere += letterOf(label->text());
-  for (QAction* action : bar->actions()) {
-    const QString text = action->text();
-    if (text.contains(u'&')) continue;
-    qsizetype at = FreeLetter(text, inBar + elsewhere);
-    if (at < 0) at = FreeLetter(text, inBar);
-    if (at < 0) continue;
-    inBar += text[at].toLower();
-    action->setText(QString(text).insert(at, u'&'));
+    if (label->buddy()) taken += MnemonicOf(label->text());
+  Claims claims;
+  for (QAction* menu : bar->actions()) {
+    QString tried = taken;
+    if (!menu->text().contains(u'&')) ClaimLetter(menu, claims, tried);
   }
+  for (const auto& [letter, menu] : claims.asKeyValueRange())
+    menu->setText(QString(menu->text()).insert(menu->text().indexOf(letter, 0, Qt::CaseInsensitive), u'&'));
 }

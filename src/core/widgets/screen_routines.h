@@ -28,6 +28,6 @@ void WaitSeconds(double seconds);
 /// Places a form over the middle of its caller, or of the screen when there is no caller on show; never off the screen.
 void CentreForm(QWidget* form, const QWidget* caller = nullptr);
 
-/// Gives each menu of a bar that has no mnemonic the first letter of its caption that nothing else in the window has,
-/// or else no other menu, so that Alt and the letter open it.
+/// Gives each menu of a bar that has no mnemonic a letter of its caption that nothing else in the window has, so that
+/// Alt and the letter open it. The first letters go first; where they run out, the last menus stay without.
 void GiveMnemonics(QMenuBar* bar);

@@ -15,7 +15,7 @@ frmLocation::frmLocation() : ui_(std::make_unique<Ui::frmLocation>()) {
   addNew_ = MenuBar()->addAction(u"&Add new"_s, this, &frmLocation::AddNew);
   MenuBar()->addAction(u"S&how default"_s, this, &frmLocation::ShowDefault);
   MenuBar()->addAction(u"&Delete"_s, this, &frmLocation::DeleteSelected);
-  MenuBar()->addAction(u"E&xit"_s, this, &frmLocation::Cancel);
+  MenuBar()->addAction(u"Ex&it"_s, this, &frmLocation::Cancel);
   connect(ui_->lst, &List::ListChange, this, [this] { ShowFields(); });
   connect(ui_->lst, &List::ItemDoubleClick, this, &frmLocation::Accept);
   connect(ui_->lst, &List::ItemEnter, this, &frmLocation::Accept);

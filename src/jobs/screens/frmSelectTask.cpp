@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 frmSelectTask::frmSelectTask() : ui_(std::make_unique<Ui::frmSelectTask>()) {
   ui_->setupUi(this);
   MenuBar()->addAction(u"&New"_s, this, [this] { Create({}); })->setObjectName(u"mnuNew"_s);
-  MenuBar()->addAction(u"&Edit"_s, this, &frmSelectTask::Edit)->setObjectName(u"mnuEdit"_s);
+  MenuBar()->addAction(u"Ed&it"_s, this, &frmSelectTask::Edit)->setObjectName(u"mnuEdit"_s);
   MenuBar()->addAction(u"&Delete"_s, this, &frmSelectTask::Delete)->setObjectName(u"mnuDelete"_s);
   MenuBar()->addAction(u"&Refresh"_s, this, &frmSelectTask::ReloadForm)->setObjectName(u"mnuRefresh"_s);
   ui_->lstCompTypes->Fill(LoadComponentTypes());

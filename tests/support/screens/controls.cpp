@@ -12,7 +12,9 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "core/widgets/form.h"
 #include "core/widgets/grid.h"
+#include "support/screens/keyboard.h"
 
 void NoSuchControl(const QWidget& screen, const QString& name) {
   qFatal("%s has no such control: %s", screen.metaObject()->className(), qPrintable(name));
@@ -87,6 +89,7 @@ void ClickHeading(Grid& grid, int column) {
 }
 
 void Picture(QWidget& widget, const QString& name) {
+  if (auto* form = qobject_cast<Form*>(&widget)) QCOMPARE(ClashesOf(*form), QString());
   const QString folder = qEnvironmentVariable("LOFTKEEP_TOUR_PICTURES");
   if (folder.isEmpty()) return;
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);  // as the person sees it once all is in its place

@@ -29,5 +29,6 @@ void ClickCell(Grid& grid, int row, int column, Qt::KeyboardModifiers modifiers 
 void DoubleClickCell(Grid& grid, int row, int column);
 void ClickHeading(Grid& grid, int column);
 
-/// Saves a picture of a screen as NAME.png into the folder named by LOFTKEEP_TOUR_PICTURES; nothing when it is unset.
+/// Looks at a screen as a person would: no two of its commands claim one letter. Saves a picture of it as NAME.png into
+/// the folder named by LOFTKEEP_TOUR_PICTURES, when that is set.
 void Picture(QWidget& widget, const QString& name);
