@@ -42,7 +42,7 @@ int CompareTexts(void*, int lengthA, const void* a, int lengthB, const void* b) 
 }
 
 QString ErrorText(sqlite3* handle, const QString& path) {
-  const QString message = handle ? QString::fromUtf8(sqlite3_errmsg(handle)) : u"out of memory"_s;
+  QString message = handle ? QString::fromUtf8(sqlite3_errmsg(handle)) : u"out of memory"_s;
   switch (handle ? sqlite3_errcode(handle) & 0xff : SQLITE_NOMEM) {
     case SQLITE_FULL:
       return u"There is not enough space on the disk."_s;
@@ -266,8 +266,10 @@ std::unique_ptr<Prepared> Database::Prepare(const QString& statement, Want want)
   prepared->isQuery = translation.isQuery;
   prepared->table = translation.table;
   const int hidden = translation.table.isEmpty() ? 0 : 1;
+  const int columns = sqlite3_column_count(prepared->handle) - hidden;
   std::vector<Field> fields;
-  for (int i = 0; i < sqlite3_column_count(prepared->handle) - hidden; ++i) {
+  fields.reserve(static_cast<size_t>(columns));
+  for (int i = 0; i < columns; ++i) {
     fields.push_back(FieldFromDeclared(QString::fromUtf8(sqlite3_column_name(prepared->handle, i)),
                                        QString::fromUtf8(sqlite3_column_decltype(prepared->handle, i))));
   }
@@ -355,7 +357,7 @@ const std::vector<Field>& Database::FieldsOf(const QString& table) {
     fields.push_back(
         FieldFromDeclared(ReadColumn(info, 0, jet::kText).ToText(), ReadColumn(info, 1, jet::kText).ToText()));
   sqlite3_reset(info);
-  return *fields_.insert(key, std::move(fields));
+  return *fields_.insert(key, fields);
 }
 
 void Database::ChangeSchema(const QByteArray& sql) {

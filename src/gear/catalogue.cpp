@@ -30,7 +30,7 @@ QString AskModelName(int type, int manufacturer) {
   if (manufacturer > 0) text << u"Manufacturer: "_s + ManufacturerName(manufacturer);
   text << u"Enter "_s + typeName + u" model"_s;
   for (;;) {
-    const QString name = InputBox(Lines(text), u"Add new "_s + typeName.toLower() + u" model"_s).trimmed();
+    QString name = InputBox(Lines(text), u"Add new "_s + typeName.toLower() + u" model"_s).trimmed();
     if (name.size() <= kLongestModelName) return name;
     MsgBox(u"Name is too long"_s, u"50 characters max"_s);
   }

@@ -149,7 +149,7 @@ QString AskNameOfNewRig(int owner) {
     RigNameIsTaken(QString(), owner, &list);
     const QString question = u"What do you want to call this new rig?"_s;
     const QString present = u"Current rigs owned by %1 are:"_s.arg(PersonDisplayName(owner));
-    const QString name = InputBox(list.isEmpty() ? question : Lines({present, list, QString(), question}))
+    QString name = InputBox(list.isEmpty() ? question : Lines({present, list, QString(), question}))
                              .trimmed()
                              .left(kLongestRigName);
     if (name.isEmpty() || !RigNameIsTaken(name, owner)) return name;

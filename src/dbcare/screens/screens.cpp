@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 QString ChooseDatabase() {
   auto& form = SharedForm<frmGetBackup2>();
   form.ShowModal();
-  const QString choice = form.Tag();
+  QString choice = form.Tag();
   form.UnloadForm();
   return choice;
 }
@@ -18,7 +18,7 @@ QString ChooseFolder(const QString& mode) {
   auto& form = SharedForm<frmFolders>();
   form.SetMode(mode);
   form.ShowModal();
-  const QString path = form.Tag();
+  QString path = form.Tag();
   form.UnloadForm();
   return path;
 }

@@ -66,7 +66,7 @@ void frmMultiTask::Search() {
 QList<int> SelectMultipleTasks() {
   auto& form = SharedForm<frmMultiTask>();
   form.ShowModal();
-  const QList<int> ticked = form.Tag() == "ok"_L1 ? form.Ticked() : QList<int>();
+  QList<int> ticked = form.Tag() == "ok"_L1 ? form.Ticked() : QList<int>();
   form.UnloadForm();
   return ticked;
 }

@@ -175,7 +175,7 @@ LibraryChoice SelectTask(const LibraryQuestion& question) {
   auto& form = SharedForm<frmSelectTask>();
   form.Pick(question);
   form.ShowModal();
-  const LibraryChoice choice = form.Tag() == "select"_L1 ? form.Choice() : LibraryChoice();
+  LibraryChoice choice = form.Tag() == "select"_L1 ? form.Choice() : LibraryChoice();
   form.UnloadForm();
   return choice;
 }

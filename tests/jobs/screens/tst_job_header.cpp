@@ -72,6 +72,11 @@ class TestJobHeader : public QObject {
     QCOMPARE(JobRiggerID(shop.job), ann);
     QCOMPARE(shop.Label("lblRigger"), u"Ann Adams"_s);
     QCOMPARE(shop.Lines().Text(0, kRigger), u"Adams"_s);
+    shop.loft.Run(u"update tblTasks set RiggerID = 99"_s);
+    shop.screens.WhenShown(u"frmPicker"_s,
+                           [](Form& form) { Click(form, u"cmdSelect"_s); });  // the same one: no question
+    QTest::mouseClick(&Control<QWidget>(shop.Screen(), u"lblRigger"_s), Qt::LeftButton);
+    QCOMPARE(JobRiggerID(shop.job), ann);
     shop.loft.Run(u"update tblPeople set rigger = false"_s);
     shop.prompts.ExpectBox(u"No riggers found"_s,
                            u"There are no riggers in your database\nTo designate a person as a rigger, go to the\n"
