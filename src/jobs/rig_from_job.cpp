@@ -150,8 +150,8 @@ QString AskNameOfNewRig(int owner) {
     const QString question = u"What do you want to call this new rig?"_s;
     const QString present = u"Current rigs owned by %1 are:"_s.arg(PersonDisplayName(owner));
     QString name = InputBox(list.isEmpty() ? question : Lines({present, list, QString(), question}))
-                             .trimmed()
-                             .left(kLongestRigName);
+                       .trimmed()
+                       .left(kLongestRigName);
     if (name.isEmpty() || !RigNameIsTaken(name, owner)) return name;
     MsgBox(Lines({u"%1 already has a rig named %2"_s.arg(PersonDisplayName(owner), name), u"Rig list:"_s, list}),
            u"Duplicate rig name"_s);
