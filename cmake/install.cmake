@@ -10,6 +10,6 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Loaded at run time, so no scan of the program finds them: Qt's SVG plugins, certificates, Arial's widths.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, ca-certificates, fonts-liberation")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
 include(CPack)

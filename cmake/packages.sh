@@ -8,8 +8,6 @@ packages=(
   qt6-svg-dev            # the icon, sharp at every size
   qt6-wayland            # native windows on a Wayland desktop
   libsqlite3-dev         # the database
-  libcurl4-openssl-dev   # mail and file transfer
-  ca-certificates        # proves the mail server's name
   fonts-dejavu-core      # text on the screen
   fonts-liberation       # text on paper, with the widths of Arial
   libbenchmark-dev       # benchmarks
