@@ -93,10 +93,7 @@ Value CountOf(const QString& statement) {
   Value count;
   {
     Recordset records(statement);
-    if (RecordsetHasRows(records)) {
-      records.MoveLast();
-      count = records.RecordCount();
-    }
+    if (RecordsetHasRows(records)) count = records.RecordCount();
   }
   bracket.Close();
   return count;

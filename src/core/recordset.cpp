@@ -104,13 +104,11 @@ Recordset::Row Recordset::ReadRow() const {
 // Nothing has been written since the statement began, or Freeze would have come first; so reading it again from the
 // start gives the same rows.
 void Recordset::ReadAll() {
-  const qsizetype at = at_;
   sqlite3_reset(prepared_->handle);
   rows_.clear();
   while (database_->Step(prepared_->handle)) rows_.push_back(ReadRow());
   Database::GiveBack(prepared_);
   prepared_ = nullptr;
-  at_ = at;
 }
 
 // What was added here stands at the end already; nothing else has been written since, or Freeze would have come first.
@@ -129,7 +127,7 @@ void Recordset::ReadRest() {
 }
 
 /// A recordset that was opened to add rows need not read those of a long table.
-bool Recordset::OnlyAdds() const { return restWaits_ || (adding_ && IsStreaming() && at_ == 0 && !goingLast_); }
+bool Recordset::OnlyAdds() const { return restWaits_ || (adding_ && IsStreaming()); }
 
 void Recordset::Freeze() {
   ReadRest();

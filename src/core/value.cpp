@@ -64,7 +64,6 @@ bool Value::ToBool() const { return ToDouble() != 0; }
 Money Value::ToMoney() const {
   if (IsMoney()) return std::get<Money>(data_);
   if (IsText()) return Money::FromUnits(NumberFromText(std::get<QString>(data_)).ToTenThousandths());
-  if (IsInteger()) return Money::FromUnits(NumberFromText(ToText()).ToTenThousandths());
   return Money::FromDouble(ToDouble());
 }
 

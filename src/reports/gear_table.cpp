@@ -59,8 +59,7 @@ GearRow GearRowOf(int componentID) {
 QList<GearRow> GearRowsOfRig(int rigID) {
   QList<GearRow> rows;
   for (const int type : ComponentTypesOfRigType(RigType(rigID), true)) {
-    const int component = ComponentOfTypeInRig(rigID, type);
-    rows << (component != 0 ? GearRowOf(component) : GearRow());
+    rows << GearRowOf(ComponentOfTypeInRig(rigID, type));  // blank where the rig has none
     rows.last().type = ComponentTypeName(type);
   }
   return rows;

@@ -123,8 +123,7 @@ void DoAddress(InvoiceForm& form) {
 
 void DoHeader(InvoiceForm& form, int jobID, int rigID) {
   const Date started = JobDateStarted(jobID);
-  const QStringList lines = {u"Job Title: "_s + JobTitle(jobID),
-                             u"Rig: "_s + (RigExists(rigID) ? RigName(rigID) : QString()),
+  const QStringList lines = {u"Job Title: "_s + JobTitle(jobID), u"Rig: "_s + RigName(rigID),
                              u"Invoice #"_s + GetInvoiceNumber(jobID),
                              u"Invoice Date: "_s + (started.IsNone() ? QString() : Format(started, u"mm/dd/yyyy"_s))};
   for (const QString& line : lines) {

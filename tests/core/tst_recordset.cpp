@@ -85,6 +85,54 @@ class RecordsetTest : public QObject {
     QCOMPARE(people[u"lastname"].ToText(), u"c"_s);
   }
 
+  void GoesBackToTheFirstFromAnywhere() {
+    AddPeople({u"a"_s, u"b"_s, u"c"_s});
+    Bracket bracket;
+    Recordset people(u"Select * from tblPeople order by LastName"_s);
+    people.MoveNext();
+    people.MoveNext();
+    people.MoveFirst();
+    QCOMPARE(people[u"LastName"].ToText(), u"a"_s);
+    while (!people.Eof()) people.MoveNext();
+    QVERIFY(RecordsetHasRows(people));
+    QCOMPARE(people[u"LastName"].ToText(), u"a"_s);
+
+    Recordset added(u"tblPeople"_s);
+    added.AddNew();
+    added.Set(u"LastName", u"d"_s);
+    added.Update();
+    added.MoveFirst();
+    QCOMPARE(added[u"LastName"].ToText(), u"a"_s);
+  }
+
+  void ARowAddedOnTheWayStandsBehindAllTheOthers() {
+    AddPeople({u"a"_s, u"b"_s, u"c"_s});
+    Bracket bracket;
+    Recordset people(u"tblPeople"_s);
+    people.MoveNext();
+    people.AddNew();
+    people.Set(u"LastName", u"d"_s);
+    people.Update();
+    QCOMPARE(people[u"LastName"].ToText(), u"d"_s);
+    people.MovePrevious();
+    QCOMPARE(people[u"LastName"].ToText(), u"c"_s);
+    people.MoveFirst();
+    QStringList names;
+    for (; !people.Eof(); people.MoveNext()) names << people[u"LastName"].ToText();
+    QCOMPARE(names, (QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s}));
+  }
+
+  void WithoutRowsItStaysEmptyWhateverIsWritten() {
+    Bracket bracket;
+    Recordset people(u"tblPeople"_s);
+    people.MoveLast();
+    QVERIFY(people.Eof());
+    AddPeople({u"a"_s});
+    QVERIFY(people.Bof());
+    QVERIFY(!RecordsetHasRows(people));
+    QCOMPARE(people.RecordCount(), 0);
+  }
+
   void ALoopOverRowsWalksThemAllAndMayWrite() {
     Bracket bracket;
     int none = 0;

@@ -198,6 +198,7 @@ class TestValues : public QObject {
   void OtherConversions() {
     QCOMPARE(Value(u"922337203685477.5807").ToMoney().Units(), std::numeric_limits<qint64>::max());
     QCOMPARE(Value(-5).ToMoney().Units(), -50000);
+    QCOMPARE(Value(qint64{922337203685477}).ToMoney().Units(), 9223372036854770000);
     QCOMPARE(Value(0.1).ToMoney().Units(), 1000);
     QCOMPARE(FailureOf([] { Value(std::numeric_limits<qint64>::max()).ToMoney(); }), u"Overflow"_s);
     QCOMPARE(Value(0.25).ToBool(), true);
@@ -215,6 +216,7 @@ class TestValues : public QObject {
     QCOMPARE(Value(-17).ToText(), u"-17"_s);
     QCOMPARE(Value(0.1 + 0.2).ToText(), u"0.3"_s);
     QCOMPARE(Value(1e20).ToText(), u"1E+20"_s);
+    QCOMPARE(Value(1234567.25).ToText(), u"1234567.25"_s);
     QCOMPARE(Value(Money::FromUnits(955000)).ToText(), u"95.5"_s);
     QCOMPARE(Value(Money::FromUnits(-1)).ToText(), u"-0.0001"_s);
     QCOMPARE(Value(Money()).ToText(), u"0"_s);

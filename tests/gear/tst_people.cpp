@@ -124,6 +124,46 @@ class TestPeople : public QObject {
     QCOMPARE(NextPerson(99), 99);
   }
 
+  void OrganizationsWithoutNamesStandByTheirOwn() {
+    ThrowAwayLoft loft;
+    const int sky = Person(loft, "", "", "Sky Club");
+    const int air = Person(loft, "", "", "Air Club");
+    QCOMPARE(NextPerson(0), air);
+    QCOMPARE(NextPerson(air), sky);
+    QCOMPARE(PreviousPerson(sky), air);
+  }
+
+  void TheEndsByLastNameHeedNothingElse() {
+    ThrowAwayLoft loft;
+    QCOMPARE(EndsByLastName(), std::pair(0, 0));
+    const int zoe = Person(loft, "Zoe", "Jones");
+    const int ann = Person(loft, "Ann", "Jones");
+    QCOMPARE(EndsByLastName(), std::pair(zoe, ann));
+  }
+
+  void OneRiggerIsEnough() {
+    ThrowAwayLoft loft;
+    const int ann = Person(loft, "Ann", "Jones");
+    {
+      ScriptedPrompts prompts;
+      prompts.ExpectBox(u"No riggers found"_s,
+                        u"There are no riggers in your database\nTo designate a person as a rigger, "
+                        "go to the\ncustomers form and check the RIGGER check box"_s);
+      QVERIFY(!RiggersExist());
+    }
+    ScriptedPrompts prompts;
+    loft.Run(u"update tblPeople set rigger = true where ID = "_s + QString::number(ann));
+    QVERIFY(RiggersExist());
+  }
+
+  void WithoutRiggersTheDefaultIsLeftAlone() {
+    ThrowAwayLoft loft;
+    const int ann = Person(loft, "Ann", "Jones");
+    SetDefaultRigger(ann);
+    QCOMPARE(EffectiveRigger(), 0);
+    QCOMPARE(loft.Rows(u"select DefaultRiggerID from tblMisc"_s), QStringList(QString::number(ann)));
+  }
+
   void AStaleDefaultRiggerIsReadOnceMoreAndCleared() {
     ThrowAwayLoft loft;
     SetDefaultRigger(77);

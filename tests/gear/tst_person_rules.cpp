@@ -86,6 +86,16 @@ class TestPersonRules : public QObject {
     QCOMPARE(id, 0);
   }
 
+  void OfTwoWithTheSameNameItFindsTheFirst() {
+    ScriptedPrompts prompts;
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    Named(u"Ann Jones"_s);
+    int id = 0;
+    QVERIFY(DuplicateNameCheck(u"Ann Jones"_s, id));
+    QCOMPARE(id, ann);
+  }
+
   void AsksAboutEqualLastNames() {
     ThrowAwayLoft loft;
     Named(u"Bob Jones"_s);
@@ -232,6 +242,9 @@ class TestPersonRules : public QObject {
                       u"Ann Jones is the Loftkeep program owner.\n\nYou cannot delete the program owner."_s);
     int neighbour = 0;
     QVERIFY(!DeleteCustomer(id, neighbour));
+    prompts.ExpectBox(u"Can't delete program owner"_s,
+                      u"Ann Jones is the Loftkeep program owner.\n\nYou cannot delete the program owner."_s);
+    QVERIFY(!DeleteCustomerFromRigScreen(id));
     QCOMPARE(loft.ChangesSince(before), QStringList());
   }
 
@@ -305,6 +318,26 @@ class TestPersonRules : public QObject {
     QVERIFY(!PersonExists(ann));
   }
 
+  void TheRigScreenTellsWhatIsTiedAndAsksNoMore() {
+    ThrowAwayLoft loft;
+    const int ann = Named(u"Ann Jones"_s);
+    CreateRig(ann, 1, u"Rig"_s);
+    const QString text =
+        u"Customer Ann Jones is associated with the following: \n      1 rig\n"
+        "It is recommended that you NOT delete this\ncustomer.\n\n"
+        "Do you want to delete this customer anyway?\n(rigs, components, jobs, and tasks will not be deleted)"_s;
+    const QStringList before = loft.Snapshot();
+    ScriptedPrompts prompts;
+    prompts.Expect(u"Deletion NOT recommended"_s, text, Answer::No);
+    QVERIFY(!DeleteCustomerFromRigScreen(ann));
+    QCOMPARE(loft.ChangesSince(before), QStringList());
+    prompts.Expect(u"Deletion NOT recommended"_s, text, Answer::Yes);
+    prompts.ExpectBox(u"Customer database will be empty"_s, u"This is the only customer in the database"_s);
+    QVERIFY(DeleteCustomerFromRigScreen(ann));
+    QCOMPARE(loft.TouchedSince(before), QStringList({u"+tblRig|1"_s, u"-tblPeople|1"_s, u"-tblRig|1"_s}));
+    QCOMPARE(loft.Rows(u"select OwnerID from tblRig"_s), QStringList(u"0"_s));
+  }
+
   void ChecksAddresses_data() {
     QTest::addColumn<QString>("address");
     QTest::addColumn<bool>("legal");
@@ -329,6 +362,9 @@ class TestPersonRules : public QObject {
     ScriptedPrompts prompts;
     prompts.Expect(kProgramTitle, question, Answer::No);
     QVERIFY(!AskForInvoiceEmail(ann));
+    prompts.Expect(kProgramTitle, question, Answer::Yes);
+    prompts.ExpectInput(u"Enter email address"_s, u"Enter email address for Ann Jones"_s, QString());
+    QVERIFY(!AskForInvoiceEmail(ann));  // cancelled: nothing to complain about
     prompts.Expect(kProgramTitle, question, Answer::Yes);
     prompts.ExpectInput(u"Enter email address"_s, u"Enter email address for Ann Jones"_s, u"ann"_s);
     prompts.ExpectBox(u"Bad email address"_s, u"ann is not a legal email address"_s).WithIcon(Icon::Exclamation);
@@ -362,6 +398,11 @@ class TestPersonRules : public QObject {
     const int ann = Named(u"Ann Jones"_s);
     const QString question = u"Ann Jones doesn't have an email address.\n\nWould you like to enter one now?"_s;
     ScriptedPrompts prompts;
+    prompts.Expect(u"Enter email address?"_s, question, Answer::No);
+    QVERIFY(!AskForStatementEmail(ann));
+    prompts.Expect(u"Enter email address?"_s, question, Answer::Yes);
+    prompts.ExpectInput(u"Enter email address"_s, u"Enter email address for Ann Jones"_s, QString());
+    QVERIFY(!AskForStatementEmail(ann));
     prompts.Expect(u"Enter email address?"_s, question, Answer::Yes);
     prompts.ExpectInput(u"Enter email address"_s, u"Enter email address for Ann Jones"_s, u"a.b"_s);
     prompts.ExpectBox(kProgramTitle, u"a.b is not a valid email address"_s);

@@ -91,6 +91,14 @@ class TestCanvas : public QObject {
     QCOMPARE(TextsOf(canvas, 1).first().font, kArial);
   }
 
+  void FontsOfAPageKeepTheirStyleAndAreNeverTooSmallToDraw() {
+    const QFont font = PageFont({u"Arial"_s, 12, true, true});
+    QVERIFY(font.bold() && font.italic());
+    QCOMPARE(font.pixelSize(), 240);
+    QVERIFY(!PageFont(kArial).bold() && !PageFont(kArial).italic());
+    QCOMPARE(PageFont({u"Arial"_s, 0, false, false}).pixelSize(), 1);
+  }
+
   void SetFontTakesAllFourFields() {
     Canvas canvas = Portrait();
     canvas.SetFont({u"Courier New"_s, 12.5, true, true});
@@ -236,6 +244,7 @@ class TestCanvas : public QObject {
       QPainter painter(&image);
       painter.scale(1.0 / 15, 1.0 / 15);
       PaintPage(painter, canvas.Drawn().pages.first());
+      QCOMPARE(painter.transform(), QTransform::fromScale(1.0 / 15, 1.0 / 15));  // left as it was found
     }
     const auto inked = [&](const QRect& area) {
       for (int y = area.top(); y <= area.bottom(); ++y)

@@ -67,6 +67,12 @@ class TestFonts : public QObject {
                           << "Georgia" << 10.0 << false;
     QTest::newRow("negative") << "Georgia\n-12\nFalse\nFalse\n"_ba
                               << "Georgia" << 10.0 << false;
+    QTest::newRow("smallest") << "Georgia\n1\nFalse\nFalse\n"_ba
+                              << "Georgia" << 1.0 << false;
+    QTest::newRow("greatest") << "Georgia\n200\nFalse\nFalse\n"_ba
+                              << "Georgia" << 200.0 << false;
+    QTest::newRow("blanks") << "  Georgia \n 12 \nFalse\nFalse\n"_ba
+                            << "Georgia" << 12.0 << false;
     QTest::newRow("lower case") << "Georgia\n12\ntrue\nfalse\n"_ba
                                 << "Georgia" << 12.0 << true;
   }
@@ -98,6 +104,18 @@ class TestFonts : public QObject {
     font.size = 8;
     LimitLogbookFont(font);
     QCOMPARE(font.size, 8.0);
+  }
+
+  void ABigFontIsToldBeforeTheNarrowLogbookIsBuilt() {
+    FontChoice font = {u"Georgia"_s, 12, false, false};
+    prompts_->ExpectBox(u"Font size = 12"_s, u"Logbook cannot have font size > 10\n\nFont size changed to 10"_s);
+    prompts_->ExpectBox(kProgramTitle, u"don't know LogBook2"_s);
+    QVERIFY(!BuildReport(u"LogBook2"_s, 1, font));
+    QCOMPARE(font.size, 10.0);
+    font.size = 12;
+    prompts_->ExpectBox(kProgramTitle, u"don't know LogBook"_s);
+    QVERIFY(!BuildReport(u"LogBook"_s, 1, font));
+    QCOMPARE(font.size, 12.0);
   }
 
   void TheLogbookLiesAcrossThePage() {

@@ -227,6 +227,14 @@ class TestInvoice : public QObject {
     QVERIFY(Html().contains(u"<tr><td>Total</td><td align=right>$17.00</td></tr>"_s));
   }
 
+  void APartIsAPartEvenAsAnEvent() {
+    HaveAddress();
+    const int job = Job(0, 0);
+    Task(job, u"Closing loop"_s, 5, 12, true);
+    QCOMPARE(qRound(Find(Print(job), u"Closing loop"_s).x), qRound(0.35 * 12240));
+    QVERIFY(Html().contains(u"<tr><td>-           Closing loop</td><td align=right></td></tr>"_s));
+  }
+
   void NothingLongRunsOverItsNeighbourOrOffThePage() {
     const QString wide(50, u'W');
     HaveAddress(wide.toUtf8() + "\r\n" + wide.toUtf8() + wide.toUtf8() + "\r\n");
@@ -234,6 +242,7 @@ class TestInvoice : public QObject {
     Component(rig, 1, Model(wide, 1, 12), wide, wide, Date::FromParts(2026, 1, 1));
     const int job = Job(Person(wide, wide, wide), rig, wide);
     Due(rig, Task(job, wide, 10), 1, Date::FromParts(2027, 1, 1));
+    Task(job, wide + wide, 0, 0, true);
     QHash<int, QList<std::pair<double, double>>> lines;
     for (const PageText& text : Texts(Print(job))) {
       Canvas measure(PageOrientation::Portrait, text.font);
@@ -333,6 +342,23 @@ class TestInvoice : public QObject {
     QCOMPARE(Find(pages, u"80"_s).y, Find(pages, u"Total:"_s).y);
     QVERIFY(IsGolden(QFINDTESTDATA("reports/golden/invoice-two-pages.txt"), u"invoice-two-pages.txt"_s,
                      PageAsText(pages.pages.at(0)) + u"\n--\n"_s + PageAsText(pages.pages.at(1)) + u'\n'));
+  }
+
+  void NothingIsPrintedBelowNineTenthsHoweverManyLinesThereAre() {
+    const Whole whole = WholeLoft();
+    constexpr double kLowest = 0.9 * 15840;
+    constexpr double kAroundTheRule = 80;
+    for (int line = 0; line < 45; ++line) {
+      Task(whole.job, u"Line"_s, 1);
+      const Pages pages = Print(whole.job);
+      for (qsizetype page = 0; page < pages.pages.size(); ++page)
+        for (const PageText& text : Texts(pages, page)) {
+          const bool aboveTheRule = text.text.startsWith(u"Due on"_s) || text.text.startsWith(u"Expires"_s) ||
+                                    text.text.startsWith(u"Please"_s) || text.text == "Line"_L1;
+          QVERIFY2(text.y <= kLowest + (aboveTheRule ? 0 : kAroundTheRule), qPrintable(text.text));
+        }
+    }
+    QCOMPARE(Print(whole.job).pages.size(), 2);
   }
 
   void TheHtmlOfTheInvoiceBeforeIsReplaced() {
