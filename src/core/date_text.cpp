@@ -39,7 +39,7 @@ QRegularExpression Pattern(const char* pattern) {
 }
 
 Date Build(int year, int month, int day) {
-  if (month > 12 && day <= 12) std::swap(month, day);
+  if (month > 12) std::swap(month, day);
   return Date::FromParts(year, month, day);
 }
 
@@ -58,7 +58,6 @@ std::optional<Date> FromNumbers(const QString& text) {
   static const QRegularExpression kTwo = Pattern(R"(^(\d{1,2})[-/](\d{1,2})$)");
   static const QRegularExpression kMonthYear = Pattern(R"(^(\d{1,2})[-/](\d{4})$)");
   if (const Found three(kThree, text); three) {
-    if (three.IsLong(1) && three.IsLong(4)) return std::nullopt;
     if (three.IsLong(1)) return Build(three.Number(1), three.Number(3), three.Number(4));
     return Build(three.Year(4), three.Number(1), three.Number(3));
   }

@@ -237,11 +237,14 @@ class Writer {
   /// Rows of one table, each as it stands: only those can be written through the result.
   bool IsPlainSelect() const {
     if (out_.tables.size() != 1) return false;
+    bool inFieldList = true;
     for (size_t i = 0; i < tokens_.size(); ++i) {
       const Token& token = tokens_[i];
-      if (Is(token, u"distinct") || Is(token, u"group") || Is(token, u"union")) return false;
-      if (Is(token, u"from")) return i + 2 >= tokens_.size() || !IsSymbol(tokens_[i + 2], u",");
-      if (IsFunction(i)) return false;
+      if (Is(token, u"distinct") || Is(token, u"group")) return false;
+      if (inFieldList && IsFunction(i)) return false;
+      if (!Is(token, u"from")) continue;
+      if (i + 2 < tokens_.size() && IsSymbol(tokens_[i + 2], u",")) return false;
+      inFieldList = false;
     }
     return true;
   }

@@ -178,11 +178,9 @@ bool DeleteComponent(int component) {
   Trap(u"Sub DeleteComponent"_s, [&] {
     Bracket bracket;
     DeleteRecordsFromTable(u"tblComponents"_s, u"ID"_s, component);
-    if (!uses.isEmpty()) {
-      DeleteRecordsFromTable(u"tblJobComponents"_s, u"ComponentID"_s, component);
-      DeleteRecordsFromTable(u"tblSchedules"_s, u"ComponentID"_s, component);
-      DeleteRecordsFromTable(u"tblTaskComponents"_s, u"CompID"_s, component);
-    }
+    DeleteRecordsFromTable(u"tblJobComponents"_s, u"ComponentID"_s, component);
+    DeleteRecordsFromTable(u"tblSchedules"_s, u"ComponentID"_s, component);
+    DeleteRecordsFromTable(u"tblTaskComponents"_s, u"CompID"_s, component);
     bracket.Close();
   });
   return true;

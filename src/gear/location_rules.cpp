@@ -19,7 +19,7 @@ struct StateRates {
 StateRates OtherRates(const QString& state, double rate, int id) {
   StateRates others;
   for (const Recordset& row : Rows(u"Select * from tblLocation where State = '"_s + state + u'\'')) {
-    if (row[u"State"].ToText().toUpper() != state || (id != 0 && row[u"ID"].ToInt() == id)) continue;
+    if (id != 0 && row[u"ID"].ToInt() == id) continue;
     const double other = row[u"TaxRate"].ToDouble();
     others.cities += row[u"City"].ToText() + u"  ("_s + ShownTaxRate(other) + u"%)\n"_s;
     if (other != rate) others.inForce = other;

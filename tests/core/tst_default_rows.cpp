@@ -38,10 +38,12 @@ class DefaultRowsTest : public QObject {
                             u"4 AAD"_s,       u"5 Chest Reserve"_s, u"6 Passenger Harness"_s,
                             u"7 Misc"_s};
     QCOMPARE(Read(u"tblComponentTypes"_s, {u"ID"_s, u"Name"_s}), fixed);
-    DeleteRecordsFromTable(u"tblComponentTypes"_s, u"ID"_s, 3);
-    UpdateTableBySQL(u"update tblComponentTypes set Name = 'Harness' where ID = 1"_s);
-    CheckComponentTypes();
-    QCOMPARE(Read(u"tblComponentTypes"_s, {u"ID"_s, u"Name"_s}), fixed);
+    for (const int missing : {1, 3, 6}) {
+      DeleteRecordsFromTable(u"tblComponentTypes"_s, u"ID"_s, missing);
+      UpdateTableBySQL(u"update tblComponentTypes set Name = 'Harness' where ID = 2"_s);
+      CheckComponentTypes();
+      QCOMPARE(Read(u"tblComponentTypes"_s, {u"ID"_s, u"Name"_s}), fixed);
+    }
   }
 
   void TheSeventhComponentTypeIsNotTested() {

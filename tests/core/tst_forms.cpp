@@ -13,8 +13,10 @@ class Screen : public LoadedForm {
   QString FormName() const override { return name_; }
   bool FormIsShown() const override { return shown_; }
   void ReloadForm() override { ++reloads; }
+  void ReloadSchedule() override { ++scheduleReloads; }
   void UnloadForm() override {}
   int reloads = 0;
+  int scheduleReloads = 0;
 
  private:
   QString name_;
@@ -56,6 +58,15 @@ class TestForms : public QObject {
     Forms::ReloadIfLoaded(u"frmSchedule"_s);
     QCOMPARE(job.reloads, 1);
     QCOMPARE(rig.reloads, 0);
+  }
+
+  void NewDueDatesReachEveryLoadedForm() {
+    const Screen job(u"frmJob"_s);
+    const Screen rig(u"frmRig"_s, false);
+    Forms::ReloadSchedules();
+    QCOMPARE(job.scheduleReloads, 1);
+    QCOMPARE(rig.scheduleReloads, 1);
+    QCOMPARE(job.reloads, 0);
   }
 };
 

@@ -37,6 +37,10 @@ class JetTest : public QObject {
         "Select *, [tblTasks].rowid from [tblTasks] where [TaskLibID] IN ( ?1 , ?2 )");
     row("Select tblTasks.* from tblTasks INNER JOIN tblJobs ON tblTasks.JobID = tblJobs.ID",
         "Select [tblTasks].* from [tblTasks] INNER JOIN [tblJobs] ON [tblTasks].[JobID] = [tblJobs].[ID]");
+    row("Select distinct State from tblPeople", "Select distinct [State] from [tblPeople]");
+    row("Select State from tblPeople group by State", "Select [State] from [tblPeople] group by [State]");
+    row("Select State from tblPeople union Select State from tblPeople",
+        "Select [State] from [tblPeople] union Select [State] from [tblPeople]");
     row("Select Max(ID) from tblJobs", "Select Max ( [ID] ) from [tblJobs]");
     row("Select * from tblPeople where lastname = \"Lee\" & 'x';",
         "Select *, [tblPeople].rowid from [tblPeople] where [lastname] = ?1 || ?2");
@@ -57,6 +61,12 @@ class JetTest : public QObject {
     QCOMPARE(jet::TextOf(one.literals.at(1)), u"it's"_s);
     jet::CutStatement(u"Select * from tblJobs where ID > 17 and JobTitle = 'x'", other);
     QVERIFY(one.key != other.key);
+    jet::CutStatement(u"Select [Order] from tblJobs", one);
+    jet::CutStatement(u"Select Order from tblJobs", other);
+    QVERIFY(one.key != other.key);
+    jet::CutStatement(u"tblJobs", one);
+    jet::CutStatement(u"tbl Jobs", other);
+    QVERIFY(one.key != other.key);
   }
 
   void NamesTheColumnThatALiteralMeets() {
@@ -70,6 +80,9 @@ class JetTest : public QObject {
   void ReadsDateLiterals() {
     QCOMPARE(jet::ParseDateLiteral(u"11/21/2026"), Date::FromParts(2026, 11, 21));
     QCOMPARE(jet::ParseDateLiteral(u"1/2/05"), Date::FromParts(2005, 1, 2));
+    QCOMPARE(jet::ParseDateLiteral(u"1/2/29"), Date::FromParts(2029, 1, 2));
+    QCOMPARE(jet::ParseDateLiteral(u"1/2/30"), Date::FromParts(1930, 1, 2));
+    QCOMPARE(jet::ParseDateLiteral(u"11/21/2026 6:00 pm"), Date::FromParts(2026, 11, 21) + 0.75);
     QCOMPARE(jet::ParseDateLiteral(u"1/2/95"), Date::FromParts(1995, 1, 2));
     QCOMPARE(jet::ParseDateLiteral(u"11/21/2026 6:00 PM"), Date::FromParts(2026, 11, 21) + 0.75);
     QVERIFY_THROWS_EXCEPTION(Failure, jet::ParseDateLiteral(u"2/30/2026"));

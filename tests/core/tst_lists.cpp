@@ -30,6 +30,8 @@ class TestLists : public QObject {
     const int jump = loft.Add(u"tblTaskLib"_s, {{u"Name"_s, "Jump"}, {u"IsEvent"_s, true}, {u"LogBook"_s, false}});
     QCOMPARE(LoadTaskList().ids, QList<int>({jump, patch}));
     QCOMPARE(LoadTaskOrEventList(false).texts, QStringList{u"Patch"_s});
+    loft.Add(u"tblTaskLib"_s, {{u"Name"_s, "Assemble"}, {u"IsEvent"_s, false}, {u"LogBook"_s, false}});
+    QCOMPARE(LoadTaskOrEventList(false).texts, (QStringList{u"Assemble"_s, u"Patch"_s}));
     QCOMPARE(LoadTaskOrEventList(true).texts, QStringList{u"Jump"_s});
     QCOMPARE(GetArrayOfTasksExpanded().ids, QList<int>{patch});
   }
@@ -57,6 +59,8 @@ class TestLists : public QObject {
     const int blue = loft.Add(u"tblRig"_s, {{u"rigAlias"_s, "Blue"}, {u"OwnerID"_s, 6}});
     QCOMPARE(GetArrayOfRigs().ids, QList<int>({blue, red}));
     QCOMPARE(GetArrayOfRigs(5).texts, QStringList{u"Red"_s});
+    loft.Add(u"tblRig"_s, {{u"rigAlias"_s, "Green"}, {u"OwnerID"_s, 5}});
+    QCOMPARE(GetArrayOfRigs(5).texts, (QStringList{u"Green"_s, u"Red"_s}));
   }
 
   void LocationsTellWhatIsFilled() {
@@ -76,6 +80,22 @@ class TestLists : public QObject {
     QCOMPARE(people.ids, QList<int>({club, ann, smith}));
     QCOMPARE(GetArrayOfRiggers().ids, QList<int>{ann});
     QCOMPARE(GetArrayOfRiggers(true).ids, QList<int>({club, ann, smith}));
+  }
+
+  void RiggersStandByLastAndFirstName() {
+    const ThrowAwayLoft loft;
+    const auto add = [&](const char* last, const char* first) {
+      return loft.Add(u"tblPeople"_s, {{u"LastName"_s, last}, {u"FirstName"_s, first}, {u"Rigger"_s, true}});
+    };
+    const int smith = add("Smith", "Al");
+    const int zoe = add("Jones", "Zoe");
+    const int ann = add("Jones", "Ann");
+    QCOMPARE(GetArrayOfRiggers().ids, QList<int>({ann, zoe, smith}));
+    QCOMPARE(GetArrayOfRiggers(true).ids, QList<int>({ann, zoe, smith}));
+    QCOMPARE(GetArrayOfPeopleExpanded().ids, QList<int>({ann, zoe, smith}));
+    const int sky = loft.Add(u"tblPeople"_s, {{u"LastName"_s, ""}, {u"FirstName"_s, ""}, {u"OrgName"_s, "Sky"}});
+    const int air = loft.Add(u"tblPeople"_s, {{u"LastName"_s, ""}, {u"FirstName"_s, ""}, {u"OrgName"_s, "Air"}});
+    QCOMPARE(GetArrayOfPeopleExpanded().ids, QList<int>({air, sky, ann, zoe, smith}));
   }
 
   void AFailureShowsTheLoadersName() {

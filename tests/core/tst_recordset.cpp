@@ -133,6 +133,23 @@ class RecordsetTest : public QObject {
     QCOMPARE(people.RecordCount(), 0);
   }
 
+  void AnEmptyValueIsStoredAsNone() {
+    AddPeople({u"a"_s});
+    Bracket bracket;
+    for (Recordset& person : Rows(u"tblPeople"_s)) {
+      person.Set(u"LastName", Value());
+      person.Update();
+    }
+    QVERIFY(Recordset(u"Select * from tblPeople"_s)[u"LastName"].IsNull());
+  }
+
+  void AFileThatExistsIsNotMadeAnew() {
+    AddPeople({u"a"_s});
+    ReleaseDatabaseFile();
+    QVERIFY_THROWS_EXCEPTION(Failure, Database::CreateFile(store_->Path()));
+    QCOMPARE(LastNames(u"tblPeople"_s), QStringList(u"a"_s));
+  }
+
   void ALoopOverRowsWalksThemAllAndMayWrite() {
     Bracket bracket;
     int none = 0;

@@ -85,6 +85,8 @@ class TestText : public QObject {
     QTest::addColumn<QString>("expectedLast");
     QTest::addColumn<QString>("expectedFirst");
     QTest::newRow("comma and blank") << u"Smith, John"_s << u"Smith"_s << u"John"_s;
+    QTest::newRow("blank before the comma") << u"Smith , John"_s << u"Smith"_s << u"John"_s;
+    QTest::newRow("two commas") << u"Smith, John, Jr"_s << u"Smith"_s << u"John, Jr"_s;
     QTest::newRow("comma") << u"Smith,John"_s << u"Smith"_s << u"John"_s;
     QTest::newRow("words behind the comma") << u"van Dyke,  John  Paul "_s << u"van Dyke"_s << u"John Paul"_s;
     QTest::newRow("two words") << u" John   Smith "_s << u"Smith"_s << u"John"_s;

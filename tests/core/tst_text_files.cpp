@@ -33,6 +33,7 @@ class TestTextFiles : public QObject {
     QTest::newRow("UTF-8") << QByteArray("Zo\xC3\xAB \xE2\x82\xAC") << QStringList{u"Zo\u00EB \u20AC"_s};
     QTest::newRow("Windows-1252") << QByteArray("Zo\xEB \x80 \x93q\x94 \x99")
                                   << QStringList{u"Zo\u00EB \u20AC \u201Cq\u201D \u2122"_s};
+    QTest::newRow("Windows-1252 at its end") << QByteArray("\x9F") << QStringList{u"\u0178"_s};
     QTest::newRow("quotes") << QByteArray("it's \"a\"\n") << QStringList{u"it's \"a\""_s};
   }
   void SplitsLines() {
@@ -100,6 +101,15 @@ class TestTextFiles : public QObject {
     for (const QString& line : {QString(), u"A"_s, u"b"_s}) RemoveItemFromFile(fn, line);
     QCOMPARE(temp.Read(u"paths.txt"_s), QByteArray());
     QCOMPARE(temp.Names(), QStringList{u"paths.txt"_s});
+  }
+
+  void AFileWithNothingToRemoveKeepsItsBytes() {
+    const TempFolder temp;
+    ScriptedPrompts prompts;
+    const QString fn = temp.Write(u"paths.txt"_s, "a\nb");
+    RemoveItemFromFile(fn, u"c"_s);
+    StripFile(fn);
+    QCOMPARE(temp.Read(u"paths.txt"_s), QByteArray("a\nb"));
   }
 
   void ARemovalThatFailsKeepsTheFile() {

@@ -55,6 +55,7 @@ class TestValues : public QObject {
     QCOMPARE(FailureOf([] { Date::FromParts(2011, 2, 31); }), u"Type mismatch"_s);
     QCOMPARE(FailureOf([] { Date(1e12).Days(); }), u"Overflow"_s);
     QCOMPARE(Date::FromParts(9999, 12, 31).Days(), 2958465);
+    QCOMPARE(FailureOf([] { Date(2958466).Days(); }), u"Overflow"_s);
     QCOMPARE(Date::FromParts(100, 1, 1).ToQDate(), QDate(100, 1, 1));
   }
 
@@ -64,6 +65,9 @@ class TestValues : public QObject {
     QTest::addColumn<QString>("text");
     const double may = Date::FromParts(2009, 5, 3).Serial();
     QTest::newRow("grid") << may << u"mm/dd/yyyy"_s << u"05/03/2009"_s;
+    QTest::newRow("noon") << may + 0.5 << u"h:nn AM/PM"_s << u"12:00 PM"_s;
+    QTest::newRow("midnight") << may << u"h:nn AM/PM"_s << u"12:00 AM"_s;
+    QTest::newRow("early year") << Date::FromParts(987, 1, 2).Serial() << u"mm/dd/yyyy"_s << u"01/02/0987"_s;
     QTest::newRow("capitals") << may << u"MM/dd/yyyy"_s << u"05/03/2009"_s;
     QTest::newRow("box") << may << u"mm/dd/yy"_s << u"05/03/09"_s;
     QTest::newRow("short") << may << u"m/d/yyyy"_s << u"5/3/2009"_s;

@@ -41,6 +41,7 @@ class CheckFieldsTest : public QObject {
       }
     }
     QCOMPARE(Schema().size(), size_t{25});
+    QVERIFY(OpenDatabase().CountIndexes() > 0);
   }
 
   void AMissingFieldIsAddedAndAllRowsStay() {
@@ -106,6 +107,18 @@ class CheckFieldsTest : public QObject {
                       "You can correct this by selecting the component \non the COMPONENTS screen\n"
                       "(The component will only be visible when the ALL COMPONENT TYPES \ncheck box is checked)"_s);
     ReportLostComponentTypes();
+  }
+
+  void TheLettersOfAFieldMakeNoOtherField() {
+    ScriptedPrompts prompts;
+    QVERIFY(FieldExists(50, true, u"tblPeople"_s, u"LASTNAME"_s, jet::kText));
+  }
+
+  void ComponentsOfTheFirstRigAreFreedToo() {
+    ScriptedPrompts prompts;
+    UpdateTableBySQL(u"insert into tblComponents (RigID) values (1)"_s);
+    FreeComponentsOfVanishedRigs();
+    QCOMPARE(GetValueFromTable(u"tblComponents"_s, u"ID"_s, 1, u"RigID"_s), Value(0));
   }
 
   void ComponentsOfAVanishedRigAreFreed() {

@@ -64,11 +64,11 @@ class FolderChoicesTest : public QObject {
   }
 
   void DatabaseFilesAloneOrAll() {
-    for (const char* name : {"files/b.MDB", "files/a.mdb", "files/c.txt", "files/sub/d.mdb"})
+    for (const char* name : {"files/B.MDB", "files/a.mdb", "files/c.txt", "files/sub/d.mdb"})
       home_->Folder().Write(QString::fromLatin1(name), "x");
     const QString folder = home_->Folder() / u"files"_s;
-    QCOMPARE(FilesToOffer(folder, true), (QStringList{u"a.mdb"_s, u"b.MDB"_s}));
-    QCOMPARE(FilesToOffer(folder, false), (QStringList{u"a.mdb"_s, u"b.MDB"_s, u"c.txt"_s}));
+    QCOMPARE(FilesToOffer(folder, true), (QStringList{u"a.mdb"_s, u"B.MDB"_s}));
+    QCOMPARE(FilesToOffer(folder, false), (QStringList{u"a.mdb"_s, u"B.MDB"_s, u"c.txt"_s}));
     QCOMPARE(FilesToOffer(folder + u"x"_s, false), QStringList());
   }
 
