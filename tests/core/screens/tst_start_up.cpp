@@ -365,6 +365,21 @@ class StartUpTest : public QObject {
     QVERIFY(SubMain());
   }
 
+  void ALongRunningProgramKeepsItsData() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    QLockFile other(DataPath + u"loftkeep.lock"_s);
+    QVERIFY(other.tryLock(0));
+    QFile lock(DataPath + u"loftkeep.lock"_s);
+    QVERIFY(lock.open(QFile::ReadWrite));
+    QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-30), QFile::FileModificationTime));
+    lock.close();
+    prompts.ExpectBox(u"Loftkeep"_s, u"Loftkeep is already running with the data in this folder:\n\n"_s + DataPath);
+    QVERIFY(!SubMain());
+    other.unlock();
+  }
+
   void DiagnosticModeSaysSo() {
     ScreenScript screens;
     ScriptedPrompts prompts;
@@ -397,17 +412,48 @@ class StartUpTest : public QObject {
     QCOMPARE(GetValueFromTable(u"tblComponents"_s, u"ID"_s, 1, u"RigID"_s), Value(0));
   }
 
+  void WhatTheLoftLacksIsThereAfterTheStart() {
+    ScreenScript screens;
+    ScriptedPrompts prompts;
+    MakeGoodLoft();
+    ConnectionString = ConnectionStringFor(DatabaseFile());
+    for (const QString& table : {u"tblRigTypes"_s, u"tblModels"_s, u"tblTaskLib"_s})
+      UpdateTableBySQL(u"delete * from "_s + table);
+    ReleaseDatabaseFile();
+    QVERIFY(QDir(DataPath + u"backup"_s).removeRecursively());
+    home_->Folder().Write(u"work/models.txt"_s, kModels);
+    home_->Folder().Write(u"work/helptext.txt"_s, "help");
+    QVERIFY(SubMain());
+    QVERIFY(FolderExists(DataPath + u"backup"_s));
+    QCOMPARE(home_->Folder().Read(u"home/loftkeep/support/models.txt"_s), QByteArray(kModels));
+    QCOMPARE(home_->Folder().Read(u"home/loftkeep/support/helptext.txt"_s), QByteArray("help"));
+    QCOMPARE(GetValueFromTableBySQL(u"Select * from tblModels where Name = 'Storm'"_s, u"TypeID"_s), Value(2));
+    QCOMPARE(GetNumberRecordsInTable(u"tblRigTypes"_s), 4);
+    QCOMPARE(GetNumberRecordsInTable(u"tblTaskLib"_s), 3);
+  }
+
+  void ACycleThatIsNoneBecomes180_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("days");
+    QTest::newRow("nothing") << QString() << 180;
+    QTest::newRow("none") << u"0"_s << 180;
+    QTest::newRow("backwards") << u"-120"_s << 180;
+    QTest::newRow("the longest") << u"32767"_s << 32767;
+    QTest::newRow("too long") << u"32768"_s << 180;
+  }
   void ACycleThatIsNoneBecomes180() {
+    QFETCH(QString, typed);
+    QFETCH(int, days);
     ScreenScript screens;
     ScriptedPrompts prompts;
     MakeGoodLoft();
     ConnectionString = ConnectionStringFor(DatabaseFile());
     UpdateTableBySQL(u"delete * from tblMisc"_s);
     ReleaseDatabaseFile();
-    prompts.ExpectInput(u"Enter reserve repack cycle"_s, u"How many days for reserve repack cycle?"_s, QString());
+    prompts.ExpectInput(u"Enter reserve repack cycle"_s, u"How many days for reserve repack cycle?"_s, typed);
     QVERIFY(SubMain());
-    QCOMPARE(GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s), Value(180));
-    QCOMPARE(GetValueFromTable(u"tblTaskLib"_s, u"ID"_s, 1, u"IntervalNumber"_s), Value(180));
+    QCOMPARE(GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s), Value(days));
+    QCOMPARE(GetValueFromTable(u"tblTaskLib"_s, u"ID"_s, 1, u"IntervalNumber"_s), Value(days));
   }
 
  private:
