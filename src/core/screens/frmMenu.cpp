@@ -2,6 +2,7 @@
 
 #include <QListWidget>
 #include <QShowEvent>
+#include <QWindow>
 
 #include "core/connection.h"
 #include "core/screens/home_commands.h"
@@ -44,5 +45,7 @@ void frmMenu::changeEvent(QEvent* event) {
 
 void frmMenu::showEvent(QShowEvent* event) {
   Form::showEvent(event);
-  if (!event->spontaneous()) move(0, 0);
+  if (event->spontaneous()) return;
+  move(0, 0);
+  windowHandle()->setFramePosition({0, 0});  // a move alone puts the title bar above the screen
 }
