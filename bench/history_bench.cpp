@@ -7,9 +7,9 @@
 
 #include "bench/application.h"
 #include "bench/loft_generator.h"
-#include "core/access.h"
-#include "core/connection.h"
 #include "core/default_rows.h"
+#include "core/store/access.h"
+#include "core/store/connection.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "history/history.h"

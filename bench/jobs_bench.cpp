@@ -9,8 +9,8 @@
 
 #include "bench/application.h"
 #include "bench/loft_generator.h"
-#include "core/access.h"
-#include "core/connection.h"
+#include "core/store/access.h"
+#include "core/store/connection.h"
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"

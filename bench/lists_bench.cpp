@@ -8,13 +8,13 @@
 
 #include "bench/application.h"
 #include "bench/loft_generator.h"
-#include "core/connection.h"
+#include "core/store/connection.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"
 #include "gear/screens.h"
-#include "gear/screens/frmGetRig.h"
-#include "gear/screens/frmPeople.h"
-#include "gear/screens/frmPickComponent.h"
+#include "gear/screens/components/frmPickComponent.h"
+#include "gear/screens/people/frmPeople.h"
+#include "gear/screens/rigs/frmGetRig.h"
 #include "jobs/screens/frmJobList.h"
 #include "schedule/screens/frmSchedule.h"
 

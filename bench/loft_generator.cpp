@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "core/access.h"
-#include "core/database.h"
 #include "core/default_rows.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
 #include "dbcare/check_fields.h"
 
 using namespace Qt::StringLiterals;

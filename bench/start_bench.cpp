@@ -12,9 +12,10 @@
 
 #include "bench/application.h"
 #include "bench/loft_generator.h"
-#include "core/connection.h"
 #include "core/data_folder.h"
 #include "core/screens.h"
+#include "core/shell/start_up.h"
+#include "core/store/connection.h"
 #include "core/widgets/theme.h"
 
 // From the start of the process to the painted home page, on the loft of the benchmarks, and what it holds then.

@@ -2,8 +2,8 @@
 #include <sqlite3.h>
 
 #include "bench/loft_generator.h"
-#include "core/access.h"
-#include "core/database.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
 
 // What the layer above SQLite costs. Each pair runs the same query on the same loft: the program's routine, and a
 // statement prepared once on a connection of plain SQLite.

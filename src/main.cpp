@@ -1,9 +1,10 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 
-#include "core/connection.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/shell/start_up.h"
+#include "core/store/connection.h"
 #include "core/trap.h"
 #include "core/widgets/qt_prompts.h"
 #include "core/widgets/theme.h"

@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <exception>
 
-#include "core/connection.h"
-#include "core/database.h"
+#include "core/store/connection.h"
+#include "core/store/database.h"
 #include "dbcare/check_fields.h"
 
 /// make_blank FILE: writes the empty database that a new loft starts from. A box has nobody to answer it here, so

@@ -4,9 +4,9 @@
 #include <exception>
 
 #include "core/clock.h"
-#include "core/connection.h"
 #include "core/data_folder.h"
 #include "core/files.h"
+#include "core/store/connection.h"
 #include "sample/sample_loft.h"
 
 /// make_sample_loft: fills the data folder, which must not be there yet, with the sample loft. Nobody answers a box

@@ -2,10 +2,10 @@
 
 #include <QCoreApplication>
 
-#include "core/connection.h"
 #include "core/files.h"
 #include "core/platform.h"
 #include "core/prompts.h"
+#include "core/store/connection.h"
 #include "core/text.h"
 #include "core/trap.h"
 

@@ -3,8 +3,8 @@
 #include <QList>
 #include <QString>
 
-#include "core/access.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "core/access.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;

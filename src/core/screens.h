@@ -7,7 +7,7 @@
 
 #include "core/picker.h"
 
-/// The doors to the start and to the general dialogs.
+/// The doors to the general dialogs.
 
 struct Picked {
   int id = kPickCancelled;  ///< -1 when nothing was chosen, -99 to add a record, -88 to add a person
@@ -31,10 +31,6 @@ std::optional<QString> EditComments(const QString& heading, const QString& text,
 
 /// Gives long work its wait notice (core/stand_by.h).
 void InstallStandByNotice();
-
-/// The program's entry: data folder, database, first run when there is none, then the home screens. True when they are
-/// on show; false when the process must end.
-bool SubMain();
 
 /// Cascades all loaded forms behind the floating menu, in load order.
 void ArrangeForms();

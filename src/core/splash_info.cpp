@@ -2,11 +2,11 @@
 
 #include <QStringList>
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;

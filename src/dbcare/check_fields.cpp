@@ -2,10 +2,10 @@
 
 #include <QStringList>
 
-#include "core/access.h"
 #include "core/prompts.h"
-#include "core/schema.h"
 #include "core/stand_by.h"
+#include "core/store/access.h"
+#include "core/store/schema.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;

@@ -2,15 +2,15 @@
 
 #include <QFile>
 
-#include "core/connection.h"
 #include "core/data_folder.h"
-#include "core/database.h"
 #include "core/files.h"
 #include "core/format.h"
 #include "core/platform.h"
 #include "core/prompts.h"
-#include "core/recordset.h"
 #include "core/stand_by.h"
+#include "core/store/connection.h"
+#include "core/store/database.h"
+#include "core/store/recordset.h"
 #include "core/trap.h"
 #include "dbcare/check_fields.h"
 

@@ -2,10 +2,10 @@
 
 #include <limits>
 
-#include "core/access.h"
 #include "core/dates.h"
 #include "core/default_rows.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/text.h"
 #include "core/trap.h"
 #include "gear/component_types.h"

@@ -1,7 +1,7 @@
 #include "gear/component_list.h"
 
-#include "core/access.h"
 #include "core/remembered.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/models.h"
 #include "gear/people.h"

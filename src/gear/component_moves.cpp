@@ -1,5 +1,5 @@
-#include "core/access.h"
 #include "core/default_rows.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/jobless_task.h"

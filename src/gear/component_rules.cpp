@@ -1,7 +1,7 @@
 #include "gear/component_rules.h"
 
-#include "core/access.h"
 #include "core/forms.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"

@@ -2,9 +2,9 @@
 
 #include <limits>
 
-#include "core/access.h"
 #include "core/dates.h"
 #include "core/default_rows.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/models.h"
 #include "gear/rigs.h"

@@ -1,6 +1,6 @@
 #include "gear/jobless_task.h"
 
-#include "core/recordset.h"
+#include "core/store/recordset.h"
 #include "gear/rigs.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "gear/models.h"
 
-#include "core/access.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;

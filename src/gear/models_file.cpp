@@ -2,10 +2,10 @@
 
 #include <QDir>
 
-#include "core/access.h"
 #include "core/data_folder.h"
 #include "core/files.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/text.h"
 #include "core/text_files.h"
 #include "core/trap.h"

@@ -1,6 +1,6 @@
 #include "gear/person_deletion.h"
 
-#include "core/access.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/people.h"
 #include "gear/person_record.h"

@@ -1,8 +1,8 @@
 #include "gear/person_due.h"
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/rigs.h"
 

@@ -1,7 +1,7 @@
 #include "gear/person_email.h"
 
-#include "core/access.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "gear/people.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "gear/person_names.h"
 
-#include "core/access.h"
+#include "core/store/access.h"
 #include "core/text.h"
 #include "core/trap.h"
 #include "gear/people.h"

@@ -2,9 +2,9 @@
 
 #include <QHash>
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/diagnostic_ids.h"

@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-#include "core/access.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/rig_types.h"
 

@@ -1,7 +1,7 @@
 #include "gear/rigs.h"
 
-#include "core/access.h"
 #include "core/default_rows.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;

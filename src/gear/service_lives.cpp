@@ -1,8 +1,8 @@
 #include "gear/service_lives.h"
 
-#include "core/access.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;

@@ -2,8 +2,8 @@
 
 #include <QSet>
 
-#include "core/access.h"
 #include "core/remembered.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "history/history_texts.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/access.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"

@@ -1,8 +1,8 @@
 #include "jobs/custom_entry.h"
 
-#include "core/connection.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/connection.h"
 #include "core/trap.h"
 #include "gear/models.h"
 #include "jobs/job_components.h"

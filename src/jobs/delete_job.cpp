@@ -1,8 +1,8 @@
 #include "jobs/delete_job.h"
 
-#include "core/access.h"
 #include "core/forms.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"

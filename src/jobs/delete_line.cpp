@@ -1,6 +1,6 @@
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"

@@ -1,8 +1,8 @@
 #include "jobs/gear_edits.h"
 
-#include "core/access.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/text.h"
 #include "gear/component_editor.h"
 #include "gear/components.h"

@@ -1,8 +1,8 @@
 #include "jobs/install_component.h"
 
-#include "core/connection.h"
 #include "core/default_rows.h"
 #include "core/prompts.h"
+#include "core/store/connection.h"
 #include "core/text.h"
 #include "core/trap.h"
 #include "gear/components.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/access.h"
 #include "core/forms.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"

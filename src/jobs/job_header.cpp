@@ -1,9 +1,9 @@
 #include "jobs/job_header.h"
 
-#include "core/access.h"
 #include "core/dates.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "gear/people.h"
 #include "jobs/job_records.h"
 

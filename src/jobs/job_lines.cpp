@@ -1,7 +1,7 @@
 #include "jobs/job_lines.h"
 
-#include "core/access.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/people.h"
 #include "jobs/lines.h"

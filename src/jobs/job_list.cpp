@@ -1,7 +1,7 @@
 #include "jobs/job_list.h"
 
-#include "core/access.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "jobs/job_records.h"
 #include "jobs/task_rules.h"

@@ -1,8 +1,8 @@
 #include "jobs/library_delete.h"
 
-#include "core/access.h"
 #include "core/forms.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "schedule/task_library.h"
 

@@ -1,8 +1,8 @@
 #include "jobs/library_entry.h"
 
-#include "core/access.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/models.h"
 

@@ -1,9 +1,9 @@
 #include "jobs/library_parts.h"
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "gear/catalogue.h"
 #include "gear/models.h"
 

@@ -1,9 +1,9 @@
 #include "jobs/line_edits.h"
 
-#include "core/access.h"
 #include "core/dates.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "jobs/job_lines.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"

@@ -1,7 +1,7 @@
 #include "jobs/lines.h"
 
-#include "core/access.h"
 #include "core/default_rows.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/models.h"
 #include "jobs/job_components.h"

@@ -1,6 +1,6 @@
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/people.h"
 #include "jobs/job_components.h"

@@ -1,7 +1,7 @@
 #include "jobs/quick_fix.h"
 
-#include "core/access.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "core/value.h"
 #include "gear/locations.h"

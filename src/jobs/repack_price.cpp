@@ -1,9 +1,9 @@
 #include "jobs/repack_price.h"
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"

@@ -1,7 +1,7 @@
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "jobs/repack_price.h"
 #include "schedule/task_library.h"

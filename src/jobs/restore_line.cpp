@@ -1,7 +1,7 @@
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "gear/models.h"
 #include "jobs/job_records.h"
 #include "jobs/line_edits.h"

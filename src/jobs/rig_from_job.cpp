@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "core/access.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"

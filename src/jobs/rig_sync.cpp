@@ -1,7 +1,7 @@
 #include "jobs/rig_sync.h"
 
-#include "core/access.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"

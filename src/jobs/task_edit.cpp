@@ -1,10 +1,10 @@
 #include "jobs/task_edit.h"
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/dates.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"

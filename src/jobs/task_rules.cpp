@@ -1,9 +1,9 @@
 #include "jobs/task_rules.h"
 
-#include "core/access.h"
 #include "core/dates.h"
 #include "core/default_rows.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/text.h"
 #include "core/trap.h"
 #include "gear/components.h"

@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "core/access.h"
 #include "core/data_folder.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/text_files.h"
 #include "core/trap.h"
 #include "gear/components.h"

@@ -1,11 +1,11 @@
 #include "sample/sample_loft.h"
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
-#include "core/database.h"
 #include "core/default_rows.h"
 #include "core/files.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
 #include "dbcare/check_fields.h"
 #include "gear/location_rules.h"
 #include "gear/models_file.h"

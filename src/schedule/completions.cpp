@@ -1,8 +1,8 @@
 #include "schedule/completions.h"
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/rigs.h"
 

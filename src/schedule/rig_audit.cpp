@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/default_rows.h"
 #include "core/format.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"

@@ -1,10 +1,10 @@
 #include "schedule/schedule.h"
 
-#include "core/access.h"
 #include "core/dates.h"
 #include "core/default_rows.h"
 #include "core/forms.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "schedule/completions.h"

@@ -1,9 +1,9 @@
 #include "schedule/schedule_list.h"
 
-#include "core/access.h"
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/remembered.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/people.h"

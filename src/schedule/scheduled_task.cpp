@@ -1,11 +1,11 @@
 #include "schedule/scheduled_task.h"
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/dates.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/jobless_task.h"
 #include "gear/rig_rules.h"

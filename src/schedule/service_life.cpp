@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/dates.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/components.h"
 #include "gear/rigs.h"

@@ -1,8 +1,8 @@
 #include "schedule/task_library.h"
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/lists.h"
+#include "core/store/access.h"
 
 using namespace Qt::StringLiterals;
 

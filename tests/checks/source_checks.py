@@ -20,9 +20,9 @@ FORM = r"^src/.*\.ui$"
 LINE_RULES = [
     (r"^src/.*\.(cpp|h)$", r"^src/core/widgets/qt_prompts\.", r"\bQ(MessageBox|InputDialog|FileDialog)\b",
      "boxes show through core/prompts.h"),
-    (r"^src/.*\.(cpp|h)$", r"/(screens|widgets)/|^src/main\.cpp$",
+    (r"^src/.*\.(cpp|h)$", r"/(screens|shell|widgets)/|^src/main\.cpp$",
      r"#\s*include\s*<Q(Widget|Application|Dialog|Table|Tree|Label|LineEdit|Push|Menu|Message)",
-     "widgets stand in screens/ and widgets/ only"),
+     "widgets stand in screens/, shell/ and widgets/ only"),
     (CODE, None, r"\b(SIGNAL|SLOT)\s*\(", "connect with pointers to members"),
     (CODE, None, r"\bQ(SKIP|EXPECT_FAIL)\b", "a test tests, or it goes"),
     (r"", None, r"\b(TO" r"DO|FIX" r"ME|XX" r"X)\b", "finish it"),
@@ -57,11 +57,14 @@ def line_faults(path, text):
 
 
 def include_faults(path, text):
-    """Only a subsystem's own screens include its screens' headers; the others go through its screens.h."""
+    """Only a subsystem's own screens include its screens' headers; the others go through its screens.h. The shell stands
+    above them all: only the entry includes it."""
     if not re.search(r"^src/.*\.(cpp|h)$", path):
         return
     for number, line in enumerate(text.splitlines(), 1):
         found = re.match(r'\s*#\s*include\s*"([\w/]*\bscreens/)', line)
+        if re.match(r'\s*#\s*include\s*"core/shell/', line) and not re.search(r"^src/(core/shell/|main\.cpp$)", path):
+            yield f"{path}:{number}: the shell stands above everything: nothing includes it"
         if found and not path.startswith("src/" + found.group(1)):
             yield f"{path}:{number}: {found.group(1)} is closed here: go through the doors in its screens.h"
 

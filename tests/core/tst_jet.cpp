@@ -2,7 +2,7 @@
 #include <QTest>
 
 #include "core/failure.h"
-#include "core/jet.h"
+#include "core/store/jet.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
 

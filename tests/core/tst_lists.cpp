@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "core/access.h"
 #include "core/lists.h"
+#include "core/store/access.h"
 #include "support/scripted_prompts.h"
 #include "support/throwaway_loft.h"
 

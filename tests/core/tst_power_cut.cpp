@@ -3,9 +3,9 @@
 
 #include <sqlite3.h>
 
-#include "core/access.h"
-#include "core/database.h"
 #include "core/failure.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
 #include "support/power_cut.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"

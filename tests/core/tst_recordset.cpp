@@ -2,9 +2,9 @@
 
 #include <random>
 
-#include "core/access.h"
-#include "core/database.h"
 #include "core/failure.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
 

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "core/schema.h"
+#include "core/store/schema.h"
 #include "dbcare/check_fields.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"

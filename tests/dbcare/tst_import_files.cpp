@@ -2,10 +2,10 @@
 #include <QFile>
 #include <QTest>
 
-#include "core/access.h"
 #include "core/data_folder.h"
 #include "core/files.h"
 #include "core/stand_by.h"
+#include "core/store/access.h"
 #include "dbcare/import_files.h"
 #include "support/data_home.h"
 #include "support/exported_loft.h"

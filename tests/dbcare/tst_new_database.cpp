@@ -3,9 +3,9 @@
 
 #include <sqlite3.h>
 
-#include "core/access.h"
 #include "core/data_folder.h"
 #include "core/files.h"
+#include "core/store/access.h"
 #include "dbcare/new_database.h"
 #include "support/data_home.h"
 #include "support/exported_loft.h"

@@ -1,7 +1,7 @@
 #include <QtTest>
 
-#include "core/connection.h"
 #include "core/data_folder.h"
+#include "core/store/connection.h"
 #include "gear/models_file.h"
 #include "support/scripted_prompts.h"
 #include "support/throwaway_loft.h"

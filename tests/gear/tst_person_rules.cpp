@@ -1,7 +1,7 @@
 #include <QtTest>
 
-#include "core/connection.h"
 #include "core/lists.h"
+#include "core/store/connection.h"
 #include "gear/people.h"
 #include "gear/person_deletion.h"
 #include "gear/person_due.h"

@@ -1,7 +1,7 @@
 #include <QtTest>
 
-#include "core/connection.h"
-#include "core/database.h"
+#include "core/store/connection.h"
+#include "core/store/database.h"
 #include "jobs/library_delete.h"
 #include "jobs/library_entry.h"
 #include "jobs/library_parts.h"

@@ -1,7 +1,7 @@
 #include <QtTest>
 
-#include "core/connection.h"
-#include "core/database.h"
+#include "core/store/connection.h"
+#include "core/store/database.h"
 #include "gear/models.h"
 #include "jobs/repack_price.h"
 #include "jobs/sample_job.h"

@@ -1,8 +1,8 @@
 #include <QFile>
 #include <QTest>
 
-#include "core/access.h"
-#include "core/schema.h"
+#include "core/store/access.h"
+#include "core/store/schema.h"
 #include "dbcare/check_fields.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"

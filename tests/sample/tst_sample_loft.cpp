@@ -1,10 +1,10 @@
 #include <QFile>
 #include <QTest>
 
-#include "core/access.h"
 #include "core/clock.h"
-#include "core/database.h"
 #include "core/default_rows.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
 #include "dbcare/check_fields.h"
 #include "gear/components.h"
 #include "jobs/completion.h"

@@ -1,8 +1,8 @@
 #pragma once
 #include <QDir>
 
-#include "core/connection.h"
 #include "core/data_folder.h"
+#include "core/store/connection.h"
 #include "support/temp_folder.h"
 
 /// A machine without a data folder: the data home and the working folder are throw-away ones for its lifetime.

@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QDirIterator>
 
-#include "core/access.h"
-#include "core/database.h"
 #include "core/files.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
 #include "dbcare/check_fields.h"
 #include "support/throwaway_loft.h"
 

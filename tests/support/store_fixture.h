@@ -1,7 +1,7 @@
 #pragma once
-#include "core/access.h"
-#include "core/database.h"
-#include "core/schema.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
+#include "core/store/schema.h"
 #include "support/temp_folder.h"
 
 /// A throw-away database with the whole schema and no rows, for tests of the store itself.

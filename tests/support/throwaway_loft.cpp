@@ -4,11 +4,11 @@
 
 #include <sqlite3.h>
 
-#include "core/connection.h"
-#include "core/database.h"
 #include "core/default_rows.h"
 #include "core/failure.h"
-#include "core/recordset.h"
+#include "core/store/connection.h"
+#include "core/store/database.h"
+#include "core/store/recordset.h"
 #include "dbcare/check_fields.h"
 
 using namespace Qt::StringLiterals;

@@ -7,7 +7,7 @@
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/screens.h"
-#include "core/screens/start_up.h"
+#include "core/shell/start_up.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"
 #include "sample/sample_loft.h"

@@ -9,16 +9,16 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/files.h"
 #include "core/format.h"
-#include "core/screens/frmMain2.h"
-#include "core/screens/frmMenu.h"
-#include "core/screens/frmSplash.h"
-#include "core/screens/start_up.h"
+#include "core/shell/frmMain2.h"
+#include "core/shell/frmMenu.h"
+#include "core/shell/frmSplash.h"
+#include "core/shell/start_up.h"
 #include "core/splash_info.h"
+#include "core/store/access.h"
 #include "core/text_files.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"

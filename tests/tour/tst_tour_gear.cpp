@@ -5,7 +5,7 @@
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/default_rows.h"
-#include "core/screens/frmMain2.h"
+#include "core/shell/frmMain2.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"
 #include "gear/catalogue.h"

@@ -2,12 +2,12 @@
 
 #include <QKeyEvent>
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens/picker_rows.h"
 #include "core/screens/ui_frmPicker.h"
+#include "core/store/access.h"
 #include "core/trap.h"
 #include "gear/models.h"
 

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "core/access.h"
 #include "core/picker.h"
+#include "core/store/access.h"
 #include "core/text.h"
 #include "core/trap.h"
 #include "gear/models.h"

@@ -2,9 +2,9 @@
 
 #include <QKeyEvent>
 
-#include "core/access.h"
 #include "core/clock.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/components.h"
 #include "gear/rigs.h"

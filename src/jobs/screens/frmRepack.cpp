@@ -1,10 +1,10 @@
 #include "jobs/screens/frmRepack.h"
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/lists.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/rig_type_rules.h"
 #include "gear/screens.h"

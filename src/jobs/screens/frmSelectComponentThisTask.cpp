@@ -1,7 +1,7 @@
 #include "jobs/screens/frmSelectComponentThisTask.h"
 
-#include "core/access.h"
 #include "core/prompts.h"
+#include "core/store/access.h"
 #include "gear/components.h"
 #include "jobs/screens.h"
 #include "jobs/screens/ui_frmSelectComponentThisTask.h"

@@ -5,14 +5,14 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "core/connection.h"
 #include "core/data_folder.h"
-#include "core/screens/frmMain2.h"
-#include "core/screens/frmMenu.h"
-#include "core/screens/frmSplash.h"
-#include "core/screens/start_up.h"
-#include "core/screens/support_listing.h"
-#include "core/screens/window_habits.h"
+#include "core/shell/frmMain2.h"
+#include "core/shell/frmMenu.h"
+#include "core/shell/frmSplash.h"
+#include "core/shell/start_up.h"
+#include "core/shell/support_listing.h"
+#include "core/shell/window_habits.h"
+#include "core/store/connection.h"
 #include "core/widgets/screen_routines.h"
 #include "support/fixed_clock.h"
 #include "support/screens/controls.h"

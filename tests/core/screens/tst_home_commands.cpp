@@ -1,11 +1,11 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "core/connection.h"
-#include "core/screens/frmMain2.h"
-#include "core/screens/frmMenu.h"
-#include "core/screens/frmSplash.h"
-#include "core/screens/window_habits.h"
+#include "core/shell/frmMain2.h"
+#include "core/shell/frmMenu.h"
+#include "core/shell/frmSplash.h"
+#include "core/shell/window_habits.h"
+#include "core/store/connection.h"
 #include "core/widgets/list.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/person_names.h"

@@ -4,14 +4,14 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "core/access.h"
 #include "core/default_rows.h"
 #include "core/files.h"
-#include "core/screens/frmInstall.h"
-#include "core/screens/frmMain2.h"
-#include "core/screens/frmMenu.h"
-#include "core/screens/frmSplash.h"
-#include "core/screens/start_up.h"
+#include "core/shell/frmInstall.h"
+#include "core/shell/frmMain2.h"
+#include "core/shell/frmMenu.h"
+#include "core/shell/frmSplash.h"
+#include "core/shell/start_up.h"
+#include "core/store/access.h"
 #include "core/widgets/screen_routines.h"
 #include "dbcare/check_fields.h"
 #include "dbcare/new_database.h"

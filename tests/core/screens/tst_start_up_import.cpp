@@ -3,11 +3,11 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "core/access.h"
 #include "core/files.h"
-#include "core/screens/frmInstall.h"
-#include "core/screens/frmMain2.h"
-#include "core/screens/start_up.h"
+#include "core/shell/frmInstall.h"
+#include "core/shell/frmMain2.h"
+#include "core/shell/start_up.h"
+#include "core/store/access.h"
 #include "dbcare/screens/frmFolders.h"
 #include "support/data_home.h"
 #include "support/exported_loft.h"

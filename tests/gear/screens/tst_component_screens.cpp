@@ -1,6 +1,6 @@
 #include <QPushButton>
 
-#include "core/screens/home_commands.h"
+#include "core/shell/home_commands.h"
 #include "gear/rig_rules.h"
 #include "gear/screens/rig_shop.h"
 

@@ -1,4 +1,4 @@
-#include "core/screens/home_commands.h"
+#include "core/shell/home_commands.h"
 #include "gear/components.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"

@@ -1,0 +1,107 @@
+#include "core/store/connection.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <exception>
+#include <memory>
+
+#include "core/failure.h"
+#include "core/prompts.h"
+#include "core/store/database.h"
+#include "core/trap.h"
+
+using namespace Qt::StringLiterals;
+
+QString ConnectionString;
+bool ConnectionIsOpen = false;
+bool KeepConnectionOpen = false;
+int ConnectionCount = 0;
+bool CountDbAccess = false;
+void (*ShowConnectionCount)(int count) = nullptr;
+
+namespace {
+
+std::unique_ptr<Database> database;  // stays open between brackets: opening anew is what a getter would spend most on
+
+const QString kProvider = u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s;
+const QString kBehindPath = u";Persist Security Info=False"_s;
+
+}  // namespace
+
+QString ConnectionStringFor(const QString& path) { return kProvider + path + kBehindPath; }
+
+QString DatabasePath() {
+  if (!ConnectionString.startsWith(kProvider)) return {};
+  return ConnectionString.mid(kProvider.size())
+      .chopped(ConnectionString.endsWith(kBehindPath) ? kBehindPath.size() : 0);
+}
+
+void ConnectionStart() {
+  Trap(u"Sub ConnectionStart"_s, [] {
+    try {
+      const QString path = DatabasePath();
+      if (database && (database->Path() != path || !QFileInfo::exists(path))) database.reset();
+      if (!database) database = std::make_unique<Database>(path);
+    } catch (...) {
+      if (ConnectionIsOpen) SetBusyPointer(false);
+      ConnectionIsOpen = false;
+      throw;
+    }
+    SetBeforePrompt(&SettleConnection);
+    ConnectionIsOpen = true;
+    SetBusyPointer(true);
+    if (CountDbAccess) {
+      ++ConnectionCount;
+      if (ShowConnectionCount) ShowConnectionCount(ConnectionCount);
+    }
+  });
+}
+
+void ConnectionClose() {
+  if (KeepConnectionOpen) return;
+  if (!ConnectionIsOpen) MsgBox(u"connection already closed"_s);
+  ConnectionIsOpen = false;
+  SetBusyPointer(false);
+  if (database) database->Settle();
+}
+
+Database& OpenDatabase() {
+  if (!ConnectionIsOpen || !database) throw Failure(u"Operation is not allowed when the object is closed."_s);
+  return *database;
+}
+
+void ReleaseDatabaseFile() { database.reset(); }
+
+void SettleConnection() {
+  Trap(u"Sub SettleConnection"_s, [] {
+    if (database) database->Settle();
+  });
+}
+
+Bracket::Bracket() {
+  ++standing_;
+  if (ConnectionIsOpen) return;
+  ConnectionStart();
+  opened_ = true;
+}
+
+void Bracket::Close() {
+  const bool opened = std::exchange(opened_, false);
+  if (opened && ConnectionIsOpen) ConnectionClose();
+}
+
+Bracket::~Bracket() {
+  --standing_;
+  if (!opened_ || !ConnectionIsOpen) return;
+  if (leaveOpen_ && std::uncaught_exceptions() > 0) return;
+  try {
+    ConnectionClose();
+  } catch (const std::exception& error) {
+    MsgBox(FailureText(error), u"Sub ConnectionClose"_s, Icon::Exclamation);
+  }
+}
+
+void CloseLeftOpenConnection() {
+  if (ConnectionIsOpen && !Bracket::Stands()) Trap(u"Sub ConnectionClose"_s, [] { ConnectionClose(); });
+}
