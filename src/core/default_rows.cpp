@@ -5,7 +5,7 @@
 
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,7 +62,7 @@ void AddTask(const FixedTask& task) {
 }  // namespace
 
 void SetDefaultComponentTypes() {
-  Trap(u"Sub SetDefaultComponentTypes"_s, [] {
+  UnrecordedOperation(u"Sub SetDefaultComponentTypes"_s, [] {
     static constexpr struct {
       ComponentType id;
       const char* name;
@@ -73,7 +73,6 @@ void SetDefaultComponentTypes() {
                   {kChestReserve, "Chest Reserve"},
                   {kPassengerHarness, "Passenger Harness"},
                   {kMisc, "Misc"}};
-    Bracket bracket;
     DeleteAllRecords(u"tblComponentTypes"_s, false);
     Recordset types(u"tblComponentTypes"_s);
     for (const auto& type : kTypes) {
@@ -82,26 +81,21 @@ void SetDefaultComponentTypes() {
       types.Set(u"Name", type.name);
       types.Update();
     }
-    types.Close();
-    bracket.Close();
   });
 }
 
 void CheckComponentTypes() {
-  Trap(u"Sub CheckComponentTypes"_s, [] {
-    Bracket bracket;
+  UnrecordedOperation(u"Sub CheckComponentTypes"_s, [] {
     for (int id = kContainer; id <= kPassengerHarness; ++id) {
       if (GetNumberRecords(u"tblcomponentTypes"_s, u"id"_s, id) > 0) continue;
       SetDefaultComponentTypes();
       break;
     }
-    bracket.Close();
   });
 }
 
 void CreateDefaultRigTypes() {
-  Trap(u"Sub CreateDefaultRigTypes"_s, [] {
-    Bracket bracket;
+  UnrecordedOperation(u"Sub CreateDefaultRigTypes"_s, [] {
     if (GetNumberRecordsInTable(u"tblRigTypes"_s) == 0) {
       constexpr int kBack = 1;
       constexpr int kSeat = 2;
@@ -110,13 +104,11 @@ void CreateDefaultRigTypes() {
       AddRigType({"Pilot Emergency Rig (back)", kBack, {kContainer, kReserveCanopy}});
       AddRigType({"Pilot Emergency Rig (seat)", kSeat, {kContainer, kReserveCanopy}});
     }
-    bracket.Close();
   });
 }
 
 void CreateDefaultTasks() {
-  Trap(u"Sub CreateDefaultTasks"_s, [] {
-    Bracket bracket;
+  UnrecordedOperation(u"Sub CreateDefaultTasks"_s, [] {
     if (GetNumberRecordsInTable(u"tblTaskLib"_s) == 0) {
       constexpr int kDays = 1;
       AddTask({RepackTaskLibID, "Inspect and repack reserve", false, kDays});
@@ -130,20 +122,20 @@ void CreateDefaultTasks() {
         required.Update();
       }
     }
-    bracket.Close();
   });
 }
 
 void CreateDefaultRows() {
-  CheckMiscRow();
-  SetDefaultComponentTypes();
-  CreateDefaultRigTypes();
-  CreateDefaultTasks();
+  UnrecordedOperation(u"Sub CreateDefaultRows"_s, [] {
+    CheckMiscRow();
+    SetDefaultComponentTypes();
+    CreateDefaultRigTypes();
+    CreateDefaultTasks();
+  });
 }
 
 void CheckMiscRow() {
-  Trap(u"Sub CheckMiscRow"_s, [] {
-    Bracket bracket;
+  UnrecordedOperation(u"Sub CheckMiscRow"_s, [] {
     const int count = GetNumberRecordsInTable(u"tblMisc"_s);
     if (count != 1) {
       if (count != 0) {
@@ -152,12 +144,10 @@ void CheckMiscRow() {
       }
       AddMiscRow(180);
     }
-    bracket.Close();
   });
 }
 
 void AddMiscRow(int repackCycle) {
-  Bracket bracket;
   Recordset misc(u"tblMisc"_s);
   misc.AddNew();
   misc.Set(u"HidePhotos", false);
@@ -169,6 +159,4 @@ void AddMiscRow(int repackCycle) {
   misc.Set(u"UploadAlias", QString());
   misc.Set(u"DefaultPhotoSize", 100);
   misc.Update();
-  misc.Close();
-  bracket.Close();
 }

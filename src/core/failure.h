@@ -15,3 +15,10 @@ class Failure : public std::exception {
   QString text_;
   QByteArray utf8_;
 };
+
+/// The file itself failed: a full disk, an unreadable page, a commit that did not go through. What the running
+/// operation wrote has been taken back, and traps let it pass to the outermost operation.
+class StorageFailure : public Failure {
+ public:
+  using Failure::Failure;
+};

@@ -7,6 +7,11 @@ QList<LoadedForm*>& Collection() {
   return forms;
 }
 
+QString& Front() {
+  static QString name;
+  return name;
+}
+
 }  // namespace
 
 namespace Forms {
@@ -32,17 +37,20 @@ QStringList Names() {
   return names;
 }
 
-void ReloadIfLoaded(const QString& name) {
-  if (LoadedForm* form = Find(name)) form->ReloadForm();
-}
-
-void ReloadSchedules() {
-  for (LoadedForm* form : Loaded()) form->ReloadSchedule();
-}
-
 bool IsShown(const QString& name) {
   const LoadedForm* form = Find(name);
   return form != nullptr && form->FormIsShown();
+}
+
+QString InFront() { return Front(); }
+
+void SetInFront(const QString& name) { Front() = name; }
+
+void Tell(const Changes& changes) {
+  for (LoadedForm* form : Loaded()) {
+    // One that was told before may have unloaded this one.
+    if (Collection().contains(form) && changes.TouchesAny(form->ShowsTables())) form->TablesChanged(changes);
+  }
 }
 
 }  // namespace Forms

@@ -2,7 +2,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
+#include "core/store/changes.h"
 
 /// A screen as the rest of the program knows it: a name, and what can be asked of it without knowing its widgets.
 class LoadedForm {
@@ -10,9 +10,12 @@ class LoadedForm {
   virtual ~LoadedForm() = default;
   virtual QString FormName() const = 0;  ///< "frmJob"
   virtual bool FormIsShown() const = 0;
-  virtual void ReloadForm() = 0;    ///< read the data anew and show it
-  virtual void ReloadSchedule() {}  ///< read due dates anew, where the screen shows some
-  virtual void UnloadForm() = 0;    ///< close and forget; the next use makes a fresh one
+  virtual void ReloadForm() = 0;  ///< read the data anew and show it
+  /// The tables that what it shows is read from; when one of them has been written, it is told.
+  virtual QStringList ShowsTables() const { return {}; }
+  /// One of its tables has been written, by whomever.
+  virtual void TablesChanged(const Changes& changes) = 0;
+  virtual void UnloadForm() = 0;  ///< close and forget; the next use makes a fresh one
 };
 
 /// The forms collection: every screen that is loaded, in load order. Each is a single shared instance.
@@ -22,9 +25,10 @@ void Remove(LoadedForm* form);
 LoadedForm* Find(const QString& name);  ///< without regard to case; null when it is not loaded
 QList<LoadedForm*> Loaded();
 QStringList Names();
-/// "Reload `frmSchedule` if it is loaded", for rules that must not know a screen.
-void ReloadIfLoaded(const QString& name);
-/// Due dates have changed: every loaded screen that shows some reads them anew.
-void ReloadSchedules();
 bool IsShown(const QString& name);
+/// The screen that a person works on, empty for none; screens say so when they come to the front.
+QString InFront();
+void SetInFront(const QString& name);
+/// Tables have been written: every loaded screen that shows one of them is told, once.
+void Tell(const Changes& changes);
 }  // namespace Forms

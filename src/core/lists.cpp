@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,10 +13,8 @@ using TextOf = std::function<QString(const Recordset& row)>;
 
 IdList Load(const QString& routine, const QString& statement, const TextOf& textOf, QStringView idField = u"ID") {
   IdList list;
-  Trap(routine, [&] {
-    Bracket bracket;
+  Operation(routine, [&] {
     for (const Recordset& row : Rows(statement)) list.Add(textOf(row), row[idField].ToInt());
-    bracket.Close();
   });
   return list;
 }

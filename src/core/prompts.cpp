@@ -1,5 +1,7 @@
 #include "core/prompts.h"
 
+#include <QScopedValueRollback>
+
 #include <utility>
 
 #include "core/failure.h"
@@ -11,7 +13,9 @@ namespace {
 struct State {
   Prompts* prompts = nullptr;
   void (*settle)() = nullptr;
+  bool settling = false;
   bool busy = false;
+  int waiting = 0;
 };
 
 State& Present() {
@@ -20,7 +24,6 @@ State& Present() {
 }
 
 Prompts& Installed(const QString& text) {
-  BeforePrompt();
   if (Present().prompts == nullptr) throw Failure(u"No boxes are installed to show: "_s + text);
   return *Present().prompts;
 }
@@ -30,10 +33,12 @@ Prompts& Installed(const QString& text) {
 Prompts* SetPrompts(Prompts* prompts) { return std::exchange(Present().prompts, prompts); }
 
 void MsgBox(const QString& text, const QString& title, Icon icon) {
+  const PersonAnswers waits;
   Installed(text).Box(text, title, Buttons::Ok, icon, Answer::Ok);
 }
 
 Answer Ask(const QString& text, const QString& title, Buttons buttons, Answer preset, Icon icon) {
+  const PersonAnswers waits;
   return Installed(text).Box(text, title, buttons, icon, preset);
 }
 
@@ -42,14 +47,24 @@ bool AskYes(const QString& text, const QString& title, Icon icon) {
 }
 
 QString InputBox(const QString& text, const QString& title, const QString& proposal) {
+  const PersonAnswers waits;
   return Installed(text).Input(text, title, proposal);
 }
 
-QString OpenFileDialog(const FileDialog& dialog) { return Installed(dialog.title).OpenFile(dialog); }
+QString OpenFileDialog(const FileDialog& dialog) {
+  const PersonAnswers waits;
+  return Installed(dialog.title).OpenFile(dialog);
+}
 
-QString SaveFileDialog(const FileDialog& dialog) { return Installed(dialog.title).SaveFile(dialog); }
+QString SaveFileDialog(const FileDialog& dialog) {
+  const PersonAnswers waits;
+  return Installed(dialog.title).SaveFile(dialog);
+}
 
-std::optional<FontChoice> FontDialog(const FontChoice& present) { return Installed(present.name).Font(present); }
+std::optional<FontChoice> FontDialog(const FontChoice& present) {
+  const PersonAnswers waits;
+  return Installed(present.name).Font(present);
+}
 
 void SetBusyPointer(bool busy) {
   if (Present().busy == busy) return;
@@ -63,6 +78,15 @@ QString Lines(const QStringList& lines) { return lines.join(u'\n'); }
 
 void SetBeforePrompt(void (*settle)()) { Present().settle = settle; }
 
-void BeforePrompt() {
-  if (Present().settle != nullptr) Present().settle();
+// Settling may itself have something to tell; that box finds the store being settled and leaves it alone.
+PersonAnswers::PersonAnswers() {
+  if (Present().settle != nullptr && !Present().settling) {
+    const QScopedValueRollback<bool> once(Present().settling, true);
+    Present().settle();
+  }
+  ++Present().waiting;
 }
+
+PersonAnswers::~PersonAnswers() { --Present().waiting; }
+
+int PersonAnswers::Depth() { return Present().waiting; }

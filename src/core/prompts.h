@@ -64,4 +64,15 @@ QString Lines(const QStringList& lines);
 
 /// Called before any prompt or modal screen shows; the store settles its open transaction here.
 void SetBeforePrompt(void (*settle)());
-void BeforePrompt();
+
+/// Stands while the program waits for the person: around each prompt and each modal screen. Events are handled
+/// meanwhile, so what runs then is not below the routine that asked.
+class PersonAnswers {
+ public:
+  PersonAnswers();
+  ~PersonAnswers();
+  PersonAnswers(const PersonAnswers&) = delete;
+  PersonAnswers& operator=(const PersonAnswers&) = delete;
+  /// How many stand.
+  static int Depth();
+};

@@ -7,7 +7,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,8 +27,7 @@ QString DueLine(Date day, const QString& what) {
 
 QString GetSplashInfo() {
   QStringList lines;
-  Trap(u"Function GetSplashInfo"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function GetSplashInfo"_s, [&] {
     lines << Counted(GetNumberRecordsInTable(u"tblPeople"_s), u" customers "_s)
           << Counted(GetNumberRecordsInTable(u"tblRig"_s), u" rigs"_s) << QString()
           << Counted(GetNumberRecordsInTable(u"tblJobs"_s), u" invoices"_s)
@@ -41,7 +40,6 @@ QString GetSplashInfo() {
     lines << (riggers == 1 ? u"1 rigger"_s : Counted(riggers, u" riggers"_s)) << QString()
           << DueLine(Today() - 1, u" overdue"_s) << DueLine(Today() + 30, u" due within 30 days"_s)
           << DueLine(Today() + 60, u" due within 60 days"_s) << DueLine(Today() + 90, u" due within 90 days"_s);
-    bracket.Close();
   });
   return Lines(lines);
 }

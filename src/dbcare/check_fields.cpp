@@ -2,11 +2,12 @@
 
 #include <QStringList>
 
+#include "core/failure.h"
 #include "core/prompts.h"
 #include "core/stand_by.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/store/schema.h"
-#include "core/trap.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,10 +15,9 @@ void CheckAllFields(bool showMessages) {
   QString tableName;
   SchemaField field{};
   bool isAutoInc = false;
-  TrapWith(
+  OperationWith(
       u"Sub CheckAllFields"_s,
       [&] {
-        Bracket bracket;
         for (const SchemaTable& table : Schema()) {
           tableName = QString::fromLatin1(table.name);
           field = table.key;
@@ -31,7 +31,6 @@ void CheckAllFields(bool showMessages) {
           }
         }
         CreateIndexes();
-        bracket.Close();
       },
       [&] {
         return Lines({u"TableName = "_s + tableName, u"MyField = "_s + QString::fromLatin1(field.name),
@@ -43,11 +42,11 @@ void CheckAllFields(bool showMessages) {
 
 bool TableExists(const QString& tableName, bool showMessages) {
   try {
-    Bracket bracket;
-    Recordset table(tableName);
-    table.Close();
-    bracket.Close();
+    const Bracket bracket;
+    const Recordset table(tableName);
     return true;
+  } catch (const StorageFailure&) {
+    throw;
   } catch (const Failure&) {
     if (showMessages) MsgBox(u"Table "_s + tableName + u" is being added to this database"_s, u"Missing table"_s);
     return false;
@@ -76,8 +75,7 @@ void AddField(const QString& tableName, const QString& myField, int fieldType, b
 }
 
 void ReportLostComponentTypes() {
-  Trap(u"Sub ReportLostComponentTypes"_s, [] {
-    Bracket bracket;
+  Operation(u"Sub ReportLostComponentTypes"_s, [] {
     QStringList lost;
     for (const Recordset& component : Rows(u"Select * from tblComponents where TypeID =0"_s)) {
       const int modelId = component[u"ModelID"].ToInt();
@@ -90,19 +88,16 @@ void ReportLostComponentTypes() {
                                u"on the COMPONENTS screen"_s,
                                u"(The component will only be visible when the ALL COMPONENT TYPES "_s,
                                u"check box is checked)"_s}));
-    bracket.Close();
   });
 }
 
 void FreeComponentsOfVanishedRigs() {
-  Trap(u"Sub FreeComponentsOfVanishedRigs"_s, [] {
-    Bracket bracket;
+  Operation(u"Sub FreeComponentsOfVanishedRigs"_s, [] {
     for (Recordset& component : Rows(u"Select * from tblComponents where rigid > 0 order by rigid"_s)) {
       const int rig = component[u"RigID"].ToInt();
       if (GetValueFromTable(u"tblRig"_s, u"ID"_s, rig, u"ID"_s).ToInt() == rig) continue;
       component.Set(u"RigID", 0);
       component.Update();
     }
-    bracket.Close();
   });
 }

@@ -2,7 +2,7 @@
 
 #include "core/default_rows.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;
@@ -11,10 +11,8 @@ namespace {
 
 IdList LoadNames(const QString& source) {
   IdList list;
-  Trap(u"Function LoadNames"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LoadNames"_s, [&] {
     for (const Recordset& row : Rows(source)) list.Add(row[u"Name"].ToText(), row[u"ID"].ToInt());
-    bracket.Close();
   });
   return list;
 }
@@ -143,11 +141,9 @@ ModelDeletion DeleteModel(int id) {
     if (AskYes(text, u"Deleting model "_s + name)) return ModelDeletion::ShowList;
   }
   if (!AskYes(u"Are you sure you wish to delete "_s + name, u"Delete "_s + name)) return ModelDeletion::Kept;
-  Trap(u"Sub DeleteModel"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub DeleteModel"_s, [&] {
     DeleteRecordsFromTableBySQL(u"Delete * from tblModels where id = "_s + QString::number(id));
     DeleteRecordsFromTableBySQL(u"Delete * from tblComponents where Modelid = "_s + QString::number(id));
-    bracket.Close();
   });
   return ModelDeletion::Deleted;
 }
@@ -174,8 +170,7 @@ int AddManufacturer() {
   const QString name = InputBox(u"Enter name of new manufacturer"_s, u"New Manufacturer"_s);
   if (name.trimmed().isEmpty()) return 0;
   int id = 0;
-  Trap(u"Function AddManufacturer"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function AddManufacturer"_s, [&] {
     int next = 1;
     bool taken = false;
     Recordset manufacturers(u"Select * from tblManufacturers order by ID"_s);
@@ -195,7 +190,6 @@ int AddManufacturer() {
       id = next;
     }
     manufacturers.Close();
-    bracket.Close();
   });
   return id;
 }
@@ -203,27 +197,21 @@ int AddManufacturer() {
 bool RenameManufacturer(int id) {
   const QString name = AskOtherName(ManufacturerName(id), u"Rename manufacturer"_s);
   if (name.isEmpty()) return false;
-  return Trap(u"Sub RenameManufacturer"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset manufacturer(u"Select * from tblManufacturers where id = "_s + QString::number(id));
-      if (RecordsetHasRows(manufacturer)) {
-        manufacturer.Set(u"Name", name);
-        manufacturer.Update();
-      }
+  return Operation(u"Sub RenameManufacturer"_s, [&] {
+    Recordset manufacturer(u"Select * from tblManufacturers where id = "_s + QString::number(id));
+    if (RecordsetHasRows(manufacturer)) {
+      manufacturer.Set(u"Name", name);
+      manufacturer.Update();
     }
-    bracket.Close();
   });
 }
 
 bool DeleteManufacturer(int id) {
   if (!AskYes(u"Are you you want to delete manufacturer "_s + ManufacturerName(id) + u'?', u"Delete Manufacturer?"_s))
     return false;
-  Trap(u"Sub DeleteManufacturer"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub DeleteManufacturer"_s, [&] {
     DeleteRecordsFromTableBySQL(u"delete * from tblManufacturers where id = "_s + QString::number(id));
     UpdateTableBySQL(u"update tblModels set manfID = 0 where Manfid = "_s + QString::number(id));
-    bracket.Close();
   });
   return true;
 }

@@ -6,8 +6,8 @@
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/text.h"
-#include "core/trap.h"
 #include "gear/component_types.h"
 #include "gear/components.h"
 #include "gear/models.h"
@@ -49,27 +49,23 @@ SerialCheck CheckSerialOfNew(int model, const QString& serial, int other) {
 bool LoadComponentEntry(int id, ComponentEntry& entry) {
   entry = {};
   bool exists = false;
-  Trap(u"Function LoadComponentEntry"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(RowStatement(id));
-      exists = RecordsetHasRows(row);
-      if (exists)
-        entry = {.id = id,
-                 .model = row[u"ModelID"].ToInt(),
-                 .type = row[u"TypeID"].ToInt(),
-                 .owner = row[u"OwnerID"].ToInt(),
-                 .rig = row[u"RigID"].ToInt(),
-                 .subType = row[u"SubType"].ToText(),
-                 .serial = row[u"SerialNumber"].ToText(),
-                 .color = row[u"Color"].ToText(),
-                 .comment = row[u"Comment"].ToText(),
-                 .photoName = row[u"PhotoName"].ToText(),
-                 .dom = row[u"DOM"].ToDate(),
-                 .jumps = row[u"NumJumps"].ToInt(),
-                 .price = row[u"Price"].ToMoney()};
-    }
-    bracket.Close();
+  Operation(u"Function LoadComponentEntry"_s, [&] {
+    Recordset row(RowStatement(id));
+    exists = RecordsetHasRows(row);
+    if (exists)
+      entry = {.id = id,
+               .model = row[u"ModelID"].ToInt(),
+               .type = row[u"TypeID"].ToInt(),
+               .owner = row[u"OwnerID"].ToInt(),
+               .rig = row[u"RigID"].ToInt(),
+               .subType = row[u"SubType"].ToText(),
+               .serial = row[u"SerialNumber"].ToText(),
+               .color = row[u"Color"].ToText(),
+               .comment = row[u"Comment"].ToText(),
+               .photoName = row[u"PhotoName"].ToText(),
+               .dom = row[u"DOM"].ToDate(),
+               .jumps = row[u"NumJumps"].ToInt(),
+               .price = row[u"Price"].ToMoney()};
   });
   return exists;
 }
@@ -118,21 +114,17 @@ SerialCheck CheckSerial(int model, const QString& serial, int component) {
 int SaveComponentEntry(const ComponentEntry& entry) {
   if (entry.model == 0) MsgBox(u"ModelID = 0"_s);
   int id = 0;
-  Trap(u"Function SaveComponentEntry"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(entry.id == 0 ? u"tblComponents"_s : RowStatement(entry.id));
-      if (entry.id == 0) {
-        row.AddNew();
-        row.Set(u"RigID", entry.rig);
-        WriteFields(row, entry);
-        id = row[u"ID"].ToInt();
-      } else if (RecordsetHasRows(row)) {
-        WriteFields(row, entry);
-        id = entry.id;
-      }
+  Operation(u"Function SaveComponentEntry"_s, [&] {
+    Recordset row(entry.id == 0 ? u"tblComponents"_s : RowStatement(entry.id));
+    if (entry.id == 0) {
+      row.AddNew();
+      row.Set(u"RigID", entry.rig);
+      WriteFields(row, entry);
+      id = row[u"ID"].ToInt();
+    } else if (RecordsetHasRows(row)) {
+      WriteFields(row, entry);
+      id = entry.id;
     }
-    bracket.Close();
   });
   if (id != 0)
     CheckComponentType(id);
@@ -142,8 +134,7 @@ int SaveComponentEntry(const ComponentEntry& entry) {
 }
 
 void SaveShortEntry(int component, int model, const QString& serial, Date dom, const QString& subType) {
-  Trap(u"Sub SaveShortEntry"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub SaveShortEntry"_s, [&] {
     {
       Recordset row(RowStatement(component));
       if (RecordsetHasRows(row)) {
@@ -155,6 +146,5 @@ void SaveShortEntry(int component, int model, const QString& serial, Date dom, c
       }
     }
     CheckComponentType(component);
-    bracket.Close();
   });
 }

@@ -2,7 +2,7 @@
 
 #include "core/remembered.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
@@ -50,12 +50,10 @@ ComponentListRow Read(const Recordset& row, Names& names) {
 
 QList<ComponentListRow> LoadComponentList(const ComponentFilter& filter) {
   QList<ComponentListRow> list;
-  Trap(u"Function LoadComponentList"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LoadComponentList"_s, [&] {
     Names names;
     for (const Recordset& row : Rows(Statement(filter)))
       if (Passes(filter, row)) list << Read(row, names);
-    bracket.Close();
   });
   return list;
 }

@@ -1,6 +1,6 @@
 #include "core/default_rows.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/jobless_task.h"
 #include "gear/models.h"
@@ -17,8 +17,7 @@ int LivingOwner(int owner) { return owner > 0 && PersonExists(owner) ? owner : 0
 }  // namespace
 
 void AddRemovalTask(int component, int rig, Date date, int location) {
-  Trap(u"Sub AddRemovalTask"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub AddRemovalTask"_s, [&] {
     WriteJoblessTask({.taskLibID = RemoveTaskLibID,
                       .name = u"Remove %1 %2 from %3"_s.arg(ComponentTypeName(ComponentTypeOf(component)),
                                                             ComponentDescription(component), RigName(rig)),
@@ -26,7 +25,6 @@ void AddRemovalTask(int component, int rig, Date date, int location) {
                       .date = date,
                       .locationID = location,
                       .components = {component}});
-    bracket.Close();
   });
 }
 
@@ -50,12 +48,10 @@ bool CheckMove(int type, int rig, int& component, bool silent, Date date, int lo
     return false;
   }
   const int moved = component;
-  Trap(u"Sub CheckMove"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub CheckMove"_s, [&] {
     if (!date.IsNone()) AddRemovalTask(moved, oldRig, date, location);
     FreePlace(rig, type);
     InstallComponent(rig, moved, oldOwner);
-    bracket.Close();
   });
   return true;
 }

@@ -2,7 +2,7 @@
 
 #include "core/forms.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
@@ -17,8 +17,7 @@ int LivingOwner(int owner) { return owner > 0 && PersonExists(owner) ? owner : 0
 
 QStringList UsesOf(int component) {
   QStringList uses;
-  Trap(u"Function UsesOf"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function UsesOf"_s, [&] {
     if (ComponentRig(component) != 0) uses << u"    as part of a rig"_s;
     if (GetNumberRecords(u"tblJobComponents"_s, u"ComponentID"_s, component) > 0)
       uses << u"    is used in one or more jobs"_s;
@@ -26,7 +25,6 @@ QStringList UsesOf(int component) {
       uses << u"    is used in one or more tasks"_s;
     if (GetNumberRecords(u"tblSchedules"_s, u"ComponentID"_s, component) > 0)
       uses << u"    is used in one or more schedules"_s;
-    bracket.Close();
   });
   return uses;
 }
@@ -62,15 +60,11 @@ QString CommandForSerial(const QString& serial, int type) {
 
 IdList LoadSerials(int type) {
   IdList serials;
-  Trap(u"Function LoadSerials"_s, [&] {
-    Bracket bracket;
-    {
-      const QString ofType = type == 0 ? QString() : u"TypeID = %1 and "_s.arg(type);
-      Recordset rows(u"Select * from tblcomponents where "_s + ofType + u"SerialNumber <> '' order by serialnumber "_s);
-      if (RecordsetHasRows(rows))
-        for (; !rows.Eof(); rows.MoveNext()) serials.Add(rows[u"SerialNumber"].ToText(), rows[u"ID"].ToInt());
-    }
-    bracket.Close();
+  Operation(u"Function LoadSerials"_s, [&] {
+    const QString ofType = type == 0 ? QString() : u"TypeID = %1 and "_s.arg(type);
+    Recordset rows(u"Select * from tblcomponents where "_s + ofType + u"SerialNumber <> '' order by serialnumber "_s);
+    if (RecordsetHasRows(rows))
+      for (; !rows.Eof(); rows.MoveNext()) serials.Add(rows[u"SerialNumber"].ToText(), rows[u"ID"].ToInt());
   });
   return serials;
 }
@@ -82,11 +76,9 @@ bool AskAddToRig(int type, int rig, int component) {
                      u"Do you want to add this "_s + typeName + u" to this rig?"_s}),
               u"Add "_s + typeName + u'?'))
     return false;
-  Trap(u"Sub AskAddToRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub AskAddToRig"_s, [&] {
     FreePlace(rig, type);
     InstallComponent(rig, component, ComponentOwner(component));
-    bracket.Close();
   });
   return true;
 }
@@ -123,12 +115,10 @@ bool RemoveFromItsRig(int component) {
   if (!AskYes(u"Remove "_s + ComponentDescription(component) + u" from "_s + RigName(rig) + u'?',
               u"Remove "_s + ComponentTypeName(type) + u'?'))
     return false;
-  Trap(u"Sub RemoveFromItsRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub RemoveFromItsRig"_s, [&] {
     DetachComponent(rig, component, type);
     InstallComponent(0, component, ComponentOwner(component));
     UpdateTable(u"tblPhotos"_s, u"rigid"_s, 0, u"componentid"_s, component);
-    bracket.Close();
   });
   return true;
 }
@@ -175,13 +165,11 @@ bool DeleteComponent(int component) {
                      u"Deleting NOT recommended"_s)) {
     return false;
   }
-  Trap(u"Sub DeleteComponent"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub DeleteComponent"_s, [&] {
     DeleteRecordsFromTable(u"tblComponents"_s, u"ID"_s, component);
     DeleteRecordsFromTable(u"tblJobComponents"_s, u"ComponentID"_s, component);
     DeleteRecordsFromTable(u"tblSchedules"_s, u"ComponentID"_s, component);
     DeleteRecordsFromTable(u"tblTaskComponents"_s, u"CompID"_s, component);
-    bracket.Close();
   });
   return true;
 }

@@ -2,7 +2,7 @@
 
 #include "core/default_rows.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;
@@ -11,18 +11,14 @@ namespace {
 
 int NextTypeId() {
   int next = 1;
-  Trap(u"Function NextTypeId"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset types(u"Select * from tblComponentTypes order by ID"_s);
-      if (RecordsetHasRows(types)) {
-        types.MoveLast();
-        next = types[u"ID"].ToInt() + 1;
-      } else {
-        MsgBox(u"you shouldn't be here"_s);
-      }
+  Operation(u"Function NextTypeId"_s, [&] {
+    Recordset types(u"Select * from tblComponentTypes order by ID"_s);
+    if (RecordsetHasRows(types)) {
+      types.MoveLast();
+      next = types[u"ID"].ToInt() + 1;
+    } else {
+      MsgBox(u"you shouldn't be here"_s);
     }
-    bracket.Close();
   });
   return next;
 }
@@ -47,17 +43,13 @@ int AddNewComponentType() {
   const QString name = InputBox(u"Enter name of new component"_s);
   if (name.isEmpty()) return 0;
   bool added = false;
-  Trap(u"Function AddNewComponentType"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset types(u"tblComponentTypes"_s);
-      types.AddNew();
-      types.Set(u"Name", name);
-      types.Set(u"ID", id);
-      types.Update();
-      added = true;
-    }
-    bracket.Close();
+  Operation(u"Function AddNewComponentType"_s, [&] {
+    Recordset types(u"tblComponentTypes"_s);
+    types.AddNew();
+    types.Set(u"Name", name);
+    types.Set(u"ID", id);
+    types.Update();
+    added = true;
   });
   return added ? id : 0;
 }
@@ -65,16 +57,12 @@ int AddNewComponentType() {
 bool RenameComponentType(int id) {
   const QString name = InputBox(u"Enter component type name"_s, u"Rename"_s, ComponentTypeName(id));
   if (name.trimmed().isEmpty()) return false;
-  return Trap(u"Sub RenameComponentType"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset type(u"Select * from tblComponentTypes where id = "_s + QString::number(id));
-      if (RecordsetHasRows(type)) {
-        type.Set(u"Name", name);
-        type.Update();
-      }
+  return Operation(u"Sub RenameComponentType"_s, [&] {
+    Recordset type(u"Select * from tblComponentTypes where id = "_s + QString::number(id));
+    if (RecordsetHasRows(type)) {
+      type.Set(u"Name", name);
+      type.Update();
     }
-    bracket.Close();
   });
 }
 

@@ -5,7 +5,7 @@
 #include "core/dates.h"
 #include "core/default_rows.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 #include "gear/rigs.h"
 
@@ -19,14 +19,12 @@ int CountSerials(const QString& source, const QString& serial, int& id) {
   int count = 0;
   const QString wanted = serial.trimmed().toUpper();
   if (wanted.isEmpty()) return count;
-  Trap(u"Function CountSerials"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function CountSerials"_s, [&] {
     for (const Recordset& component : Rows(source)) {
       if (component[u"SerialNumber"].ToText().trimmed().toUpper() != wanted) continue;
       ++count;
       id = component[u"ID"].ToInt();
     }
-    bracket.Close();
   });
   return count;
 }
@@ -61,21 +59,18 @@ void SetLastComponentID(int id) { UpdateTableBySQL(u"update tblMisc set LastComp
 
 Date ComponentExpiry(int id) {
   Date expiry;
-  Trap(u"Function ComponentExpiry"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function ComponentExpiry"_s, [&] {
     const Date dom = ComponentDom(id);
     const int months = ServiceLife(ComponentModel(id));
     if (!dom.IsNone() && months != 0)
       expiry = AddMonthsToDate(dom, static_cast<qint16>(qMin<int>(months, std::numeric_limits<qint16>::max())));
-    bracket.Close();
   });
   return expiry;
 }
 
 int NewComponent(int model, int type, int rig, const QString& serial) {
   int id = 0;
-  Trap(u"Sub NewComponent"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub NewComponent"_s, [&] {
     int owner = 0;
     if (rig != 0) {
       owner = RigOwner(rig);
@@ -98,23 +93,18 @@ int NewComponent(int model, int type, int rig, const QString& serial) {
       components.Update();
       id = components[u"ID"].ToInt();
     }
-    bracket.Close();
   });
   return id;
 }
 
 void InstallComponent(int rig, int component, int owner) {
-  Trap(u"Sub InstallComponent"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(u"Select * from tblComponents where id = "_s + QString::number(component));
-      if (RecordsetHasRows(row)) {
-        row.Set(u"RigID", rig);
-        if (rig == 0 && row[u"OwnerID"].ToInt() == 0) row.Set(u"OwnerID", owner);
-        row.Update();
-      }
+  Operation(u"Sub InstallComponent"_s, [&] {
+    Recordset row(u"Select * from tblComponents where id = "_s + QString::number(component));
+    if (RecordsetHasRows(row)) {
+      row.Set(u"RigID", rig);
+      if (rig == 0 && row[u"OwnerID"].ToInt() == 0) row.Set(u"OwnerID", owner);
+      row.Update();
     }
-    bracket.Close();
   });
 }
 
@@ -123,19 +113,15 @@ void FreePlace(int rig, int type) {
 }
 
 void CheckComponentType(int id) {
-  Trap(u"Sub CheckComponentType"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset component(u"select * from tblComponents where ID = "_s + QString::number(id));
-      if (RecordsetHasRows(component)) {
-        const int type = ModelType(component[u"ModelID"].ToInt());
-        if (component[u"TypeID"].ToInt() != type) {
-          component.Set(u"TypeID", type);
-          component.Update();
-        }
+  Operation(u"Sub CheckComponentType"_s, [&] {
+    Recordset component(u"select * from tblComponents where ID = "_s + QString::number(id));
+    if (RecordsetHasRows(component)) {
+      const int type = ModelType(component[u"ModelID"].ToInt());
+      if (component[u"TypeID"].ToInt() != type) {
+        component.Set(u"TypeID", type);
+        component.Update();
       }
     }
-    bracket.Close();
   });
 }
 
@@ -152,14 +138,12 @@ int CountSerialsOfModel(int model, const QString& serial, int& id) {
 }
 
 void DetachComponent(int rig, int component, int type) {
-  Trap(u"Sub DetachComponent"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub DetachComponent"_s, [&] {
     if (type == kContainer || type == kReserveCanopy) {
       Recordset entry(
           u"Select * from tblSchedules where rigID = %1 and tasklibid = %2"_s.arg(rig).arg(RepackTaskLibID));
       if (RecordsetHasRows(entry)) entry.Delete();
     }
     UpdateTableBySQL(u"Update tblSchedules set rigid = 0 where Componentid = "_s + QString::number(component));
-    bracket.Close();
   });
 }

@@ -3,7 +3,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/locations.h"
 
 using namespace Qt::StringLiterals;
@@ -33,34 +33,29 @@ QString ShownTaxRate(double rate) { return Format(rate, u"#0.00"_s); }
 
 IdList LoadLocations() {
   IdList list;
-  Trap(u"Sub LoadLocations"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadLocations"_s, [&] {
     for (const Recordset& row : Rows(u"Select * from tblLocation order by City"_s)) {
       const int id = row[u"ID"].ToInt();
       list.Add(LocationText(id) + (row[u"Default"].ToBool() ? u"  (default location)"_s : QString()), id);
     }
-    bracket.Close();
   });
   return list;
 }
 
 bool LoadLocation(int id, LocationEntry& entry) {
   bool found = false;
-  Trap(u"Sub LoadLocation"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadLocation"_s, [&] {
     for (const Recordset& row : Rows(u"Select * from tblLocation where id = "_s + QString::number(id))) {
       entry = {row[u"City"].ToText(), row[u"State"].ToText(), ShownTaxRate(row[u"TaxRate"].ToDouble()),
                row[u"Default"].ToBool()};
       found = true;
     }
-    bracket.Close();
   });
   return found;
 }
 
 void CheckTax(LocationEntry& entry, int id) {
-  Trap(u"Sub CheckTax"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub CheckTax"_s, [&] {
     const QString state = entry.state.trimmed().toUpper();
     const double rate = Val(entry.taxRate);
     const StateRates others = OtherRates(state, rate, id);
@@ -78,7 +73,6 @@ void CheckTax(LocationEntry& entry, int id) {
         MsgBox(u"Tax rate changed to "_s + entry.taxRate);
       }
     }
-    bracket.Close();
   });
 }
 
@@ -87,10 +81,9 @@ int SaveLocation(LocationEntry& entry, int id) {
     MsgBox(u"You must enter a City"_s, u"No city"_s);
     return 0;
   }
-  CheckTax(entry, id);
   int saved = 0;
-  Trap(u"Sub SaveLocation"_s, [&] {
-    Bracket bracket;
+  const bool written = Operation(u"Sub SaveLocation"_s, [&] {
+    CheckTax(entry, id);
     if (entry.isDefault) TurnOffAllLocationDefaults();
     {
       Recordset row(id == 0 ? u"tblLocation"_s : u"Select * from tblLocation where id = "_s + QString::number(id));
@@ -106,9 +99,8 @@ int SaveLocation(LocationEntry& entry, int id) {
       row.Update();
       saved = row[u"ID"].ToInt();
     }
-    bracket.Close();
   });
-  return saved;
+  return written ? saved : 0;
 }
 
 bool DeleteLocation(int id) {

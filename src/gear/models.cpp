@@ -1,7 +1,7 @@
 #include "gear/models.h"
 
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,20 +12,16 @@ Value ModelField(int id, const QString& field) { return GetValueFromTable(u"tblM
 int InsertModel(const QString& name, int type, int manufacturer) {
   int id = 0;
   if (name.isEmpty()) return id;
-  Trap(u"Function AddModel"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset models(u"tblModels"_s);
-      models.AddNew();
-      models.Set(u"ManfID", manufacturer);
-      models.Set(u"TypeID", type);
-      models.Set(u"Price", Money());
-      models.Set(u"Name", name);
-      models.Set(u"servicelife", 0);
-      models.Update();
-      id = models[u"ID"].ToInt();
-    }
-    bracket.Close();
+  Operation(u"Function AddModel"_s, [&] {
+    Recordset models(u"tblModels"_s);
+    models.AddNew();
+    models.Set(u"ManfID", manufacturer);
+    models.Set(u"TypeID", type);
+    models.Set(u"Price", Money());
+    models.Set(u"Name", name);
+    models.Set(u"servicelife", 0);
+    models.Update();
+    id = models[u"ID"].ToInt();
   });
   return id;
 }

@@ -6,6 +6,7 @@
 #include "core/files.h"
 #include "core/format.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/text.h"
 #include "core/text_files.h"
 #include "core/trap.h"
@@ -69,9 +70,8 @@ bool IsModelsFile(const QStringList& lines) { return lines.contains(kStart) && l
 
 void ExportModels() {
   if (!AskYes(u"ready to export to file?"_s, kProgramTitle)) return;
-  Trap(u"Sub ExportModels"_s, [] {
+  const bool written = Operation(u"Sub ExportModels"_s, [] {
     QStringList lines(kStart);
-    Bracket bracket;
     const auto add = [&lines](const QString& table, const QList<QStringView>& fields) {
       Recordset rows(table);
       if (!RecordsetHasRows(rows)) return;
@@ -82,9 +82,8 @@ void ExportModels() {
     lines << kEnd;
     add(u"tblModels"_s, {u"Name", u"ManfID", u"TypeID", u"Price"});
     WriteLines(LocalFile(), lines);
-    bracket.Close();
-    MsgBox(u"models.txt created in local directory"_s);
   });
+  if (written) MsgBox(u"models.txt created in local directory"_s);
 }
 
 void ImportModels(bool silent) {
@@ -112,12 +111,12 @@ void ImportModels(bool silent) {
       }
       if (!AskYes(u"Valid file.  Ready to import?"_s, kProgramTitle)) return;
     }
-    Bracket bracket;
-    Reader reader(lines);
-    ReadManufacturers(reader);
-    ReadModels(reader);
-    bracket.Close();
-    if (!silent) MsgBox(u"Manufacturers and models updated"_s, u"Done"_s);
+    const bool written = Operation(u"Sub ImportModels"_s, [&] {
+      Reader reader(lines);
+      ReadManufacturers(reader);
+      ReadModels(reader);
+    });
+    if (written && !silent) MsgBox(u"Manufacturers and models updated"_s, u"Done"_s);
   });
 }
 

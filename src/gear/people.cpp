@@ -1,7 +1,7 @@
 #include "gear/people.h"
 
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,15 +16,11 @@ struct Names {
 
 Names ReadNames(int id) {
   Names names;
-  Trap(u"Function ReadNames"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset person(u"select * from tblPeople where id = "_s + QString::number(id));
-      if (RecordsetHasRows(person))
-        names = {true, person[u"FirstName"].ToText().trimmed(), person[u"LastName"].ToText().trimmed(),
-                 person[u"OrgName"].ToText().trimmed()};
-    }
-    bracket.Close();
+  Operation(u"Function ReadNames"_s, [&] {
+    Recordset person(u"select * from tblPeople where id = "_s + QString::number(id));
+    if (RecordsetHasRows(person))
+      names = {true, person[u"FirstName"].ToText().trimmed(), person[u"LastName"].ToText().trimmed(),
+               person[u"OrgName"].ToText().trimmed()};
   });
   return names;
 }
@@ -35,10 +31,8 @@ QString PersonText(int id, const QString& field) {
 
 QList<int> IdsInOrder(const QString& order) {
   QList<int> ids;
-  Trap(u"Function IdsInOrder"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function IdsInOrder"_s, [&] {
     for (const Recordset& person : Rows(u"Select * from tblPeople order by "_s + order)) ids << person[u"ID"].ToInt();
-    bracket.Close();
   });
   return ids;
 }

@@ -1,7 +1,7 @@
 #include "gear/person_deletion.h"
 
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/people.h"
 #include "gear/person_record.h"
 
@@ -36,13 +36,11 @@ bool RefuseProgramOwner(int id) {
 
 DeletionReport ReportPersonDeletion(int id) {
   QStringList lines;
-  Trap(u"Function ReportPersonDeletion"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function ReportPersonDeletion"_s, [&] {
     for (const Tie& tie : Ties()) {
       const int count = GetNumberRecords(tie.table, tie.field, id);
       if (count > 0) lines << u"      "_s + QString::number(count) + tie.text + (count > 1 ? u"s"_s : QString());
     }
-    bracket.Close();
   });
   if (lines.isEmpty()) return DeletionReport::NothingTied;
   lines.prepend(u"Customer "_s + PersonDisplayName(id) + u" is associated with the following: "_s);
@@ -60,11 +58,9 @@ int NeighbourAfterDeletion(int id) {
 }
 
 void DeletePerson(int id) {
-  Trap(u"Sub DeletePerson"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub DeletePerson"_s, [&] {
     DeleteRecordsFromTable(u"tblPeople"_s, u"ID"_s, id);
     for (const Tie& tie : Ties()) UpdateTable(tie.table, tie.field, 0, tie.field, id);
-    bracket.Close();
   });
 }
 

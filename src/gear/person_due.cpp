@@ -3,7 +3,7 @@
 #include "core/clock.h"
 #include "core/format.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/rigs.h"
 
 using namespace Qt::StringLiterals;
@@ -42,11 +42,9 @@ QString RigCountText(int person) {
 
 std::optional<int> DaysToSoonestDue(int person) {
   std::optional<Date> earliest;
-  Trap(u"Function DaysToSoonestDue"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function DaysToSoonestDue"_s, [&] {
     FindEarliest(u"tblComponents"_s, u"ComponentID"_s, person, earliest);
     FindEarliest(u"tblRig"_s, u"rigID"_s, person, earliest);
-    bracket.Close();
   });
   if (!earliest) return std::nullopt;
   return DaysBetween(Today(), *earliest);

@@ -1,8 +1,8 @@
 #include "gear/person_names.h"
 
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/text.h"
-#include "core/trap.h"
 #include "gear/people.h"
 #include "gear/person_record.h"
 
@@ -33,23 +33,19 @@ bool DuplicateNameCheck(const QString& name, int& id) {
   last = last.trimmed().toLower();
   first = first.trimmed().toLower();
   QStringList close;
-  Trap(u"Function DuplicateNameCheck"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset people(u"tblPeople"_s);
-      if (RecordsetHasRows(people)) {
-        for (; id == 0 && !people.Eof(); people.MoveNext()) {
-          const QString otherLast = people[u"LastName"].ToText();
-          const QString otherFirst = people[u"FirstName"].ToText();
-          if (otherLast.trimmed().toLower() != last) continue;
-          if (otherFirst.trimmed().toLower() == first)
-            id = people[u"ID"].ToInt();
-          else
-            close << otherFirst + u' ' + otherLast;
-        }
+  Operation(u"Function DuplicateNameCheck"_s, [&] {
+    Recordset people(u"tblPeople"_s);
+    if (RecordsetHasRows(people)) {
+      for (; id == 0 && !people.Eof(); people.MoveNext()) {
+        const QString otherLast = people[u"LastName"].ToText();
+        const QString otherFirst = people[u"FirstName"].ToText();
+        if (otherLast.trimmed().toLower() != last) continue;
+        if (otherFirst.trimmed().toLower() == first)
+          id = people[u"ID"].ToInt();
+        else
+          close << otherFirst + u' ' + otherLast;
       }
     }
-    bracket.Close();
   });
   if (id != 0) return true;
   if (close.isEmpty()) return false;

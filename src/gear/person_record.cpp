@@ -1,8 +1,8 @@
 #include "gear/person_record.h"
 
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/text.h"
-#include "core/trap.h"
 #include "gear/person_names.h"
 
 using namespace Qt::StringLiterals;
@@ -52,72 +52,59 @@ QString RowStatement(int id) { return u"Select * from tblPeople where id = "_s +
 bool LoadPerson(int id, Person& person) {
   person = {};
   bool exists = false;
-  Trap(u"Function LoadPerson"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(RowStatement(id));
-      exists = RecordsetHasRows(row);
-      if (exists) {
-        for (const TextField& field : kTextFields) person.*field.text = row[field.name].ToText();
-        person.comment = row[u"Comment"].ToText();
-        person.rigger = row[u"rigger"].ToBool();
-      }
+  Operation(u"Function LoadPerson"_s, [&] {
+    Recordset row(RowStatement(id));
+    exists = RecordsetHasRows(row);
+    if (exists) {
+      for (const TextField& field : kTextFields) person.*field.text = row[field.name].ToText();
+      person.comment = row[u"Comment"].ToText();
+      person.rigger = row[u"rigger"].ToBool();
     }
-    bracket.Close();
   });
   return exists;
 }
 
 int InsertPerson(const Person& person) {
   int id = 0;
-  Trap(u"Function InsertPerson"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(u"tblPeople"_s);
-      row.AddNew();
-      WriteFields(row, person);
-      row.Set(u"PhotoName", QString());
-      row.Update();
-      id = row[u"ID"].ToInt();
-    }
-    bracket.Close();
+  Operation(u"Function InsertPerson"_s, [&] {
+    Recordset row(u"tblPeople"_s);
+    row.AddNew();
+    WriteFields(row, person);
+    row.Set(u"PhotoName", QString());
+    row.Update();
+    id = row[u"ID"].ToInt();
   });
   return id;
 }
 
 int SaveNewOwner(const Person& person, bool isProgramOwner) {
   if (RefuseNameless(person)) return 0;
-  const int id = InsertPerson(person);
-  if (isProgramOwner && id != 0) UpdateTableBySQL(u"update tblMisc set UserID = "_s + QString::number(id));
-  return id;
+  int id = 0;
+  const bool written = Operation(u"Function SaveNewOwner"_s, [&] {
+    id = InsertPerson(person);
+    if (isProgramOwner && id != 0) UpdateTableBySQL(u"update tblMisc set UserID = "_s + QString::number(id));
+  });
+  return written ? id : 0;
 }
 
 void UpdateOwner(int id, const Person& person) {
   if (RefuseNameless(person)) return;
-  Trap(u"Sub UpdateOwner"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(RowStatement(id));
-      if (RecordsetHasRows(row)) {
-        WriteFields(row, person);
-        row.Update();
-      }
+  Operation(u"Sub UpdateOwner"_s, [&] {
+    Recordset row(RowStatement(id));
+    if (RecordsetHasRows(row)) {
+      WriteFields(row, person);
+      row.Update();
     }
-    bracket.Close();
   });
 }
 
 void SetRiggerFlag(int id, bool rigger) {
-  Trap(u"Sub SetRiggerFlag"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(RowStatement(id));
-      if (RecordsetHasRows(row)) {
-        row.Set(u"rigger", rigger);
-        row.Update();
-      }
+  Operation(u"Sub SetRiggerFlag"_s, [&] {
+    Recordset row(RowStatement(id));
+    if (RecordsetHasRows(row)) {
+      row.Set(u"rigger", rigger);
+      row.Update();
     }
-    bracket.Close();
   });
 }
 

@@ -5,7 +5,7 @@
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/diagnostic_ids.h"
 #include "gear/models.h"
@@ -49,10 +49,8 @@ RigComponentRow ReadRow(int rig, int type) {
 /// One walk over the rigs: a question to each of thousands of customers would be slow.
 QHash<int, int> CountRigs() {
   QHash<int, int> counts;
-  Trap(u"Function CountRigs"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function CountRigs"_s, [&] {
     for (const Recordset& rig : Rows(u"select * from tblRig"_s)) ++counts[rig[u"OwnerID"].ToInt()];
-    bracket.Close();
   });
   return counts;
 }
@@ -68,12 +66,10 @@ bool NameIsFree(const QString& name, int owner, Icon icon) {
 
 IdList LoadRigs(int owner, int type) {
   IdList list;
-  Trap(u"Function LoadRigs"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LoadRigs"_s, [&] {
     for (const Recordset& rig : Rows(owner == 0 ? u"select * from tblRig"_s
                                                 : u"select * from tblRig where Ownerid = "_s + QString::number(owner)))
       if (type == 0 || rig[u"TypeID"].ToInt() == type) list.Add(RigText(rig), rig[u"ID"].ToInt());
-    bracket.Close();
   });
   return list;
 }
@@ -103,12 +99,10 @@ void SetPhotosHidden(bool hidden) {
 
 QList<RigComponentRow> LoadRigComponents(int rig) {
   QList<RigComponentRow> rows;
-  Trap(u"Sub LoadRigComponents"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadRigComponents"_s, [&] {
     SetLastSystemID(rig);
     TellDoubledTypes(rig);
     for (int type : ComponentTypesOfRigType(RigType(rig))) rows << ReadRow(rig, type);
-    bracket.Close();
   });
   return rows;
 }
@@ -166,21 +160,17 @@ bool RemoveComponentFromRig(int rig, int component) {
                      u"(component will still be in the database)"_s}),
               u"Remove "_s + ComponentTypeName(type) + u'?'))
     return false;
-  Trap(u"Sub RemoveComponentFromRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub RemoveComponentFromRig"_s, [&] {
     DetachComponent(rig, component, type);
     SetComponentRig(component, 0);
-    bracket.Close();
   });
   return true;
 }
 
 void DeleteRig(int rig) {
-  Trap(u"Sub DeleteRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub DeleteRig"_s, [&] {
     DeleteRepackEntries(rig);
     DeleteRigRow(rig);
-    bracket.Close();
   });
 }
 
@@ -195,12 +185,10 @@ bool InstallChosenComponent(int rig, int component, Date today) {
   const int type = ComponentTypeOf(component);
   if (!CheckMove(type, rig, component, false, today)) return false;
   if (!CheckOwner(rig, component)) return false;
-  Trap(u"Sub InstallChosenComponent"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub InstallChosenComponent"_s, [&] {
     if (ComponentRig(component) != rig) FreePlace(rig, type);
     SetComponentRig(component, rig);
     UpdateTable(u"tblPhotos"_s, u"rigid"_s, rig, u"componentid"_s, component);
-    bracket.Close();
   });
   CheckComponentType(component);
   return true;

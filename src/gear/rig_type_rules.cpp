@@ -3,7 +3,7 @@
 #include <numeric>
 
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/rig_types.h"
 
 using namespace Qt::StringLiterals;
@@ -13,16 +13,12 @@ namespace {
 QString RowStatement(int id) { return u"Select * from tblRigTypes where id = "_s + QString::number(id); }
 
 bool WriteField(int id, QStringView field, const Value& value) {
-  return Trap(u"Sub WriteField"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset row(RowStatement(id));
-      if (RecordsetHasRows(row)) {
-        row.Set(field, value);
-        row.Update();
-      }
+  return Operation(u"Sub WriteField"_s, [&] {
+    Recordset row(RowStatement(id));
+    if (RecordsetHasRows(row)) {
+      row.Set(field, value);
+      row.Update();
     }
-    bracket.Close();
   });
 }
 
@@ -30,11 +26,9 @@ bool WriteField(int id, QStringView field, const Value& value) {
 
 IdList LoadRigTypesById() {
   IdList list;
-  Trap(u"Function LoadRigTypesById"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LoadRigTypesById"_s, [&] {
     for (const Recordset& type : Rows(u"Select * from tblRigTypes order by ID"_s))
       list.Add(type[u"Name"].ToText(), type[u"ID"].ToInt());
-    bracket.Close();
   });
   return list;
 }
@@ -54,17 +48,13 @@ int AddRigType() {
     return 0;
   }
   int id = 0;
-  Trap(u"Function AddRigType"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset types(u"tblRigTypes"_s);
-      types.AddNew();
-      types.Set(u"Name", name);
-      types.Set(u"ReserveLocation", 0);
-      types.Update();
-      id = types[u"ID"].ToInt();
-    }
-    bracket.Close();
+  Operation(u"Function AddRigType"_s, [&] {
+    Recordset types(u"tblRigTypes"_s);
+    types.AddNew();
+    types.Set(u"Name", name);
+    types.Set(u"ReserveLocation", 0);
+    types.Update();
+    id = types[u"ID"].ToInt();
   });
   return id;
 }
@@ -92,11 +82,9 @@ RigTypeDeletion DeleteRigType(int id) {
     return AskYes(text, u"Rig Type:  "_s + RigTypeName(id)) ? RigTypeDeletion::ShowRigs : RigTypeDeletion::Kept;
   }
   if (!AskYes(u"Delete "_s + RigTypeName(id) + u'?', u"Are you sure?"_s)) return RigTypeDeletion::Kept;
-  Trap(u"Sub DeleteRigType"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub DeleteRigType"_s, [&] {
     DeleteRecordsFromTable(u"tblRepackByType"_s, u"TypeID"_s, id);
     DeleteRecordsFromTable(u"tblRigTypes"_s, u"id"_s, id);
-    bracket.Close();
   });
   return RigTypeDeletion::Deleted;
 }
@@ -106,8 +94,7 @@ bool SetComponentTypesOfRigType(int id, const QList<int>& types, bool listIsEmpt
     MsgBox(listIsEmpty ? u"There are no rig types"_s : u"Please select a rig type"_s);
     return false;
   }
-  return Trap(u"Sub SetComponentTypesOfRigType"_s, [&] {
-    Bracket bracket;
+  return Operation(u"Sub SetComponentTypesOfRigType"_s, [&] {
     DeleteRecordsFromTableBySQL(u"Delete * from tblRigTypeComponents where RigTypeid = "_s + QString::number(id));
     {
       Recordset components(u"tblRigTypeComponents"_s);
@@ -118,7 +105,6 @@ bool SetComponentTypesOfRigType(int id, const QList<int>& types, bool listIsEmpt
         components.Update();
       }
     }
-    bracket.Close();
   });
 }
 

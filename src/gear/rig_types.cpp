@@ -1,7 +1,7 @@
 #include "gear/rig_types.h"
 
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +21,13 @@ bool RigTypeHasComponentType(int rigType, int componentType) {
 
 QList<int> ComponentTypesOfRigType(int id, bool orderedById) {
   QList<int> types;
-  Trap(u"Function ComponentTypesOfRigType"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function ComponentTypesOfRigType"_s, [&] {
     for (const Recordset& component :
          Rows(u"Select * from tblRigTypeComponents where rigTypeID = "_s + QString::number(id) +
               (orderedById ? u" order by ComponentTypeID"_s : QString()))) {
       const int type = component[u"ComponentTypeID"].ToInt();
       if (type != 0) types << type;
     }
-    bracket.Close();
   });
   return types;
 }

@@ -2,7 +2,7 @@
 
 #include "core/default_rows.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,41 +31,33 @@ int ComponentOfTypeInRig(int rig, int type) {
 
 bool RigNameIsTaken(const QString& name, int owner, QString* list) {
   bool taken = false;
-  Trap(u"Function RigNameIsTaken"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset rigs(u"select * from tblRig where Ownerid = "_s + QString::number(owner));
-      const QString wanted = name.trimmed().toLower();
-      QStringList names;
-      if (RecordsetHasRows(rigs)) {
-        for (; !rigs.Eof(); rigs.MoveNext()) {
-          const QString alias = rigs[u"rigAlias"].ToText();
-          if (alias != kTempRigName) names << u"      "_s + alias;
-          if (alias.trimmed().toLower() == wanted) taken = true;
-        }
+  Operation(u"Function RigNameIsTaken"_s, [&] {
+    Recordset rigs(u"select * from tblRig where Ownerid = "_s + QString::number(owner));
+    const QString wanted = name.trimmed().toLower();
+    QStringList names;
+    if (RecordsetHasRows(rigs)) {
+      for (; !rigs.Eof(); rigs.MoveNext()) {
+        const QString alias = rigs[u"rigAlias"].ToText();
+        if (alias != kTempRigName) names << u"      "_s + alias;
+        if (alias.trimmed().toLower() == wanted) taken = true;
       }
-      if (list) *list = Lines(names);
     }
-    bracket.Close();
+    if (list) *list = Lines(names);
   });
   return taken;
 }
 
 int CreateRig(int owner, int type, const QString& name) {
   int id = 0;
-  Trap(u"Function CreateRig"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset rigs(u"tblRig"_s);
-      rigs.AddNew();
-      rigs.Set(u"OwnerID", owner);
-      rigs.Set(u"TypeID", type);
-      rigs.Set(u"Comment", u" ");
-      rigs.Set(u"rigAlias", name.left(kLongestRigName));
-      rigs.Update();
-      id = rigs[u"ID"].ToInt();
-    }
-    bracket.Close();
+  Operation(u"Function CreateRig"_s, [&] {
+    Recordset rigs(u"tblRig"_s);
+    rigs.AddNew();
+    rigs.Set(u"OwnerID", owner);
+    rigs.Set(u"TypeID", type);
+    rigs.Set(u"Comment", u" ");
+    rigs.Set(u"rigAlias", name.left(kLongestRigName));
+    rigs.Update();
+    id = rigs[u"ID"].ToInt();
   });
   return id;
 }

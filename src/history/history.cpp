@@ -4,7 +4,7 @@
 
 #include "core/remembered.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "history/history_texts.h"
 
@@ -125,26 +125,22 @@ void DoLooseTasks(LineCollector& collector, int rigID) {
 QList<HistoryLine> LoadHx3(int rigID, const HistoryFilter& filter) {
   if (rigID == 0) return {};  // gear in no rig has no rig's history
   LineCollector collector(filter.hideDuplicates);
-  Trap(u"Sub LoadHx3"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadHx3"_s, [&] {
     ComponentArray found;
     if (!filter.currentCompsOnly) found.GetJobComponents(rigID);
     found.AddCurrentRigComponentsToArray(rigID);
     if (!filter.currentCompsOnly) found.AddAllRigTaskCompsToArray(rigID);
     HxbyArray(collector, found.Components(), rigID, filter);
     DoLooseTasks(collector, rigID);
-    bracket.Close();
   });
   return collector.lines;
 }
 
 QList<HistoryLine> LoadHx2(const QList<int>& components, bool hideDuplicates) {
   LineCollector collector(hideDuplicates);
-  Trap(u"Sub LoadHx2"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadHx2"_s, [&] {
     for (int component : components)
       if (component != 0) collector.AddComponent(component, [](int) { return true; });
-    bracket.Close();
   });
   return collector.lines;
 }

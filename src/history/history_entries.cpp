@@ -4,8 +4,8 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/text.h"
-#include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
@@ -100,24 +100,20 @@ bool AddHistoryEntry(const HistoryView& view, int taskLibID, const QString& date
   }
   const Date date = ParseDate(dateText);
   if (date.IsNone() || !MayBeAdded(view, taskLibID)) return false;
-  return Trap(u"Sub AddTaskOrEvent"_s, [&] {
-    Bracket bracket;
+  return Operation(u"Sub AddTaskOrEvent"_s, [&] {
     const int component = view.mode == HistoryMode::Rig ? 0 : view.componentID;
     const int taskID = WriteJoblessWork(taskLibID, view.rigID, component, date);
     Reschedule(taskLibID, view.rigID, GetThisComponentID(taskID));
-    bracket.Close();
   });
 }
 
 bool DeleteHistoryEntry(const HistoryLine& line) {
   if (!AskYes(u"Are you sure you want to delete this event?"_s, line.component + u" - "_s + line.task)) return false;
-  return Trap(u"Sub DeleteEvent"_s, [&] {
-    Bracket bracket;
+  return Operation(u"Sub DeleteEvent"_s, [&] {
     const int taskLibID = TaskLibIDOf(line.taskID);
     DeleteTask(line.taskID);
     DeleteRecordsFromTable(u"tblSchedules"_s, u"TaskID"_s, line.taskID);
     RescheduleWithout(taskLibID, line);
-    bracket.Close();
   });
 }
 

@@ -4,7 +4,7 @@
 
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
 #include "schedule/schedule.h"
@@ -12,8 +12,7 @@
 using namespace Qt::StringLiterals;
 
 void SetTaskStatus(int taskID, bool complete, Date date) {
-  Trap(u"Sub SetTaskStatus"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub SetTaskStatus"_s, [&] {
     {
       Recordset task(u"Select * from tblTasks where ID = %1"_s.arg(taskID));
       if (RecordsetHasRows(task)) {
@@ -23,7 +22,6 @@ void SetTaskStatus(int taskID, bool complete, Date date) {
       }
     }
     UpdateTable(u"tblTaskComponents"_s, u"Complete"_s, complete, u"TaskID"_s, taskID);
-    bracket.Close();
   });
 }
 
@@ -44,15 +42,13 @@ bool AllChecked(int jobID) {
 
 bool ToggleComplete(int taskID, Date date, bool rigComponentsCurrent) {
   if (TaskIsEvent(taskID)) return false;
-  Trap(u"Sub ToggleComplete"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub ToggleComplete"_s, [&] {
     const int jobID = LineField(taskID, u"JobID"_s).ToInt();
     SetTaskStatus(taskID, !LineIsDone(taskID), date);
     const int rigID = JobSystemID(jobID);
     if (ShouldAdd2Schedule(rigID, rigComponentsCurrent))
       UpdateSchedule(TaskLibIDOf(taskID), rigID, GetThisComponentID(taskID));
     CheckJobStatus(jobID, date);
-    bracket.Close();
   });
   return true;
 }
@@ -65,8 +61,7 @@ bool CheckJobStatus(int jobID, Date date) {
 
 Date RecomputeJobStatus(int jobID) {
   Date date;
-  Trap(u"Sub LoadTasksGrid"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadTasksGrid"_s, [&] {
     bool complete = true;
     {
       Recordset lines(u"Select * from tblTasks where Jobid = %1"_s.arg(jobID));
@@ -81,20 +76,17 @@ Date RecomputeJobStatus(int jobID) {
     }
     if (!complete) date = Date();
     SetJobStatus(jobID, complete, date);
-    bracket.Close();
   });
   return date;
 }
 
 void CompleteAllTasks(int jobID, bool complete, Date date, bool rigComponentsCurrent) {
-  Trap(u"Sub CompleteAllTasks"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub CompleteAllTasks"_s, [&] {
     for (int taskID : LinesOfJob(jobID)) {
       if (LineIsDone(taskID) != complete) ToggleComplete(taskID, date, rigComponentsCurrent);
     }
     const Date completed = JobDateCompleted(jobID);
     if (complete && completed.IsNone()) SetJobDateCompleted(jobID, date);
     if (!complete && !completed.IsNone()) SetJobDateCompleted(jobID, Date());
-    bracket.Close();
   });
 }

@@ -3,7 +3,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/connection.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 #include "jobs/job_components.h"
 #include "jobs/library_entry.h"
@@ -61,8 +61,7 @@ CustomRoad ChooseCustomRoad(const CustomEntry& entry, int jobID, int& taskLibID)
 
 int AddOneOffLine(const JobContext& job, const CustomEntry& entry, Date date) {
   int taskID = 0;
-  Trap(u"Sub AddOneOffLine"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub AddOneOffLine"_s, [&] {
     AddCustomLine(job, {.name = entry.name, .price = entry.price, .logBook = entry.logBook, .isEvent = entry.isEvent},
                   date, taskID);
     if (taskID != 0) {
@@ -70,7 +69,6 @@ int AddOneOffLine(const JobContext& job, const CustomEntry& entry, Date date) {
           job.rigID == 0 ? entry.componentTypes.first(qMin(1, entry.componentTypes.size())) : entry.componentTypes;
       for (int type : types) AddTaskComponent(taskID, JobComponentOfType(job.jobID, type), entry.isEvent);
     }
-    bracket.Close();
   });
   return taskID;
 }

@@ -1,9 +1,8 @@
 #include "jobs/delete_job.h"
 
-#include "core/forms.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
 #include "schedule/schedule.h"
@@ -59,20 +58,19 @@ bool IsConfirmed(const QList<int>& empty) {
 
 void DeleteJob(int jobID, bool ask, bool& cancelled) {
   cancelled = false;
-  Trap(u"Sub DeleteJob"_s, [&] {
+  Operation(u"Sub DeleteJob"_s, [&] {
     cancelled = !IsConfirmed(jobID, ask);
     if (cancelled) return;
-    Bracket bracket;
     DeleteLines(jobID);
     DeleteJobRow(jobID);
-    Forms::ReloadIfLoaded(u"frmJob"_s);
-    bracket.Close();
   });
 }
 
 void DeleteJobRow(int jobID) {
-  DeleteRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID);
-  DeleteRecordsFromTable(u"tblJobs"_s, u"ID"_s, jobID);
+  Operation(u"Sub DeleteJobRow"_s, [&] {
+    DeleteRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID);
+    DeleteRecordsFromTable(u"tblJobs"_s, u"ID"_s, jobID);
+  });
 }
 
 void AuditJobs() {
@@ -83,17 +81,15 @@ void AuditJobs() {
 
 bool DeleteAllEmptyJobs() {
   bool deleted = false;
-  Trap(u"Sub DeleteAllEmptyJobs"_s, [&] {
+  const bool written = Operation(u"Sub DeleteAllEmptyJobs"_s, [&] {
     const QList<int> empty = EmptyJobs();
     if (empty.isEmpty()) {
       MsgBox(u"There are no empty jobs"_s, u"No empty jobs"_s);
       return;
     }
     if (!IsConfirmed(empty)) return;
-    Bracket bracket;
     for (int job : empty) DeleteJobRow(job);
     deleted = true;
-    bracket.Close();
   });
-  return deleted;
+  return written && deleted;
 }

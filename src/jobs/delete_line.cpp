@@ -1,7 +1,7 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
 #include "schedule/schedule.h"
@@ -28,26 +28,26 @@ void TellWhatStays(int taskLibID) {
 }  // namespace
 
 void DeleteTask(int taskID) {
-  DeleteRecordsFromTable(u"tblTasks"_s, u"ID"_s, taskID);
-  DeleteRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID);
+  Operation(u"Sub DeleteTask"_s, [&] {
+    DeleteRecordsFromTable(u"tblTasks"_s, u"ID"_s, taskID);
+    DeleteRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID);
+  });
 }
 
 bool DeleteLine(int taskID, bool quiet, int rigID, int componentID) {
   bool deleted = false;
-  Trap(u"Sub DeleteCurrentTask"_s, [&] {
+  const bool written = Operation(u"Sub DeleteCurrentTask"_s, [&] {
     const QString name = LineField(taskID, u"TaskName"_s).ToText();
     const int jobID = LineField(taskID, u"JobID"_s).ToInt();
     const int taskLibID = TaskLibIDOf(taskID);
     if (!quiet && !AskYes(u"Are you sure you want to delete this entry?"_s, u"Delete "_s + name + u'?')) return;
     TellWhatStays(taskLibID);
-    Bracket bracket;
     DeleteTask(taskID);
     UpdateSchedule(taskLibID, rigID, componentID);
     if (LinesOfJob(jobID).isEmpty()) SetJobDateCompleted(jobID, Date());
-    bracket.Close();
     deleted = true;
   });
-  return deleted;
+  return written && deleted;
 }
 
 bool DeleteAllLines(int jobID, int rigID, int componentID) {
@@ -60,9 +60,7 @@ bool DeleteAllLines(int jobID, int rigID, int componentID) {
                      u"Are you sure you want to do this?"_s}),
               u"Delete all entries for this job?"_s))
     return false;
-  return Trap(u"Sub DeleteAllTasks"_s, [&] {
-    Bracket bracket;
+  return Operation(u"Sub DeleteAllTasks"_s, [&] {
     for (int taskID : lines) DeleteLine(taskID, true, rigID, componentID);
-    bracket.Close();
   });
 }

@@ -17,7 +17,6 @@ constexpr int kLongestSerial = 50;
 
 void Write(int componentID, const QString& field, const Value& value) {
   UpdateTable(u"tblComponents"_s, field, value, u"ID"_s, componentID);
-  ReloadGearScreens();
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/store/connection.h"
+#include "core/store/operation.h"
 #include "core/text.h"
-#include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
@@ -95,8 +95,7 @@ bool InstallOnJob(const JobContext& job, const ChosenComponent& chosen, Date dat
     if (moves && !AskMoveToCurrentRig(chosen.id)) return false;
     if (!CheckOwner(job.rigID, chosen.id)) return false;
   }
-  const bool written = Trap(u"Sub InstallComponentGuts"_s, [&] {
-    Bracket bracket;
+  const bool written = Operation(u"Sub InstallComponentGuts"_s, [&] {
     if (isNew) SetComponentOwner(chosen.id, RigOwner(job.rigID));
     if (moves) AddRemovalTask(chosen.id, oldRig, date, job.locationID);
     if (current) {
@@ -106,9 +105,7 @@ bool InstallOnJob(const JobContext& job, const ChosenComponent& chosen, Date dat
     AddJobComponent(job.jobID, chosen.id);
     AddGearLine(job, InstallTaskLibID, InstallLineName(chosen.id, job.rigID), chosen.id, date);
     CheckComponentType(chosen.id);
-    bracket.Close();
   });
-  ReloadGearScreens();
   return written;
 }
 

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "core/forms.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rig_types.h"
@@ -37,16 +36,12 @@ int JobComponentOfType(int jobID, int componentType) {
 }
 
 void AddJobComponent(int jobID, int componentID) {
-  Trap(u"Sub AddJobComponent"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset rows(u"tblJobComponents"_s);
-      rows.AddNew();
-      rows.Set(u"JobID", jobID);
-      rows.Set(u"ComponentID", componentID);
-      rows.Update();
-    }
-    bracket.Close();
+  Operation(u"Sub AddJobComponent"_s, [&] {
+    Recordset rows(u"tblJobComponents"_s);
+    rows.AddNew();
+    rows.Set(u"JobID", jobID);
+    rows.Set(u"ComponentID", componentID);
+    rows.Update();
   });
 }
 
@@ -56,11 +51,9 @@ void RemoveJobComponent(int jobID, int componentID) {
 }
 
 void SnapshotRig(int jobID, int rigID) {
-  Trap(u"Sub SnapshotRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub SnapshotRig"_s, [&] {
     for (const Recordset& component : Rows(u"Select * from tblComponents where Rigid = %1"_s.arg(rigID)))
       AddJobComponent(jobID, component[u"ID"].ToInt());
-    bracket.Close();
   });
 }
 
@@ -68,15 +61,9 @@ bool ComponentIsInGrid(int jobID, int componentID) { return ComponentsOfJob(jobI
 
 bool JobHasComponentType(int jobID, int componentType) { return JobComponentOfType(jobID, componentType) != 0; }
 
-void ReloadGearScreens() {
-  Forms::ReloadIfLoaded(u"frmGetRig"_s);
-  ReloadDueDates();
-}
-
 bool JobMatchesRig(int jobID, int rigID, QString& differences) {
   bool matches = true;
-  Trap(u"Function JobMatchesRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function JobMatchesRig"_s, [&] {
     const int rigType = RigType(rigID);
     if (rigType != 0) {
       for (int type : ComponentTypesOfRigType(rigType)) {
@@ -85,7 +72,6 @@ bool JobMatchesRig(int jobID, int rigID, QString& differences) {
         differences += u'\n' + ComponentTypeName(type);
       }
     }
-    bracket.Close();
   });
   return matches;
 }
@@ -97,8 +83,7 @@ bool RigComponentsCurrent(int jobID, int rigID) {
 
 QList<GearPlace> LoadJobGear(int jobID, int rigID) {
   QList<GearPlace> places;
-  Trap(u"Sub LoadJobGear"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadJobGear"_s, [&] {
     DeleteVanishedComponents(jobID);
     if (const int rigType = rigID == 0 ? 0 : RigType(rigID); rigType != 0) {
       for (int type : ComponentTypesOfRigType(rigType)) places.append({type, JobComponentOfType(jobID, type)});
@@ -107,7 +92,6 @@ QList<GearPlace> LoadJobGear(int jobID, int rigID) {
     }
     std::stable_sort(places.begin(), places.end(),
                      [](const GearPlace& a, const GearPlace& b) { return a.componentType < b.componentType; });
-    bracket.Close();
   });
   return places;
 }

@@ -33,6 +33,3 @@ struct GearPlace {
 /// The places of a job's gear in the order of their types: one to each type of its rig's type, or one to each component
 /// when there is no rig or no rig type. Rows whose component has gone are deleted on the spot.
 QList<GearPlace> LoadJobGear(int jobID, int rigID);
-
-/// Gear has moved between rigs: the open screens that show what rigs are made of and when it falls due read it anew.
-void ReloadGearScreens();

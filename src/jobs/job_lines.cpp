@@ -2,7 +2,7 @@
 
 #include "core/format.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/people.h"
 #include "jobs/lines.h"
 
@@ -35,10 +35,8 @@ JobLine LineOf(const Recordset& row) {
 
 QList<JobLine> LinesFrom(const QString& statement) {
   QList<JobLine> lines;
-  Trap(u"Sub LoadTasksGrid"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadTasksGrid"_s, [&] {
     for (const Recordset& row : Rows(statement)) lines.append(LineOf(row));
-    bracket.Close();
   });
   return lines;
 }

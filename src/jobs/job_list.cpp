@@ -2,7 +2,7 @@
 
 #include "core/format.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/task_rules.h"
 
@@ -28,8 +28,7 @@ QString RowText(const Recordset& job, Status status, Date completed) {
 
 IdList LoadListJobs(const JobListFilter& filter) {
   IdList list;
-  Trap(u"Sub LoadListJobs"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadListJobs"_s, [&] {
     const QString whose =
         filter.customer == 0 ? QString() : u" where CustomerID = "_s + QString::number(filter.customer);
     for (const Recordset& job : Rows(u"Select * from tblJobs"_s + whose + u" order by DateStarted desc, ID DESC"_s)) {
@@ -39,7 +38,6 @@ IdList LoadListJobs(const JobListFilter& filter) {
       if (filter.taskLibID == 0 || TaskOnJob(id, filter.taskLibID))
         list.Add(RowText(job, filter.status, completed), id);
     }
-    bracket.Close();
   });
   return list;
 }

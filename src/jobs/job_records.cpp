@@ -1,7 +1,7 @@
 #include "jobs/job_records.h"
 
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -45,52 +45,39 @@ int LastJobID() { return GetValueFromTableBySQL(u"tblMisc"_s, u"LastJobID"_s).To
 
 QString GetInvoiceNumber(int jobID) {
   QString number;
-  Trap(u"Function GetInvoiceNumber"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset job(JobByID(jobID));
-      if (RecordsetHasRows(job)) {
-        number = job[u"InvoiceNumber"].ToText();
-        if (number.trimmed().isEmpty()) {
-          number = QString::number(jobID);
-          job.Set(u"InvoiceNumber", number);
-          job.Update();
-        }
+  Operation(u"Function GetInvoiceNumber"_s, [&] {
+    Recordset job(JobByID(jobID));
+    if (RecordsetHasRows(job)) {
+      number = job[u"InvoiceNumber"].ToText();
+      if (number.trimmed().isEmpty()) {
+        number = QString::number(jobID);
+        job.Set(u"InvoiceNumber", number);
+        job.Update();
       }
     }
-    bracket.Close();
   });
   return number;
 }
 
 void SetJobTitle(int jobID, const QString& title) {
-  Trap(u"Sub SetJobTitle"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset job(JobByID(jobID));
-      if (RecordsetHasRows(job)) {
-        job.Set(u"JobTitle", title.left(kJobTextLength));
-        if (job[u"InvoiceNumber"].ToText() == u"0"_s) job.Set(u"InvoiceNumber", QString::number(jobID));
-        job.Update();
-      }
+  Operation(u"Sub SetJobTitle"_s, [&] {
+    Recordset job(JobByID(jobID));
+    if (RecordsetHasRows(job)) {
+      job.Set(u"JobTitle", title.left(kJobTextLength));
+      if (job[u"InvoiceNumber"].ToText() == u"0"_s) job.Set(u"InvoiceNumber", QString::number(jobID));
+      job.Update();
     }
-    bracket.Close();
   });
 }
 
 bool JobTitleExists(const QString& title) {
   bool exists = false;
-  Trap(u"Function JobTitleExists"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset jobs(u"Select * from tblJobs"_s);
-      const QString wanted = title.trimmed().toLower();
-      if (RecordsetHasRows(jobs)) {
-        for (; !jobs.Eof() && !exists; jobs.MoveNext())
-          exists = jobs[u"JobTitle"].ToText().trimmed().toLower() == wanted;
-      }
+  Operation(u"Function JobTitleExists"_s, [&] {
+    Recordset jobs(u"Select * from tblJobs"_s);
+    const QString wanted = title.trimmed().toLower();
+    if (RecordsetHasRows(jobs)) {
+      for (; !jobs.Eof() && !exists; jobs.MoveNext()) exists = jobs[u"JobTitle"].ToText().trimmed().toLower() == wanted;
     }
-    bracket.Close();
   });
   return exists;
 }
@@ -99,13 +86,11 @@ int JobOfCustomerNamed(int customerID, const QString& name, int exceptJob) {
   int found = 0;
   const QString wanted = name.trimmed().toUpper();
   if (wanted.isEmpty()) return found;
-  Trap(u"Function CheckDuplicateName"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function CheckDuplicateName"_s, [&] {
     for (const Recordset& job : Rows(u"Select * from tblJobs where Customerid = %1"_s.arg(customerID))) {
       const int id = job[u"ID"].ToInt();
       if (found == 0 && id != exceptJob && job[u"JobTitle"].ToText().trimmed().toUpper() == wanted) found = id;
     }
-    bracket.Close();
   });
   return found;
 }
@@ -115,34 +100,26 @@ bool InvoiceNumberIsFree(const QString& number) {
 }
 
 void SetJobStatus(int jobID, bool complete, Date date) {
-  Trap(u"Sub SetJobStatus"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset job(u"Select * from tblJobs where Id = %1"_s.arg(jobID));
-      if (RecordsetHasRows(job)) {
-        job.Set(u"JobStatus", complete ? -1 : 0);
-        job.Set(u"DateCompleted", complete ? date : Date());
-        job.Update();
-      }
+  Operation(u"Sub SetJobStatus"_s, [&] {
+    Recordset job(u"Select * from tblJobs where Id = %1"_s.arg(jobID));
+    if (RecordsetHasRows(job)) {
+      job.Set(u"JobStatus", complete ? -1 : 0);
+      job.Set(u"DateCompleted", complete ? date : Date());
+      job.Update();
     }
-    bracket.Close();
   });
 }
 
 int PreviousJobID(int jobID, bool& noneLeft) {
   int id = jobID;
   noneLeft = true;
-  Trap(u"Function PreviousJobID"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset jobs(u"Select * from tblJobs where ID < %1 order by id"_s.arg(jobID));
-      noneLeft = !RecordsetHasRows(jobs);
-      if (!noneLeft) {
-        jobs.MoveLast();
-        id = jobs[u"ID"].ToInt();
-      }
+  Operation(u"Function PreviousJobID"_s, [&] {
+    Recordset jobs(u"Select * from tblJobs where ID < %1 order by id"_s.arg(jobID));
+    noneLeft = !RecordsetHasRows(jobs);
+    if (!noneLeft) {
+      jobs.MoveLast();
+      id = jobs[u"ID"].ToInt();
     }
-    bracket.Close();
   });
   return id;
 }
@@ -159,16 +136,12 @@ bool IsFirstJob(int jobID) {
 
 bool IsLastJob(int jobID) {
   bool isLast = false;
-  Trap(u"Function IsLastJob"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset jobs(u"select id from tblJobs order by ID"_s);
-      if (RecordsetHasRows(jobs)) {
-        jobs.MoveLast();
-        isLast = jobs[u"ID"].ToInt() == jobID;
-      }
+  Operation(u"Function IsLastJob"_s, [&] {
+    Recordset jobs(u"select id from tblJobs order by ID"_s);
+    if (RecordsetHasRows(jobs)) {
+      jobs.MoveLast();
+      isLast = jobs[u"ID"].ToInt() == jobID;
     }
-    bracket.Close();
   });
   return isLast;
 }

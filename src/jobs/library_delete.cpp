@@ -1,9 +1,8 @@
 #include "jobs/library_delete.h"
 
-#include "core/forms.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "schedule/task_library.h"
 
 using namespace Qt::StringLiterals;
@@ -42,8 +41,7 @@ void DeleteTaskType(int taskLibID, bool Ask, bool& cancelled) {
   cancelled = true;
   const QString usage = Ask ? TaskTypeUsage(taskLibID) : QString();
   if (!usage.isEmpty() && !AskYes(usage, u"Delete %1?"_s.arg(TaskLibName(taskLibID)))) return;
-  cancelled = !Trap(u"Sub DeleteTaskType"_s, [&] {
-    Bracket bracket;
+  cancelled = !Operation(u"Sub DeleteTaskType"_s, [&] {
     DeleteRecordsFromTable(u"tblTaskLib"_s, u"ID"_s, taskLibID);
     for (const QString& table : {u"tblTaskLibComponentTypes"_s, u"tblTaskLibParts"_s, u"tblSchedules"_s})
       DeleteRecordsFromTable(table, u"TaskLibID"_s, taskLibID);
@@ -53,10 +51,7 @@ void DeleteTaskType(int taskLibID, bool Ask, bool& cancelled) {
       for (const QString& table : {u"tblTaskComponents"_s, u"tblSchedules"_s})
         DeleteRecordsFromTable(table, u"TaskID"_s, taskID);
     }
-    bracket.Close();
   });
-  Forms::ReloadIfLoaded(u"frmJob"_s);
-  Forms::ReloadSchedules();
 }
 
 bool DeleteTaskTypeOfForm(int taskLibID) {

@@ -3,7 +3,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;
@@ -169,21 +169,16 @@ template <typename Save>
 bool SaveEntry(const QString& routine, int& taskLibID, Save&& save) {
   int id = taskLibID;
   bool saved = false;
-  Trap(routine, [&] {
-    Bracket bracket;
-    saved = save(id);
-    bracket.Close();
-  });
-  if (saved) taskLibID = id;
-  return saved;
+  const bool written = Operation(routine, [&] { saved = save(id); }) && saved;
+  if (written) taskLibID = id;
+  return written;
 }
 
 }  // namespace
 
 bool LoadTaskType(int taskLibID, TaskTypeEntry& entry) {
   bool found = false;
-  Trap(u"Function LoadTaskType"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LoadTaskType"_s, [&] {
     for (const Recordset& row : Rows(EntryStatement(taskLibID))) {
       found = true;
       entry = {.name = row[u"Name"].ToText(),
@@ -200,16 +195,17 @@ bool LoadTaskType(int taskLibID, TaskTypeEntry& entry) {
     entry.rigTypes = TiedIDs(u"tblTaskLibRigType"_s, u"RigType"_s, taskLibID);
     entry.componentTypes = RequiredComponentTypes(taskLibID);
     entry.parts = TiedIDs(u"tblTaskLibParts"_s, u"PartID"_s, taskLibID);
-    bracket.Close();
   });
   return found;
 }
 
 bool LoadEventType(int taskLibID, EventTypeEntry& entry) {
-  const Bracket bracket;
-  if (!TaskLibExists(taskLibID)) return false;
-  entry = {TaskLibName(taskLibID), TaskLibAllowMultiple(taskLibID), RequiredComponentTypes(taskLibID)};
-  return true;
+  bool found = false;
+  Operation(u"Function LoadEventType"_s, [&] {
+    found = TaskLibExists(taskLibID);
+    if (found) entry = {TaskLibName(taskLibID), TaskLibAllowMultiple(taskLibID), RequiredComponentTypes(taskLibID)};
+  });
+  return found;
 }
 
 EntrySaved SaveTaskType(const TaskTypeEntry& entry, int& taskLibID) {
@@ -253,14 +249,12 @@ void AddNewRecordToTblTaskLibComponentTypes(int MyType, int TaskLibID) {
 
 IdList LoadTasksByComponentType(int componentType, bool events) {
   IdList entries;
-  Trap(u"Function LoadTasksByComponentType"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LoadTasksByComponentType"_s, [&] {
     for (const Recordset& row :
          Rows(u"Select TaskLibID from tblTaskLibComponentTypes where ComponentTypeID = %1"_s.arg(componentType))) {
       const int id = row[u"TaskLibID"].ToInt();
       if (TaskLibExists(id) && TaskLibIsEvent(id) == events) entries.Add(TaskLibName(id), id);
     }
-    bracket.Close();
   });
   return entries;
 }

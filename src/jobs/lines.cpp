@@ -2,7 +2,7 @@
 
 #include "core/default_rows.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 #include "jobs/job_components.h"
 #include "jobs/job_records.h"
@@ -48,14 +48,16 @@ JobContext WithRigger(JobContext job) {
 }  // namespace
 
 JobContext JobContextOf(int jobID) {
-  Bracket bracket;
-  return {jobID, JobCustomerID(jobID), JobSystemID(jobID), JobLocationID(jobID), JobRiggerID(jobID)};
+  JobContext job{.jobID = jobID};
+  Operation(u"Function JobContextOf"_s, [&] {
+    job = {jobID, JobCustomerID(jobID), JobSystemID(jobID), JobLocationID(jobID), JobRiggerID(jobID)};
+  });
+  return job;
 }
 
 void AddTaskToJob(const JobContext& job, int itemID, bool isPart, Date date, int& taskID) {
   taskID = 0;
-  Trap(u"Sub AddTaskToJob"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub AddTaskToJob"_s, [&] {
     const bool isEvent = !isPart && TaskLibIsEvent(itemID);
     {
       Recordset tasks(u"tblTasks"_s);
@@ -75,31 +77,25 @@ void AddTaskToJob(const JobContext& job, int itemID, bool isPart, Date date, int
       tasks.Update();
       taskID = tasks[u"ID"].ToInt();
     }
-    bracket.Close();
   });
 }
 
 void AddCustomLine(const JobContext& job, const CustomLine& line, Date date, int& taskID) {
   taskID = 0;
-  Trap(u"Sub AddCustomLine"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset tasks(u"tblTasks"_s);
-      tasks.AddNew();
-      WriteContext(tasks, job, date);
-      WriteCompletion(tasks, line.isEvent, date);
-      WriteWork(tasks, 0, line.name, line.price, Money(), line.logBook);
-      tasks.Set(u"PartID", line.partID);
-      tasks.Update();
-      taskID = tasks[u"ID"].ToInt();
-    }
-    bracket.Close();
+  Operation(u"Sub AddCustomLine"_s, [&] {
+    Recordset tasks(u"tblTasks"_s);
+    tasks.AddNew();
+    WriteContext(tasks, job, date);
+    WriteCompletion(tasks, line.isEvent, date);
+    WriteWork(tasks, 0, line.name, line.price, Money(), line.logBook);
+    tasks.Set(u"PartID", line.partID);
+    tasks.Update();
+    taskID = tasks[u"ID"].ToInt();
   });
 }
 
 void AddLibraryParts(const JobContext& job, int taskLibID, Date date) {
-  Trap(u"Sub AddLibraryParts"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub AddLibraryParts"_s, [&] {
     for (Recordset& part : Rows(u"Select * from tblTaskLibParts where TaskLibID = %1"_s.arg(taskLibID))) {
       const int partID = part[u"PartID"].ToInt();
       int taskID = 0;
@@ -108,34 +104,27 @@ void AddLibraryParts(const JobContext& job, int taskLibID, Date date) {
       else
         part.Delete();
     }
-    bracket.Close();
   });
 }
 
 void AddComponentsToTask(int taskLibID, int taskID, int jobID) {
-  Trap(u"Sub AddComponentsToTask"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub AddComponentsToTask"_s, [&] {
     QList<int> types;
     GetComponentTypesForTask(types, taskLibID);
     const bool isEvent = TaskLibIsEvent(taskLibID);
     for (int type : types) AddTaskComponent(taskID, JobComponentOfType(jobID, type), isEvent);
-    bracket.Close();
   });
 }
 
 void AddTaskComponent(int taskID, int componentID, bool complete) {
   if (componentID == 0) return;
-  Trap(u"Sub AddTaskComponent"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset rows(u"tblTaskComponents"_s);
-      rows.AddNew();
-      rows.Set(u"TaskID", taskID);
-      rows.Set(u"CompID", componentID);
-      rows.Set(u"Complete", complete);
-      rows.Update();
-    }
-    bracket.Close();
+  Operation(u"Sub AddTaskComponent"_s, [&] {
+    Recordset rows(u"tblTaskComponents"_s);
+    rows.AddNew();
+    rows.Set(u"TaskID", taskID);
+    rows.Set(u"CompID", componentID);
+    rows.Set(u"Complete", complete);
+    rows.Update();
   });
 }
 

@@ -1,7 +1,7 @@
 #include "core/clock.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/people.h"
 #include "jobs/job_components.h"
 #include "jobs/job_records.h"
@@ -51,7 +51,7 @@ int ValidDefaultRigger() {
 void CreateNewJob(const QString& title, int customerID, int rigID, int componentID, int& jobID, int riggerID,
                   int locationID, Date date) {
   jobID = 0;
-  Trap(u"Sub CreateNewJob"_s, [&] {
+  const bool written = Operation(u"Sub CreateNewJob"_s, [&] {
     const int rigger = riggerID != 0 ? riggerID : ValidDefaultRigger();
     if (rigger == 0) {
       MsgBox(Lines({u"Please note:"_s, u"There are no riggers listed in the database.  "_s,
@@ -59,9 +59,8 @@ void CreateNewJob(const QString& title, int customerID, int rigID, int component
                     u"customer database (just check the RIGGER check box)."_s}),
              u"No rigger found"_s);
     }
-    Bracket bracket;
     jobID = AddJobRow(title, customerID, rigID, componentID, rigger, locationID, date);
     TakeSnapshot(jobID, rigID, componentID);
-    bracket.Close();
   });
+  if (!written) jobID = 0;
 }

@@ -2,7 +2,7 @@
 
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "core/value.h"
 #include "gear/locations.h"
 #include "jobs/completion.h"
@@ -15,8 +15,7 @@ using namespace Qt::StringLiterals;
 
 int QuickFix(int rigID, int customerID, int taskLibID, Date date) {
   int jobID = 0;
-  Trap(u"Sub QuickFix"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub QuickFix"_s, [&] {
     CreateNewJob(Value(date).ToText() + u" - "_s + TaskLibName(taskLibID), customerID, rigID, 0, jobID,
                  ValidDefaultRigger(), DefaultLocation(), date);
     int taskID = 0;
@@ -26,7 +25,6 @@ int QuickFix(int rigID, int customerID, int taskLibID, Date date) {
     SetJobStatus(jobID, true, date);
     SetTaskStatus(taskID, true, date);
     UpdateSchedule(taskLibID, rigID, GetThisComponentID(taskID));
-    bracket.Close();
   });
   return jobID;
 }

@@ -5,7 +5,7 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rigs.h"
@@ -30,14 +30,11 @@ Answer AskCancelInstallation() {
 
 bool CancelInstallation(const JobContext& job, int componentID, int taskID) {
   const bool leavesRig = RigComponentsCurrent(job.jobID, job.rigID) && ComponentRig(componentID) == job.rigID;
-  const bool written = Trap(u"Sub CancelInstallation"_s, [&] {
-    Bracket bracket;
+  const bool written = Operation(u"Sub CancelInstallation"_s, [&] {
     RemoveJobComponent(job.jobID, componentID);
     if (leavesRig) SetComponentRig(componentID, 0);
     DeleteTask(taskID);
-    bracket.Close();
   });
-  ReloadGearScreens();
   return written;
 }
 
@@ -124,16 +121,13 @@ bool RemoveFromJob(const JobContext& job, int componentID, Date date) {
   const bool leavesRig = isInRig && (current || AskRemoveFromRigToo());
   int repack = 0;
   if (leavesRig && current && IsHalfOfRepack(type)) GetRepackDue(job.rigID, repack);
-  const bool written = Trap(u"Sub RemoveComponent"_s, [&] {
-    Bracket bracket;
+  const bool written = Operation(u"Sub RemoveComponent"_s, [&] {
     RemoveJobComponent(job.jobID, componentID);
     if (rigExists)
       AddGearLine(job, RemoveTaskLibID, RemovalOf(componentID) + u" from "_s + RigName(job.rigID), componentID, date);
     if (leavesRig) SetComponentRig(componentID, 0);
     if (repack != 0) DeleteSchedule(job.rigID, RepackTaskLibID, 0);
-    bracket.Close();
   });
-  ReloadGearScreens();
   if (written && repack != 0)
     MsgBox(u"Note: the reserve repack schedule for this rig has been deleted"_s, u"Reserve repack date removed"_s);
   return written;

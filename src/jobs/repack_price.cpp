@@ -4,7 +4,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rig_types.h"
@@ -24,16 +24,12 @@ Money PriceFrom(const QString& statement, int taskLibID) {
 }
 
 void SavePrice(const QString& table, const QString& key, int id, Money price) {
-  Trap(u"Sub SavePrice"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset rows(u"Select * from %1 where %2 = %3"_s.arg(table, key).arg(id));
-      if (!RecordsetHasRows(rows)) rows.AddNew();
-      rows.Set(key, id);
-      rows.Set(u"Price", price);
-      rows.Update();
-    }
-    bracket.Close();
+  Operation(u"Sub SavePrice"_s, [&] {
+    Recordset rows(u"Select * from %1 where %2 = %3"_s.arg(table, key).arg(id));
+    if (!RecordsetHasRows(rows)) rows.AddNew();
+    rows.Set(key, id);
+    rows.Set(u"Price", price);
+    rows.Update();
   });
 }
 
@@ -68,13 +64,16 @@ Money GetPriceByType(int typeID, int taskLibID) {
 }
 
 Money GetRepackPrice(int taskLibID, int rigID) {
-  Bracket bracket;
-  const int model = ComponentModel(ComponentOfTypeInRig(rigID, kContainer));
-  if (const Money price = GetPriceByModel(model, taskLibID); !price.IsZero()) return price;
-  if (const Money price = GetPriceByType(RigType(rigID), taskLibID); !price.IsZero()) return price;
-  if (taskLibID == RepackTaskLibID) return TaskLibFlatRate(RepackTaskLibID);
-  MsgBox(u"you shouldn't be here"_s);
-  return {};
+  Money price;
+  Operation(u"Function GetRepackPrice"_s, [&] {
+    price = GetPriceByModel(ComponentModel(ComponentOfTypeInRig(rigID, kContainer)), taskLibID);
+    if (price.IsZero()) price = GetPriceByType(RigType(rigID), taskLibID);
+    if (price.IsZero() && taskLibID == RepackTaskLibID)
+      price = TaskLibFlatRate(RepackTaskLibID);
+    else if (price.IsZero())
+      MsgBox(u"you shouldn't be here"_s);
+  });
+  return price;
 }
 
 void SaveByModel(int modelID, Money price) { SavePrice(u"tblRepackByModel"_s, u"ModelID"_s, modelID, price); }
@@ -83,24 +82,20 @@ void SaveByType(int typeID, Money price) { SavePrice(u"tblRepackByType"_s, u"Typ
 
 QString RepackPriceLabel() {
   QString label;
-  Trap(u"Function RepackPriceLabel"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function RepackPriceLabel"_s, [&] {
     const Money usual = TaskLibFlatRate(RepackTaskLibID);
     const bool varies = HasOtherPrice(u"tblRepackByModel"_s, usual) || HasOtherPrice(u"tblRepackByType"_s, usual);
     label = varies ? u"(cost varies)"_s : PriceText(usual);
-    bracket.Close();
   });
   return label;
 }
 
 IdList LoadRepackPriceList() {
   IdList list;
-  Trap(u"Sub LoadRepackPriceList"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadRepackPriceList"_s, [&] {
     list.Add(TaskLibName(RepackTaskLibID) + u"  "_s + RepackPriceLabel(), RepackTaskLibID);
     AddPrices(list, u"tblRepackByModel"_s, u"ModelID", ModelName);
     AddPrices(list, u"tblRepackByType"_s, u"TypeID", RigTypeName);
-    bracket.Close();
   });
   return list;
 }

@@ -2,6 +2,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/trap.h"
 #include "jobs/repack_price.h"
 #include "schedule/task_library.h"
@@ -40,12 +41,10 @@ void RequireContainerAndReserve(int taskLibID) {
 int RepackCycle() { return GetValueFromTableBySQL(u"Select * from tblMisc"_s, u"RepackCycle"_s).ToInt(); }
 
 void SetRepackCycle(int days) {
-  Trap(u"Sub SetRepackCycle"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub SetRepackCycle"_s, [&] {
     UpdateTable(u"tblTaskLib"_s, u"IntervalNumber"_s, days, u"ID"_s, RepackTaskLibID);
     if (GetNumberRecordsInTable(u"tblMisc"_s) == 0) AddMiscRow(days);
     UpdateTableBySQL(u"update tblMisc set RepackCycle = %1"_s.arg(days));
-    bracket.Close();
   });
 }
 
@@ -63,46 +62,36 @@ void AskRepackCycle() {
 }
 
 void CheckIR(Money fee) {
-  Trap(u"Sub CheckIR"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset tasks(u"Select * from tblTaskLib where ID = %1"_s.arg(RepackTaskLibID));
-      const bool isNew = !RecordsetHasRows(tasks);
-      if (isNew) {
-        MsgBox(u"No repack task in library"_s, u"Sub CheckIR(IRfee As Currency)"_s);
-        tasks.AddNew();
-      }
-      WriteRepackEntry(tasks, fee);
-      if (isNew) RequireContainerAndReserve(tasks[u"ID"].ToInt());
+  Operation(u"Sub CheckIR"_s, [&] {
+    Recordset tasks(u"Select * from tblTaskLib where ID = %1"_s.arg(RepackTaskLibID));
+    const bool isNew = !RecordsetHasRows(tasks);
+    if (isNew) {
+      MsgBox(u"No repack task in library"_s, u"Sub CheckIR(IRfee As Currency)"_s);
+      tasks.AddNew();
     }
-    bracket.Close();
+    WriteRepackEntry(tasks, fee);
+    if (isNew) RequireContainerAndReserve(tasks[u"ID"].ToInt());
   });
 }
 
 void CreateRepackTaskType(int& taskLibID) {
   taskLibID = 0;
-  Trap(u"Sub CreateRepackTaskType"_s, [&] {
+  const bool written = Operation(u"Sub CreateRepackTaskType"_s, [&] {
     MsgBox(u"repack not found in task library"_s, u"Sub CreateRepackTaskType(TaskLibID As Long)"_s);
-    Bracket bracket;
-    {
-      Recordset tasks(u"tblTaskLib"_s);
-      tasks.AddNew();
-      WriteRepackEntry(tasks, Money());
-      taskLibID = tasks[u"ID"].ToInt();
-    }
-    bracket.Close();
+    Recordset tasks(u"tblTaskLib"_s);
+    tasks.AddNew();
+    WriteRepackEntry(tasks, Money());
+    taskLibID = tasks[u"ID"].ToInt();
   });
+  if (!written) taskLibID = 0;
 }
 
 void RepairRepackTaskType() {
-  Trap(u"Sub RepairRepackTaskType"_s, [] {
+  int taskLibID = 0;
+  const bool written = Operation(u"Sub RepairRepackTaskType"_s, [&] {
     if (TaskLibExists(RepackTaskLibID)) return;
-    int taskLibID = 0;
     CreateRepackTaskType(taskLibID);
-    if (taskLibID == 0) return;
-    Bracket bracket;
-    RequireContainerAndReserve(taskLibID);
-    bracket.Close();
-    MsgBox(u"Reserve repack added to task library"_s, u"New task type added"_s);
+    if (taskLibID != 0) RequireContainerAndReserve(taskLibID);
   });
+  if (written && taskLibID != 0) MsgBox(u"Reserve repack added to task library"_s, u"New task type added"_s);
 }

@@ -6,7 +6,7 @@
 
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
@@ -33,33 +33,27 @@ RigOfComponent RememberRigs(const QList<int>& components) {
 
 /// Puts all gear of the job into the rig, and the rig on the job.
 void UpdateGridComponents(const JobContext& job, const QList<int>& components, int rigID) {
-  Trap(u"Sub UpdateGridComponents"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub UpdateGridComponents"_s, [&] {
     for (int component : components) SetComponentRig(component, rigID);
     SetJobSystemID(job.jobID, rigID);
-    bracket.Close();
   });
 }
 
 /// Takes a rig under construction back.
 void RestoreComponentRigs(const JobContext& job, const RigOfComponent& rigs, int newRig) {
-  Trap(u"Sub RestoreComponentRigs"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub RestoreComponentRigs"_s, [&] {
     for (auto it = rigs.cbegin(); it != rigs.cend(); ++it) SetComponentRig(it.key(), it.value());
     SetJobSystemID(job.jobID, job.rigID);
     DeleteRigRow(newRig);
-    bracket.Close();
   });
 }
 
 /// The rig takes its name, and the rigs that lost gear get their lines.
 void FinishRig(int rigID, const QString& name, const RigOfComponent& rigs, const JobContext& job, Date date) {
-  Trap(u"Sub FinishRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub FinishRig"_s, [&] {
     SetRigName(rigID, name);
     for (auto it = rigs.cbegin(); it != rigs.cend(); ++it)
       if (RigExists(it.value())) AddRemovalTask(it.key(), it.value(), date, job.locationID);
-    bracket.Close();
   });
 }
 
@@ -107,12 +101,10 @@ RigOfOnlyComponent AskRigOfOnlyComponent(int jobID) {
 }
 
 void TakeRig(int jobID, int rigID) {
-  Trap(u"Sub TakeRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub TakeRig"_s, [&] {
     SetJobSystemID(jobID, rigID);
     DeleteRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID);
     SnapshotRig(jobID, rigID);
-    bracket.Close();
   });
 }
 
@@ -158,7 +150,9 @@ QString AskNameOfNewRig(int owner) {
   }
 }
 
-int BuildRigFromJob(const JobContext& job, int rigType, Date date) {
+namespace {
+
+int BuildRig(const JobContext& job, int rigType, Date date) {
   const QList<int> components = ComponentsOfJob(job.jobID);
   const RigOfComponent rigs = RememberRigs(components);
   const int rig = CreateRig(job.customerID, rigType, kTempRigName);
@@ -178,8 +172,15 @@ int BuildRigFromJob(const JobContext& job, int rigType, Date date) {
     return 0;
   }
   FinishRig(rig, name, rigs, job, date);
-  ReloadGearScreens();
   return rig;
+}
+
+}  // namespace
+
+int BuildRigFromJob(const JobContext& job, int rigType, Date date) {
+  int rig = 0;
+  const bool written = Operation(u"Sub BuildRigFromJob"_s, [&] { rig = BuildRig(job, rigType, date); });
+  return written ? rig : 0;
 }
 
 void TellRigCreated(int rigID) {

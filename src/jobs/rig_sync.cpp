@@ -2,7 +2,7 @@
 
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
@@ -50,12 +50,10 @@ bool MayTake(int componentID, int rigID) {
 
 /// Component 0 leaves the place empty.
 void PutIntoRig(int componentID, int type, int rigID) {
-  Trap(u"Sub PutIntoRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub PutIntoRig"_s, [&] {
     FreePlace(rigID, type);
     UpdateTableBySQL(
         u"Update tblComponents set rigid = %1 where typeid = %2 and id = %3"_s.arg(rigID).arg(type).arg(componentID));
-    bracket.Close();
   });
 }
 
@@ -63,11 +61,11 @@ void PutIntoRig(int componentID, int type, int rigID) {
 
 bool UpdateRigFromJob(int jobID, int rigID) {
   if (!MayUpdate(jobID, rigID)) return false;
-  for (int type : ComponentTypesOfRigType(RigType(rigID))) {
-    const int component = JobComponentOfType(jobID, type);
-    const bool isInRig = component != 0 && ComponentRig(component) == rigID;
-    if (!isInRig && MayTake(component, rigID)) PutIntoRig(component, type, rigID);
-  }
-  ReloadGearScreens();
-  return true;
+  return Operation(u"Sub UpdateRigFromJob"_s, [&] {
+    for (int type : ComponentTypesOfRigType(RigType(rigID))) {
+      const int component = JobComponentOfType(jobID, type);
+      const bool isInRig = component != 0 && ComponentRig(component) == rigID;
+      if (!isInRig && MayTake(component, rigID)) PutIntoRig(component, type, rigID);
+    }
+  });
 }

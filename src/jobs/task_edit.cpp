@@ -5,7 +5,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
 #include "schedule/schedule.h"
@@ -47,8 +47,7 @@ void UpdateTask(int taskID, const TaskEntry& entry, int& taskLibID, int& rigID) 
 
 bool LoadTaskEntry(int taskID, TaskEntry& entry) {
   bool found = false;
-  Trap(u"Sub LoadTaskEntry"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadTaskEntry"_s, [&] {
     for (const Recordset& task : Rows(Statement(taskID))) {
       entry = {task[u"TaskName"].ToText(),
                Format(task[u"FlatRate"].ToMoney(), u"#######0.00"_s),
@@ -58,7 +57,6 @@ bool LoadTaskEntry(int taskID, TaskEntry& entry) {
                DateText(task[u"DateTaskCompleted"].ToDate())};
       found = true;
     }
-    bracket.Close();
   });
   return found;
 }
@@ -88,12 +86,10 @@ bool AuditFailed(int taskID, TaskEntry& entry) {
 
 bool SaveTaskEntry(int taskID, TaskEntry& entry) {
   if (AuditFailed(taskID, entry)) return false;
-  return Trap(u"Sub UpdateTask"_s, [&] {
-    Bracket bracket;
+  return Operation(u"Sub UpdateTask"_s, [&] {
     int taskLibID = 0;
     int rigID = 0;
     UpdateTask(taskID, entry, taskLibID, rigID);
     UpdateSchedule(taskLibID, rigID, 0);
-    bracket.Close();
   });
 }

@@ -4,8 +4,8 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/text.h"
-#include "core/trap.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rigs.h"
@@ -88,8 +88,7 @@ LibraryOutcome AddLibraryTask(const JobContext& job, int taskLibID, Date date, b
   if (taskLibID == RemoveTaskLibID) return LibraryOutcome::Remove;
   if (taskLibID < 1) return LibraryOutcome::Refused;
   auto outcome = LibraryOutcome::Refused;
-  Trap(u"Sub GetLibraryTask"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub GetLibraryTask"_s, [&] {
     int taskID = 0;
     if (MayStandOnJob(job, taskLibID)) AddTaskToJob(job, taskLibID, false, date, taskID);
     if (taskID != 0) {
@@ -97,7 +96,6 @@ LibraryOutcome AddLibraryTask(const JobContext& job, int taskLibID, Date date, b
       if (TaskRequiresParts(taskLibID)) AddLibraryParts(job, taskLibID, date);
       outcome = LibraryOutcome::Added;
     }
-    bracket.Close();
   });
   if (outcome == LibraryOutcome::Added && taskLibID == RepackTaskLibID && !rigComponentsCurrent) {
     MsgBox(Lines({u"Please note:"_s, u"This repack entry will not show up on the schedule."_s,

@@ -6,6 +6,7 @@
 #include "core/files.h"
 #include "core/store/access.h"
 #include "core/store/database.h"
+#include "core/store/operation.h"
 #include "dbcare/check_fields.h"
 #include "gear/location_rules.h"
 #include "gear/models_file.h"
@@ -57,18 +58,18 @@ void MakeSampleLoft(Date today) {
   std::mt19937 random(20060102);
   const Date start = today - kYears * 365;
   MakeDataFolder();
-  Bracket bracket;  // one write to the disk for all of it
-  SetClock(start);
-  CheckAllFields(false);
-  CreateDefaultRows();
-  CheckModelsFile();
-  SetRepackCycle(180);
-  WriteAddress(u"Fairhaven Rigging Loft\n1 Airport Road\nFairhaven, CA 92599"_s);
-  const QList<int> people = AddPeople();
-  SampleShop shop{people.first(kSampleRiggers), AddLocations()};
-  AddSampleLibrary(shop);
-  const QList<SampleRig> rigs = AddSampleGear(people.mid(kSampleRiggers), start, random);
-  AddSampleHistory(rigs);
-  AddSampleJobs(rigs, shop, start, today, random);
-  bracket.Close();
+  Operation(u"Sub MakeSampleLoft"_s, [&] {
+    SetClock(start);
+    CheckAllFields(false);
+    CreateDefaultRows();
+    CheckModelsFile();
+    SetRepackCycle(180);
+    WriteAddress(u"Fairhaven Rigging Loft\n1 Airport Road\nFairhaven, CA 92599"_s);
+    const QList<int> people = AddPeople();
+    SampleShop shop{people.first(kSampleRiggers), AddLocations()};
+    AddSampleLibrary(shop);
+    const QList<SampleRig> rigs = AddSampleGear(people.mid(kSampleRiggers), start, random);
+    AddSampleHistory(rigs);
+    AddSampleJobs(rigs, shop, start, today, random);
+  });
 }

@@ -3,7 +3,7 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/rigs.h"
 
 using namespace Qt::StringLiterals;
@@ -46,8 +46,7 @@ void ReadCompletions(const QString& condition, Take&& take) {
 bool TaskMatchesRig(int taskID, int rigID, int taskLibID) {
   if (rigID == 0) MsgBox(u"rigID = 0. this shouldn't be"_s);
   bool matches = true;
-  Trap(u"Function TaskMatchesRig"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function TaskMatchesRig"_s, [&] {
     const int count = GetNumberRecords(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, taskLibID);
     if (count == 0 || count == 2) {
       if (taskID == 0) MsgBox(u"taskid = 0"_s);
@@ -57,7 +56,6 @@ bool TaskMatchesRig(int taskID, int rigID, int taskLibID) {
     } else if (count != 1) {
       MsgBox(QString::number(count));
     }
-    bracket.Close();
   });
   return matches;
 }
@@ -65,34 +63,28 @@ bool TaskMatchesRig(int taskID, int rigID, int taskLibID) {
 Date LastCompletionForRig(int rigID, int taskLibID, int& taskID) {
   Date date;
   taskID = 0;
-  Trap(u"Function LastCompletionForRig"_s, [&] {
-    Bracket bracket;
-    {
-      Recordset tasks(
-          u"Select * from tblTasks where SystemID = %1 and TaskLibID = %2 and status = -1 "
-          u"order by DateTaskCompleted"_s.arg(rigID)
-              .arg(taskLibID));
-      if (RecordsetHasRows(tasks)) {
-        for (tasks.MoveLast(); !tasks.Bof(); tasks.MovePrevious()) {
-          const int id = tasks[u"ID"].ToInt();
-          if (!TaskMatchesRig(id, rigID, taskLibID)) continue;
-          date = tasks[u"DateTaskCompleted"].ToDate();
-          taskID = id;
-          break;
-        }
+  Operation(u"Function LastCompletionForRig"_s, [&] {
+    Recordset tasks(
+        u"Select * from tblTasks where SystemID = %1 and TaskLibID = %2 and status = -1 "
+        u"order by DateTaskCompleted"_s.arg(rigID)
+            .arg(taskLibID));
+    if (RecordsetHasRows(tasks)) {
+      for (tasks.MoveLast(); !tasks.Bof(); tasks.MovePrevious()) {
+        const int id = tasks[u"ID"].ToInt();
+        if (!TaskMatchesRig(id, rigID, taskLibID)) continue;
+        date = tasks[u"DateTaskCompleted"].ToDate();
+        taskID = id;
+        break;
       }
     }
-    bracket.Close();
   });
   return date;
 }
 
 QHash<int, QList<Completion>> AllCompletions() {
   QHash<int, QList<Completion>> completions;
-  Trap(u"Function AllCompletions"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function AllCompletions"_s, [&] {
     ReadCompletions(QString(), [&](int component, const Completion& done) { completions[component].append(done); });
-    bracket.Close();
   });
   return completions;
 }
@@ -106,13 +98,11 @@ Completion LatestOf(const QList<Completion>& completions, int taskLibID) {
 
 Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
   Completion latest;
-  Trap(u"Function LastCompletionForComponent"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LastCompletionForComponent"_s, [&] {
     ReadCompletions(u" and tblTaskComponents.CompID = %1 and tblTasks.TaskLibID = %2"_s.arg(componentID).arg(taskLibID),
                     [&](int, const Completion& done) {
                       if (IsLater(done, latest)) latest = done;
                     });
-    bracket.Close();
   });
   taskID = latest.taskID;
   return latest.date;
@@ -122,8 +112,7 @@ Date LastRepackOfPair(int containerID, int reserveID, int& taskID) {
   Date date;
   taskID = 0;
   if (containerID == 0) return date;
-  Trap(u"Function LastRepackOfPair"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function LastRepackOfPair"_s, [&] {
     for (const Recordset& row : Rows(u"Select * from tblTaskComponents where CompID = %1"_s.arg(containerID))) {
       const int id = row[u"TaskID"].ToInt();
       const Date done = DateOfRepack(id);
@@ -131,7 +120,6 @@ Date LastRepackOfPair(int containerID, int reserveID, int& taskID) {
       date = done;
       taskID = id;
     }
-    bracket.Close();
   });
   return date;
 }

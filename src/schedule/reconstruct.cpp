@@ -3,7 +3,7 @@
 #include "core/default_rows.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "schedule/completions.h"
 #include "schedule/schedule.h"
 
@@ -41,8 +41,7 @@ void AddRowsOf(const Recordset& component, const QList<Completion>& completions,
 }  // namespace
 
 void ReconstructSchedules() {
-  Trap(u"Sub ReconstructSchedules"_s, [] {
-    Bracket bracket;
+  Operation(u"Sub ReconstructSchedules"_s, [] {
     const QList<Entry> entries = ScheduledEntries();
     DeleteAllRecords(u"tblSchedules"_s, false);
     const QHash<int, QList<Completion>> completions = AllCompletions();
@@ -50,14 +49,12 @@ void ReconstructSchedules() {
       const auto found = completions.constFind(component[u"ID"].ToInt());
       if (found != completions.constEnd()) AddRowsOf(component, *found, entries);
     }
-    bracket.Close();
   });
 }
 
 void AuditScheduleTaskLib() {
-  Trap(u"Sub AuditScheduleTaskLib"_s, [] {
-    int updates = 0;
-    Bracket bracket;
+  int updates = 0;
+  const bool written = Operation(u"Sub AuditScheduleTaskLib"_s, [&] {
     for (Recordset& row : Rows(u"Select * from tblSchedules"_s)) {
       const Value entry = GetValueFromTable(u"tblTasks"_s, u"ID"_s, row[u"TaskID"].ToInt(), u"TaskLibID"_s);
       if (entry.IsEmpty() || entry.ToInt() == row[u"TaskLibID"].ToInt()) continue;
@@ -65,10 +62,10 @@ void AuditScheduleTaskLib() {
       row.Update();
       ++updates;
     }
-    bracket.Close();
-    QString message = u"%1 updates were performed"_s.arg(updates);
-    if (updates == 0) message = u"No changes were needed"_s;
-    if (updates == 1) message = u"1 update was performed"_s;
-    MsgBox(message, u"Audit complete"_s);
   });
+  if (!written) return;
+  QString message = u"%1 updates were performed"_s.arg(updates);
+  if (updates == 0) message = u"No changes were needed"_s;
+  if (updates == 1) message = u"1 update was performed"_s;
+  MsgBox(message, u"Audit complete"_s);
 }

@@ -6,7 +6,7 @@
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rigs.h"
@@ -114,41 +114,35 @@ DueMark DueMarkOf(Date due) {
 
 QList<RigAuditRow> LoadRigAudit(int rigID) {
   QList<RigAuditRow> rows;
-  Trap(u"Sub LoadRigAudit"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadRigAudit"_s, [&] {
     WalkEntries([&](const Recordset& entry, const QList<int>& types) {
       if (!AppliesToRig(entry, rigID, types)) return;
       const int only = types.size() == 1 ? ComponentOfTypeInRig(rigID, types.first()) : 0;
       rows.append(types.size() > 1 ? RowByRig(entry, rigID) : RowByComponent(entry, only));
     });
     AppendServiceLives(rows, rigID);
-    bracket.Close();
   });
   return rows;
 }
 
 QList<RigAuditRow> LoadComponentAudit(int componentID) {
   QList<RigAuditRow> rows;
-  Trap(u"Sub LoadComponentAudit"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadComponentAudit"_s, [&] {
     WalkEntries([&](const Recordset& entry, const QList<int>& types) {
       if (!AppliesToComponent(entry, componentID, types)) return;
       rows.append(types.size() > 1 ? RowByRig(entry, ComponentRig(componentID)) : RowByComponent(entry, componentID));
     });
     AppendServiceLife(rows, componentID);
-    bracket.Close();
   });
   return rows;
 }
 
 bool ComponentHasSchedule(int componentID) {
   bool has = false;
-  Trap(u"Function ComponentHasSchedule"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function ComponentHasSchedule"_s, [&] {
     const int rigID = ComponentTypeOf(componentID) == kContainer ? ComponentRig(componentID) : 0;
     has = NumberOfSchedules(u"ComponentID"_s, componentID) > 0 ||
           (rigID != 0 && NumberOfSchedules(u"rigID"_s, rigID) > 0) || ServiceLife(ComponentModel(componentID)) != 0;
-    bracket.Close();
   });
   return has;
 }

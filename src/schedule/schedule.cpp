@@ -2,10 +2,9 @@
 
 #include "core/dates.h"
 #include "core/default_rows.h"
-#include "core/forms.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "schedule/completions.h"
 #include "schedule/task_library.h"
@@ -50,11 +49,6 @@ void Write(Recordset& rows, const ScheduleRow& row) {
 
 }  // namespace
 
-void ReloadDueDates() {
-  Forms::ReloadIfLoaded(u"frmSchedule"_s);
-  Forms::ReloadSchedules();
-}
-
 Date GetNextDueDate(int number, int intervalType, Date startDate) {
   if (startDate.IsNone()) MsgBox(u"startDate =0"_s);
   switch (intervalType) {
@@ -71,27 +65,22 @@ Date GetNextDueDate(int number, int intervalType, Date startDate) {
 
 void UpdateSchedule(int taskLibID, int rigID, int componentID) {
   if (taskLibID == 0) return;
-  Trap(u"Sub UpdateSchedule"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub UpdateSchedule"_s, [&] {
     if (IntervalNumber(taskLibID) != 0) {
       int taskID = 0;
       const Date done = rigID == 0 ? LastCompletionForComponent(componentID, taskLibID, taskID)
                                    : LastCompletionForRig(rigID, taskLibID, taskID);
-      if (!done.IsNone()) {
+      if (!done.IsNone())
         ReplaceSchedule(rigID, taskLibID, done, taskID, componentID);
-      } else {
+      else
         DeleteSchedule(rigID, taskLibID, componentID);
-        ReloadDueDates();
-      }
     }
-    bracket.Close();
   });
 }
 
 void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
   if (IntervalNumber(taskLibID) == 0) return;
-  Trap(u"Sub ReplaceSchedule"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub ReplaceSchedule"_s, [&] {
     DeleteSchedule(rigID, taskLibID, componentID);
     {
       Recordset rows(rigID != 0 ? RowsOfRig(rigID, taskLibID) : RowsOfComponent(componentID, taskLibID));
@@ -101,9 +90,7 @@ void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int co
       if (!reused) rows.AddNew();
       Write(rows, row);
     }
-    bracket.Close();
   });
-  ReloadDueDates();  // also when the row has gone because its date can't be built
 }
 
 void DeleteSchedule(int rigID, int taskLibID, int componentID) {
@@ -115,8 +102,7 @@ void DeleteSchedule(int rigID, int taskLibID, int componentID) {
 void AddSchedule(int rigID, int taskLibID, int taskID, Date dateDone, int componentID, int& scheduleID) {
   scheduleID = 0;
   if (IntervalNumber(taskLibID) == 0) return;
-  Trap(u"Sub AddSchedule"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub AddSchedule"_s, [&] {
     const ScheduleRow row = RollRow(rigID, taskLibID, dateDone, taskID, componentID);
     {
       Recordset rows(u"tblSchedules"_s);
@@ -124,7 +110,6 @@ void AddSchedule(int rigID, int taskLibID, int taskID, Date dateDone, int compon
       Write(rows, row);
       scheduleID = rows[u"ID"].ToInt();
     }
-    bracket.Close();
   });
 }
 

@@ -13,12 +13,9 @@ Date GetNextDueDate(int number, int intervalType, Date startDate);
 /// completion on record, never the line just touched. Does nothing for `taskLibID` 0 and entries without an interval.
 void UpdateSchedule(int taskLibID, int rigID, int componentID);
 
-/// Deletes and rewrites one row and reloads the screens that show due dates. A due date that can't be built shows the
+/// Deletes and rewrites one row. A due date that can't be built shows the
 /// routine's box and leaves no row.
 void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int componentID);
-
-/// Every open screen that shows due dates reads them anew.
-void ReloadDueDates();
 
 /// Deletes the row of a rig, or of a component when there is no rig; a repack's always by its rig.
 void DeleteSchedule(int rigID, int taskLibID, int componentID);

@@ -4,7 +4,7 @@
 #include "core/prompts.h"
 #include "core/remembered.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
@@ -120,11 +120,9 @@ void OfferToDeleteLostRows() {
 
 QList<ScheduleEntry> LoadSchedule(const ScheduleFilter& filter) {
   QList<ScheduleEntry> list;
-  Trap(u"Sub LoadSchedule"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub LoadSchedule"_s, [&] {
     OfferToDeleteLostRows();
     list = Loader(filter).Load();
-    bracket.Close();
   });
   return list;
 }

@@ -6,7 +6,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/jobless_task.h"
 #include "gear/rig_rules.h"
 #include "gear/rigs.h"
@@ -83,15 +83,10 @@ bool CreateJoblessTask(int taskLibID, int rigID, int componentID, Date date, Dat
     MsgBox(Lines({u"You entered: "_s + Shown(performed), u"Date entered must be after "_s + Shown(minimum)}));
     return false;
   }
-  bool written = false;
-  Trap(u"Sub CreateJoblessTask"_s, [&] {
-    Bracket bracket;
+  return Operation(u"Sub CreateJoblessTask"_s, [&] {
     const int taskID = WriteJoblessWork(taskLibID, rigID, componentID, performed);
     ReplaceSchedule(rigID, taskLibID, performed, taskID, componentID);
-    bracket.Close();
-    written = true;
   });
-  return written;
 }
 
 bool UpdateScheduledTask(int taskLibID, int rigID, int componentID) {

@@ -5,7 +5,7 @@
 #include "core/clock.h"
 #include "core/dates.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/rigs.h"
 
@@ -51,8 +51,7 @@ void GetArrayOfModelsWithServiceLife(QList<int>& models) {
 
 void GetArrayOfCompIDWithServiceLifeThisCustomer(QList<int>& components, int customerID) {
   components.clear();
-  Trap(u"Sub GetArrayOfCompIDWithServiceLifeThisCustomer"_s, [&] {
-    Bracket bracket;
+  Operation(u"Sub GetArrayOfCompIDWithServiceLifeThisCustomer"_s, [&] {
     QList<int> models;
     GetArrayOfModelsWithServiceLife(models);
     for (int model : models) {
@@ -62,18 +61,15 @@ void GetArrayOfCompIDWithServiceLifeThisCustomer(QList<int>& components, int cus
         if (rows[u"OwnerID"].ToInt() == customerID) components.append(rows[u"ID"].ToInt());
       }
     }
-    bracket.Close();
   });
 }
 
 bool WithinCorrectTimeFrame(int customerID, bool limitOn, bool limitInDays, int number) {
   if (!limitOn) return true;
   bool within = false;
-  Trap(u"Function WithinCorrectTimeFrame"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function WithinCorrectTimeFrame"_s, [&] {
     const Date cutoff = Cutoff(limitInDays, number);
     within = HasWorkDue(customerID, cutoff) || HasLifeEnding(customerID, cutoff);
-    bracket.Close();
   });
   return within;
 }

@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include "core/forms.h"
+#include "support/counting_form.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,11 +13,9 @@ class Screen : public LoadedForm {
   ~Screen() override { Forms::Remove(this); }
   QString FormName() const override { return name_; }
   bool FormIsShown() const override { return shown_; }
-  void ReloadForm() override { ++reloads; }
-  void ReloadSchedule() override { ++scheduleReloads; }
+  void ReloadForm() override {}
+  void TablesChanged(const Changes&) override {}
   void UnloadForm() override {}
-  int reloads = 0;
-  int scheduleReloads = 0;
 
  private:
   QString name_;
@@ -51,22 +50,17 @@ class TestForms : public QObject {
     QCOMPARE(Forms::IsShown(u"frmSchedule"_s), false);
   }
 
-  void ReloadsWhatIsLoaded() {
-    Screen job(u"frmJob"_s);
-    Screen rig(u"frmRig"_s);
-    Forms::ReloadIfLoaded(u"frmjob"_s);
-    Forms::ReloadIfLoaded(u"frmSchedule"_s);
-    QCOMPARE(job.reloads, 1);
-    QCOMPARE(rig.reloads, 0);
-  }
-
-  void NewDueDatesReachEveryLoadedForm() {
-    const Screen job(u"frmJob"_s);
-    const Screen rig(u"frmRig"_s, false);
-    Forms::ReloadSchedules();
-    QCOMPARE(job.scheduleReloads, 1);
-    QCOMPARE(rig.scheduleReloads, 1);
-    QCOMPARE(job.reloads, 0);
+  void TellsOfTheTablesThatAScreenShows() {
+    const CountingForm job(u"frmJob"_s, {u"tblJobs"_s, u"tblTasks"_s});
+    const CountingForm rig(u"frmRig"_s, {u"tblRig"_s});
+    const CountingForm blank(u"frmBlank"_s, {});
+    Changes changes;
+    changes.Note(u"tblJobs"_s);
+    changes.Note(u"tblTasks"_s);
+    Forms::Tell(changes);
+    QCOMPARE(job.told, 1);
+    QCOMPARE(rig.told, 0);
+    QCOMPARE(blank.told, 0);
   }
 };
 

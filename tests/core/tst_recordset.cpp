@@ -413,13 +413,11 @@ class RecordsetTest : public QObject {
       OpenDatabase().Step(OpenDatabase().Plain("PRAGMA max_page_count = 1"));  // no less than the file has now
       bracket.Close();
     }
-    prompts_->Expect(u"Sub UpdateTable()"_s,
-                     u"There is not enough space on the disk.\nThe following SQL statement caused on error\n\n"
-                     "SQL = Select * from tblPeople where ID = 1\n"_s,
+    prompts_->Expect(u"Sub UpdateTable()"_s, u"There is not enough space on the disk.\nNothing was changed."_s,
                      Answer::Ok);
     UpdateTable(u"tblPeople"_s, u"Comment"_s, QString(100000, u'x'), u"ID"_s, 1);
     prompts_->Finish();
-    ConnectionClose();
+    QVERIFY(!ConnectionIsOpen);
     QCOMPARE(LastNames(u"tblPeople"_s), QStringList{u"Lee"_s});
     QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"ID"_s, 1, u"Comment"_s), Value(QString()));
   }

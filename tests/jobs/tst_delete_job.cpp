@@ -60,12 +60,12 @@ class TestDeleteJob : public QObject {
     SampleJob shop;
     ToggleComplete(shop.AddTask(RepackTaskLibID), Day(3, 2, 2026), true);
     QCOMPARE(shop.Schedules().size(), 1);
-    const CountingForm screen(u"frmJob"_s);
+    const CountingForm screen(u"frmJob"_s, {u"tblJobs"_s, u"tblTasks"_s});
     bool cancelled = true;
     DeleteJob(shop.job, false, cancelled);
     QVERIFY(!cancelled);
     QCOMPARE(shop.Schedules(), QStringList());
-    QCOMPARE(screen.reloads, 1);
+    QCOMPARE(screen.told, 1);
   }
 
   void StartsThatWereNeverFinishedAreCleared() {

@@ -29,10 +29,10 @@ class TestInstallComponent : public QObject {
  private Q_SLOTS:
   void AFreeComponentGoesOnTheJobAndIntoItsRig() {
     GearShop shop;
-    const CountingForm screen(u"frmGetRig"_s);
+    const CountingForm screen(u"frmGetRig"_s, {u"tblComponents"_s, u"tblTasks"_s});
     const QStringList before = shop.loft.Snapshot();
     QVERIFY(Install(shop, shop.spare));
-    QCOMPARE(screen.reloads, 1);
+    QCOMPARE(screen.told, 1);
     QCOMPARE(shop.Changes(before),
              GearShop::Sorted(shop.Moved(shop.spare, 0, shop.rig) +
                               shop.NewLine(1, InstallTaskLibID, u"Install AAD Argus  to Blue"_s, shop.spare) +

@@ -355,14 +355,13 @@ class TestLibrary : public QObject {
     shop.AddTask(shop.aadCheck);
     shop.AddSchedule(shop.rig, shop.aadCheck, Day(8, 1, 2026), 0, shop.aad);
     shop.AddSchedule(shop.rig, RepackTaskLibID, Day(8, 2, 2026), 0, 0);
-    const CountingForm job(u"frmJob"_s);
+    const CountingForm job(u"frmJob"_s, {u"tblTasks"_s, u"tblSchedules"_s});
     bool cancelled = true;
     DeleteTaskType(shop.aadCheck, false, cancelled);
     QVERIFY(!cancelled && !TaskLibExists(shop.aadCheck));
     QVERIFY(LinesOfJob(shop.job).isEmpty());
     QCOMPARE(shop.loft.Rows(u"select TaskLibID from tblSchedules"_s), QStringList(u"1"_s));
-    QCOMPARE(job.reloads, 1);
-    QCOMPARE(job.scheduleReloads, 1);
+    QCOMPARE(job.told, 1);
   }
 
   void APartsNameIsUsedOnce() {

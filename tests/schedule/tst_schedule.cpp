@@ -60,14 +60,14 @@ class TestSchedule : public QObject {
 
   void ACompletedRepackIsScheduledByTheRigAlone() {
     SampleRig shop;
-    const CountingForm form(u"frmSchedule"_s);
+    const CountingForm form(u"frmSchedule"_s, {u"tblSchedules"_s});
     const int line = shop.AddRepack(Day(3, 1, 2026));
     const QStringList before = shop.loft.Snapshot();
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
     QCOMPARE(shop.Schedules(),
              QStringList(SampleRig::ScheduleRow(shop.rig, 1, Day(3, 1, 2026), Day(8, 28, 2026), line, 0)));
     QCOMPARE(shop.loft.ChangesSince(before).size(), 1);
-    QCOMPARE(form.reloads, 1);
+    QCOMPARE(form.told, 1);
   }
 
   void TheRowFollowsTheLatestCompletionNotTheOneTouched() {
@@ -83,7 +83,7 @@ class TestSchedule : public QObject {
 
   void UncompletingBringsTheOlderCompletionBackOrTakesTheRow() {
     SampleRig shop;
-    const CountingForm form(u"frmSchedule"_s);
+    const CountingForm form(u"frmSchedule"_s, {u"tblSchedules"_s});
     const int early = shop.AddRepack(Day(1, 1, 2026));
     const int late = shop.AddRepack(Day(3, 1, 2026));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
@@ -94,7 +94,7 @@ class TestSchedule : public QObject {
     shop.loft.Run(u"update tblTasks set Status = 1 where ID = %1"_s.arg(early));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
     QCOMPARE(shop.Schedules(), QStringList());
-    QCOMPARE(form.reloads, 3);
+    QCOMPARE(form.told, 3);
   }
 
   void ARepackOnAReserveSinceRemovedNoLongerCounts() {

@@ -183,17 +183,16 @@ class TestScheduledTask : public QObject {
 
   void ScreensFollowEachChange() {
     SampleRig shop;
-    const CountingForm screen(u"frmGetRig"_s);
+    const CountingForm screen(u"frmGetRig"_s, {u"tblSchedules"_s});
     const int repack = shop.AddRepack(Day(2, 1, 2026));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
-    QCOMPARE(screen.scheduleReloads, 1);
+    QCOMPARE(screen.told, 1);
     shop.loft.Run(u"delete from tblTasks where ID = %1"_s.arg(repack));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
-    QCOMPARE(screen.scheduleReloads, 2);
+    QCOMPARE(screen.told, 2);
     shop.prompts.ExpectBox(u"Sub ReplaceSchedule"_s, u"Type mismatch"_s);
     ReplaceSchedule(shop.rig, shop.aadCheck, Day(8, 31, 2025), 1, shop.aad);
-    QCOMPARE(screen.scheduleReloads, 3);
-    QCOMPARE(screen.reloads, 0);
+    QCOMPARE(screen.told, 3);
   }
 };
 

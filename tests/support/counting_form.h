@@ -1,21 +1,22 @@
 #pragma once
 #include "core/forms.h"
 
-/// A loaded screen that counts how often it is told to read its data anew: all of it, or its due dates alone.
+/// A loaded screen that counts how often it is told that one of its tables has been written.
 class CountingForm : public LoadedForm {
  public:
-  explicit CountingForm(const QString& name) : name_(name) { Forms::Add(this); }
+  CountingForm(const QString& name, const QStringList& tables) : name_(name), tables_(tables) { Forms::Add(this); }
   ~CountingForm() override { Forms::Remove(this); }
   CountingForm(const CountingForm&) = delete;
   CountingForm& operator=(const CountingForm&) = delete;
   QString FormName() const override { return name_; }
   bool FormIsShown() const override { return true; }
-  void ReloadForm() override { ++reloads; }
-  void ReloadSchedule() override { ++scheduleReloads; }
+  QStringList ShowsTables() const override { return tables_; }
+  void TablesChanged(const Changes&) override { ++told; }
+  void ReloadForm() override {}
   void UnloadForm() override {}
-  int reloads = 0;
-  int scheduleReloads = 0;
+  int told = 0;
 
  private:
   QString name_;
+  QStringList tables_;
 };

@@ -1,5 +1,6 @@
 #include "support/throwaway_loft.h"
 
+#include <QUrl>
 #include <QtTest>
 
 #include <sqlite3.h>
@@ -8,6 +9,7 @@
 #include "core/failure.h"
 #include "core/store/connection.h"
 #include "core/store/database.h"
+#include "core/store/operation.h"
 #include "core/store/recordset.h"
 #include "dbcare/check_fields.h"
 
@@ -20,8 +22,11 @@ class PlainConnection {
  public:
   explicit PlainConnection(const QString& path) {
     SettleConnection();
-    if (!ConnectionIsOpen) ReleaseDatabaseFile();
-    if (sqlite3_open_v2(path.toUtf8(), &handle_, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK)
+    // What an operation that stands has written is not in the file yet; its lock is passed over.
+    const bool inOperation = OperationScope::AnyStands();
+    if (!inOperation && !ConnectionIsOpen) ReleaseDatabaseFile();
+    const QByteArray name = inOperation ? QUrl::fromLocalFile(path).toEncoded() + "?immutable=1" : path.toUtf8();
+    if (sqlite3_open_v2(name, &handle_, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr) != SQLITE_OK)
       qFatal("Can't open %s", qUtf8Printable(path));
   }
   ~PlainConnection() { sqlite3_close(handle_); }
@@ -109,8 +114,8 @@ QStringList ThrowAwayLoft::Rows(const QString& sql) const { return PlainConnecti
 QStringList ThrowAwayLoft::Snapshot() const {
   const PlainConnection plain(DatabaseFile());
   QStringList rows;
-  for (const QString& table :
-       plain.Rows(u"select name from sqlite_master where type = 'table' and name not like 'sqlite%' order by name"_s))
+  for (const QString& table : plain.Rows(u"select name from sqlite_master where type = 'table' and name not like "
+                                         "'sqlite%' and name not like 'loft%' order by name"_s))
     rows += plain.Rows(u"select * from [%1] order by rowid"_s.arg(table), table);
   return rows;
 }

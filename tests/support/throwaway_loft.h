@@ -39,7 +39,7 @@ class ThrowAwayLoft {
   /// What a second connection reads from the file, one text to a row, its fields between bars: dates as their days,
   /// money as ten-thousandths, true as -1, null as "null". The statement is in SQLite's own dialect.
   QStringList Rows(const QString& sql) const;
-  /// Every row of every table: "tblPeople|1|...".
+  /// Every row of every table but the record of operations: "tblPeople|1|...".
   QStringList Snapshot() const;
   /// The rows that are new ("+tblRig|...") or gone ("-tblRig|...") since a snapshot; a changed row is both.
   QStringList ChangesSince(const QStringList& snapshot) const;

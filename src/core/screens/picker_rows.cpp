@@ -4,8 +4,8 @@
 
 #include "core/picker.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/text.h"
-#include "core/trap.h"
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
@@ -129,22 +129,14 @@ std::optional<QString> PickerTitle(int pickerType) {
 
 IdList PickerRows(int pickerType) {
   IdList list;
-  Trap(u"Sub PickerRows"_s, [&] {
-    Bracket bracket;
-    AddRowsOf(list, pickerType);
-    bracket.Close();
-  });
+  Operation(u"Sub PickerRows"_s, [&] { AddRowsOf(list, pickerType); });
   return list;
 }
 
 IdList PickerModelRows(int modelTypeId) {
   IdList list;
   list.Add(u"(add new)"_s, kPickAddNew);
-  Trap(u"Sub PickerModelRows"_s, [&] {
-    Bracket bracket;
-    AddRows(list, ModelStatement(modelTypeId), FieldText(u"Name"_s));
-    bracket.Close();
-  });
+  Operation(u"Sub PickerModelRows"_s, [&] { AddRows(list, ModelStatement(modelTypeId), FieldText(u"Name"_s)); });
   return list;
 }
 
@@ -166,8 +158,7 @@ int FindPersonByTypedName(const QString& typed) {
   QString first;
   SplitName(typed, last, first);
   int found = 0;
-  Trap(u"Function FindPersonByTypedName"_s, [&] {
-    Bracket bracket;
+  Operation(u"Function FindPersonByTypedName"_s, [&] {
     for (const Recordset& person : Rows(u"Select * from tblPeople order by Lastname"_s)) {
       const auto matches = [&](QStringView field, const QString& name) {
         return person[field].ToText().trimmed().compare(name, Qt::CaseInsensitive) == 0;
@@ -176,7 +167,6 @@ int FindPersonByTypedName(const QString& typed) {
       found = person[u"ID"].ToInt();
       break;
     }
-    bracket.Close();
   });
   return found;
 }

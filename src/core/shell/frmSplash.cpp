@@ -5,8 +5,7 @@
 #include "core/screens.h"
 #include "core/shell/ui_frmSplash.h"
 #include "core/splash_info.h"
-#include "core/store/connection.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,11 +15,9 @@ frmSplash::frmSplash() : ui_(std::make_unique<Ui::frmSplash>()) {
   constexpr int kLogo = 128;
   ui_->imageLogo->setPixmap(ProgramIcon().pixmap(kLogo, kLogo));
   ui_->imageLogo->setAccessibleName(u"Loftkeep"_s);
-  Trap(u"frmSplash - Sub Form_Load()"_s, [this] {
-    Bracket bracket;  // one opening for all the counts
+  Operation(u"frmSplash - Sub Form_Load()"_s, [this] {
     ui_->lblInfo->setText(GetSplashInfo());
     ui_->lblBackup->setText(LastBackupText());
-    bracket.Close();
   });
   for (QWidget* child : findChildren<QWidget*>()) child->installEventFilter(this);
 }

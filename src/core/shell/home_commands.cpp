@@ -109,7 +109,6 @@ void ShowEventLibrary() { OpenTaskLibrary(true); }
 void CreateTask() { EditTaskType(); }
 
 void LoadAllForms() {
-  Bracket bracket;
   ShowJobList();
   ShowLastJob();
   OpenSchedule();

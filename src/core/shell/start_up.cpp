@@ -7,6 +7,7 @@
 #include "core/clock.h"
 #include "core/data_folder.h"
 #include "core/default_rows.h"
+#include "core/failure.h"
 #include "core/files.h"
 #include "core/format.h"
 #include "core/shell/frmInstall.h"
@@ -16,7 +17,7 @@
 #include "core/shell/window_habits.h"
 #include "core/stand_by.h"
 #include "core/store/access.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "core/widgets/screen_routines.h"
 #include "dbcare/check_fields.h"
 #include "dbcare/new_database.h"
@@ -87,9 +88,7 @@ void MakeDatabase() {
   if (ConnectionIsOpen) ConnectionClose();
   MsgBox(u"New database file installed successfully"_s);
   UnloadStandBy();
-  Bracket bracket;
   CreateDefaultRows();
-  bracket.Close();
 }
 
 /// Takes over the data files of another computer, whose database is used from then on.
@@ -179,12 +178,10 @@ void CheckFolderSystem() {
   if (ConnectionCount == kStop || !FindDatabase() || ConnectionCount == kStop) return;
   TakeFolder();
   if (!OpenConnection()) throw Failure(u"The database could not be opened"_s);
-  Trap(u"Sub CheckFolderSystem"_s, [] {
-    Bracket bracket;
+  Operation(u"Sub CheckFolderSystem"_s, [] {
     CreateSubFolders();
     CheckSupportFiles();
     CheckAllFields(true);
-    bracket.Close();
   });
   if (!ExistFile(DatabaseFile())) {
     MsgBox(DatabaseFile(), u"file DOESN'T exists"_s);
@@ -237,8 +234,7 @@ void FirstRunSetup(bool forNewDatabase) {
 }
 
 void CheckDatabaseOnStart() {
-  Trap(u"Sub CheckDatabaseOnStart"_s, [] {
-    Bracket bracket;
+  Operation(u"Sub CheckDatabaseOnStart"_s, [] {
     if (GetNumberRecordsInTable(u"tblMisc"_s) == 0) {
       const int answer = static_cast<int>(
           Val(InputBox(u"How many days for reserve repack cycle?"_s, u"Enter reserve repack cycle"_s, u"180"_s)));
@@ -254,7 +250,6 @@ void CheckDatabaseOnStart() {
     CheckAllFields(false);
     ReportLostComponentTypes();
     RepairRepackTaskType();
-    bracket.Close();
   });
 }
 

@@ -6,6 +6,7 @@
 
 #include "core/prompts.h"
 #include "core/store/database.h"
+#include "core/store/operation.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;
@@ -100,15 +101,9 @@ Value CountOf(const QString& statement) {
 }
 
 void Execute(const QString& routine, const QString& statement) {
-  TrapWith(
-      routine,
-      [&] {
-        Bracket bracket;
-        bracket.LeaveOpenOnFailure();
-        OpenDatabase().Execute(statement);
-        bracket.Close();
-      },
-      [&] { return ActionDetails(statement); });
+  OperationWith(
+      routine, [&] { OpenDatabase().Execute(statement); }, [&] { return ActionDetails(statement); },
+      OnFailure::LeaveConnectionOpen);
 }
 
 }  // namespace
@@ -173,18 +168,15 @@ Value GetNumberRecordsComplex(const QString& mySQL) {
 void UpdateTable(const QString& tableName, const QString& fieldName, const Value& newValue, const QString& keyField,
                  const Value& keyValue) {
   const QString statement = WhereStatement(tableName, keyField, keyValue.ToText(), u"*"_s);
-  TrapWith(
+  OperationWith(
       u"Sub UpdateTable()"_s,
       [&] {
-        Bracket bracket;
-        bracket.LeaveOpenOnFailure();
         for (Recordset& record : Rows(statement)) {
           record.Set(fieldName, newValue);
           record.Update();
         }
-        bracket.Close();
       },
-      [&] { return ActionDetails(statement); });
+      [&] { return ActionDetails(statement); }, OnFailure::LeaveConnectionOpen);
 }
 
 void UpdateTableBySQL(const QString& mySQL) { Execute(u"Sub UpdateTableBySQL(MySQL)"_s, mySQL); }

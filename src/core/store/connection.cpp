@@ -3,12 +3,12 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <exception>
 #include <memory>
 
 #include "core/failure.h"
 #include "core/prompts.h"
 #include "core/store/database.h"
+#include "core/store/operation.h"
 #include "core/trap.h"
 
 using namespace Qt::StringLiterals;
@@ -22,6 +22,7 @@ void (*ShowConnectionCount)(int count) = nullptr;
 
 namespace {
 
+Changes committed;                   // since the screens were told
 std::unique_ptr<Database> database;  // stays open between brackets: opening anew is what a getter would spend most on
 
 const QString kProvider = u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s;
@@ -42,7 +43,10 @@ void ConnectionStart() {
     try {
       const QString path = DatabasePath();
       if (database && (database->Path() != path || !QFileInfo::exists(path))) database.reset();
-      if (!database) database = std::make_unique<Database>(path);
+      if (!database) {
+        database = std::make_unique<Database>(path);
+        database->SetHolds(OperationScope::AnyStands());
+      }
     } catch (...) {
       if (ConnectionIsOpen) SetBusyPointer(false);
       ConnectionIsOpen = false;
@@ -63,7 +67,7 @@ void ConnectionClose() {
   if (!ConnectionIsOpen) MsgBox(u"connection already closed"_s);
   ConnectionIsOpen = false;
   SetBusyPointer(false);
-  if (database) database->Settle();
+  if (!OperationScope::AnyStands()) CommitConnection();
 }
 
 Database& OpenDatabase() {
@@ -71,13 +75,32 @@ Database& OpenDatabase() {
   return *database;
 }
 
-void ReleaseDatabaseFile() { database.reset(); }
+void ReleaseDatabaseFile() {
+  if (OperationScope::AnyStands()) throw Failure(u"The database file is in use."_s);
+  database.reset();
+}
 
 void SettleConnection() {
-  Trap(u"Sub SettleConnection"_s, [] {
-    if (database) database->Settle();
-  });
+  if (!OperationScope::AnyStands()) Trap(u"Sub SettleConnection"_s, [] { CommitConnection(); });
 }
+
+void CommitConnection() {
+  if (!database) return;
+  database->Settle();
+  committed.Add(database->TakeChanges());
+}
+
+void RollBackConnection() {
+  if (database) database->TakeBack();
+}
+
+bool ConnectionFailedWriting() { return database && database->FailedWriting(); }
+
+void HoldConnection(bool holds) {
+  if (database) database->SetHolds(holds);
+}
+
+Changes TakeCommittedChanges() { return std::exchange(committed, Changes()); }
 
 Bracket::Bracket() {
   ++standing_;
@@ -88,17 +111,18 @@ Bracket::Bracket() {
 
 void Bracket::Close() {
   const bool opened = std::exchange(opened_, false);
-  if (opened && ConnectionIsOpen) ConnectionClose();
+  if (!opened || !ConnectionIsOpen) return;
+  ConnectionClose();
+  TellChanges();
 }
 
 Bracket::~Bracket() {
   --standing_;
   if (!opened_ || !ConnectionIsOpen) return;
-  if (leaveOpen_ && std::uncaught_exceptions() > 0) return;
   try {
-    ConnectionClose();
-  } catch (const std::exception& error) {
-    MsgBox(FailureText(error), u"Sub ConnectionClose"_s, Icon::Exclamation);
+    Trap(u"Sub ConnectionClose"_s, [] { ConnectionClose(); });
+  } catch (const std::exception&) {
+    // Nobody is there to be told; the transaction has been taken back.
   }
 }
 

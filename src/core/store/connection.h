@@ -1,14 +1,16 @@
 #pragma once
 #include <QString>
 
+#include "core/store/changes.h"
+
 class Database;
 
 /// The one shared connection to the database file, opened on demand and closed by the routine that opened it.
 ///
 /// Every routine that touches the database follows one bracket: when the connection is closed it opens it, does its
 /// work, and closes it again if it was the one who opened it. So the connection is held for the length of the
-/// outermost routine. Beneath, that length is one transaction; a box or a dialog ends it early. The busy pointer
-/// shows while the connection is open.
+/// outermost routine. Beneath, that length is one transaction, unless an operation (core/store/operation.h) stands,
+/// which is one. The busy pointer shows while the connection is open.
 
 extern QString ConnectionString;  ///< "Provider=...;Data Source=<file>;..."
 extern bool ConnectionIsOpen;     ///< every routine tests this flag
@@ -36,8 +38,19 @@ Database& OpenDatabase();
 /// The connection must be closed.
 void ReleaseDatabaseFile();
 
-/// Commits what has been written so far; a failure shows its box. Called before anything waits for the person.
+/// Commits what has been written so far, unless an operation stands; a failure shows its box. Called before anything
+/// waits for the person.
 void SettleConnection();
+
+/// For the ends of an operation. CommitConnection throws StorageFailure, with everything taken back.
+void CommitConnection();
+void RollBackConnection();
+/// True when a failure of the file met a routine that writes.
+bool ConnectionFailedWriting();
+/// While set, a failure of the file refuses every statement until RollBackConnection.
+void HoldConnection(bool holds);
+/// The tables written by the transactions that have ended since this was asked.
+Changes TakeCommittedChanges();
 
 /// The bracket of a routine.
 class Bracket {
@@ -49,14 +62,13 @@ class Bracket {
   Bracket& operator=(const Bracket&) = delete;
   /// The regular end; a failing commit throws from here.
   void Close();
-  /// A failure in this bracket leaves the connection open.
-  void LeaveOpenOnFailure() { leaveOpen_ = true; }
+  /// Ends the bracket without closing what it opened.
+  void LeaveOpen() { opened_ = false; }
   /// True while some routine stands inside its bracket.
   static bool Stands() { return standing_ > 0; }
 
  private:
   bool opened_ = false;
-  bool leaveOpen_ = false;
   static inline int standing_ = 0;
 };
 

@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 
 #include <limits>
+
+#define SQLITE_ENABLE_PREUPDATE_HOOK
 #include <sqlite3.h>
 
 #include "core/failure.h"
@@ -65,6 +67,31 @@ QString ErrorText(sqlite3* handle, const QString& path) {
   if (message.startsWith("no such table: "_L1)) return u"Could not find the table '%1'."_s.arg(message.mid(15));
   if (message.startsWith("no such column: "_L1)) return u"Could not find the field '%1'."_s.arg(message.mid(16));
   return message;
+}
+
+/// Whether the file, not the statement, is at fault.
+bool IsOfTheFile(int error) {
+  switch (error & 0xff) {
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_READONLY:
+    case SQLITE_CANTOPEN:
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_PROTOCOL:
+    case SQLITE_NOMEM:
+    case SQLITE_ABORT:
+      return true;
+    default:
+      return false;
+  }
+}
+
+void TellRow(void* log, sqlite3* handle, int what, const char*, const char* table, sqlite3_int64 oldRow,
+             sqlite3_int64 newRow) {
+  static_cast<ChangeLog*>(log)->Row(handle, what, table, oldRow, newRow);
 }
 
 struct TypeName {
@@ -179,16 +206,16 @@ Database::Database(const QString& path) : path_(path) {
         "PRAGMA cache_size = -16384; SELECT count(*) FROM sqlite_master");
     begin_ = Plain("BEGIN");
     commit_ = Plain("COMMIT");
-  } catch (...) {
+    sqlite3_preupdate_hook(handle_, TellRow, &log_);
+  } catch (const Failure& failure) {
     for (sqlite3_stmt* statement : std::as_const(plain_)) sqlite3_finalize(statement);
     sqlite3_close(handle_);
-    throw;
+    throw Failure(failure.Text());  // a file that does not open takes nothing back
   }
 }
 
 Database::~Database() {
-  FreezeRecordsets();
-  for (Recordset* recordset : recordsets_) recordset->database_ = nullptr;
+  for (Recordset* recordset : std::vector<Recordset*>(recordsets_)) recordset->LoseDatabase();
   if (InTransaction()) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
   prepared_.clear();
   for (sqlite3_stmt* statement : std::as_const(plain_)) sqlite3_finalize(statement);
@@ -206,7 +233,43 @@ void Database::CreateFile(const QString& path) {
   if (!error.isEmpty()) throw Failure(error);
 }
 
-void Database::Fail() const { throw Failure(ErrorText(handle_, path_)); }
+void Database::Fail(bool writing) {
+  const QString error = ErrorText(handle_, path_);
+  if (!IsOfTheFile(sqlite3_errcode(handle_))) throw Failure(error);
+  if (holds_) failure_ = error;
+  failedWriting_ = writing || !log_.Tables().IsEmpty();
+  RollBack();
+  throw StorageFailure(error);
+}
+
+void Database::RefuseAfterFailure() const {
+  if (!failure_.isNull()) throw StorageFailure(failure_);
+}
+
+/// SQLite has done so by itself after some errors, and not after others.
+void Database::RollBack() {
+  for (Recordset* recordset : std::vector<Recordset*>(recordsets_)) recordset->Drop();
+  if (InTransaction()) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+  fields_.clear();  // a table made in this transaction is gone again
+  log_.Clear();
+}
+
+void Database::TakeBack() {
+  RollBack();
+  failure_ = QString();
+  failedWriting_ = false;
+}
+
+Changes Database::TakeChanges() { return std::exchange(committed_, Changes()); }
+
+void Database::LearnRemembered() {
+  std::vector<int> columns;
+  const std::vector<Field>& fields = FieldsOf(u"tblMisc"_s);
+  for (size_t i = 0; i < fields.size(); ++i)
+    for (const char* name : {"LastSystemID", "LastJobID", "LastCustomerID", "LastComponentID"})
+      if (fields[i].name == QLatin1StringView(name)) columns.push_back(static_cast<int>(i));
+  log_.SetRemembered("tblMisc", std::move(columns));
+}
 
 void Database::ExecuteRaw(const QByteArray& sql) {
   if (sqlite3_exec(handle_, sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK) Fail();
@@ -226,6 +289,7 @@ void Database::Execute(const QString& statement) {
 }
 
 Prepared* Database::Take(const QString& statement, Want want) {
+  RefuseAfterFailure();
   jet::CutStatement(statement, cut_);
   if (want == Want::Count) cut_.key += "count";
   std::vector<std::unique_ptr<Prepared>>& pool = prepared_[cut_.key];
@@ -324,15 +388,20 @@ bool Database::ReadFirst(const QString& statement, QStringView field, Value& val
 }
 
 bool Database::Step(sqlite3_stmt* statement) {
+  RefuseAfterFailure();
   BeginIfNeeded();
+  if (!log_.KnowsRemembered()) LearnRemembered();
+  const ChangeLog::Mark mark = log_.Here();
   const int result = sqlite3_step(statement);
   if (result == SQLITE_ROW) return true;
-  if (result != SQLITE_DONE) {
-    const QString error = ErrorText(handle_, path_);
+  if (result == SQLITE_DONE) return false;
+  log_.GoBackTo(mark);
+  try {
+    Fail(sqlite3_stmt_readonly(statement) == 0);
+  } catch (...) {
     sqlite3_reset(statement);
-    throw Failure(error);
+    throw;
   }
-  return false;
 }
 
 sqlite3_stmt* Database::Plain(const QByteArray& sql) {
@@ -370,6 +439,7 @@ void Database::ChangeSchema(const QByteArray& sql) {
 void Database::ForgetPrepared() {
   prepared_.clear();
   fields_.clear();
+  log_.ForgetTables();
 }
 
 int Database::CountIndexes() {
@@ -384,22 +454,27 @@ bool Database::InTransaction() const { return !sqlite3_get_autocommit(handle_); 
 void Database::BeginIfNeeded() {
   if (InTransaction()) return;
   const int result = sqlite3_step(begin_);
-  sqlite3_reset(begin_);
   if (result != SQLITE_DONE) Fail();
+  sqlite3_reset(begin_);
 }
 
 void Database::Settle() {
+  RefuseAfterFailure();
   if (!InTransaction()) return;
   FreezeRecordsets();
   const int result = sqlite3_step(commit_);
   if (result == SQLITE_DONE) {
     sqlite3_reset(commit_);
+    committed_.Add(log_.Tables());
+    log_.Clear();
     return;
   }
-  const QString error = ErrorText(handle_, path_);
-  sqlite3_reset(commit_);
-  if (InTransaction()) sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
-  throw Failure(error);
+  try {
+    Fail();
+  } catch (...) {
+    sqlite3_reset(commit_);
+    throw;
+  }
 }
 
 void Database::Register(Recordset* recordset) { recordsets_.push_back(recordset); }

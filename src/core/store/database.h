@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "core/store/change_log.h"
 #include "core/store/jet.h"
 #include "core/value.h"
 
@@ -47,7 +48,7 @@ struct Prepared {
 
 /// One database file. Statements come in the Jet dialect. In the file a date is days since 30 December 1899, money
 /// whole ten-thousandths, a boolean -1 or 0; texts compare without regard to case, accents next to their letters.
-/// Everything throws Failure, with a text that a person can read.
+/// Everything throws Failure, with a text that a person can read; StorageFailure where the file itself failed.
 class Database {
  public:
   /// Opens an existing file; a missing one, one that is no database and one in use by another process throw Failure.
@@ -82,10 +83,19 @@ class Database {
   const std::vector<Field>& FieldsOf(const QString& table);
   int CountIndexes();
 
-  /// The open transaction: begun by the first statement after Settle, ended by Settle. A commit that fails (a full
-  /// disk) takes back the whole transaction and throws Failure.
+  /// The open transaction: begun by the first statement after Settle, ended by Settle or TakeBack. A failure of the
+  /// file, in a statement or in the commit, takes back the whole transaction and throws StorageFailure; while `Holds`,
+  /// every statement from then on throws the same, until TakeBack.
   void Settle();
+  void TakeBack();
+  void SetHolds(bool holds) { holds_ = holds; }
   bool InTransaction() const;
+  /// True when the failure of the file met a statement that writes, or one that came after such.
+  bool FailedWriting() const { return failedWriting_; }
+  /// What the open transaction has written.
+  ChangeLog& Log() { return log_; }
+  /// The tables written by the transactions that have ended since this was asked.
+  Changes TakeChanges();
 
   /// Recordsets that still step through their statement read to their end before anything is written.
   void Register(Recordset* recordset);
@@ -100,7 +110,10 @@ class Database {
   void BeginIfNeeded();
   std::unique_ptr<Prepared> Prepare(const QString& statement, Want want);
   void BindLiterals(Prepared& prepared, const std::vector<jet::Literal>& literals);
-  [[noreturn]] void Fail() const;
+  [[noreturn]] void Fail(bool writing = false);
+  void RollBack();
+  void RefuseAfterFailure() const;
+  void LearnRemembered();
 
   QString path_;
   sqlite3* handle_ = nullptr;
@@ -109,6 +122,11 @@ class Database {
   QHash<QByteArray, sqlite3_stmt*> plain_;
   QHash<QString, std::vector<Field>> fields_;
   std::vector<Recordset*> recordsets_;
+  ChangeLog log_;
+  Changes committed_;
+  bool holds_ = false;
+  QString failure_;  // of the file, while it stands
+  bool failedWriting_ = false;
   sqlite3_stmt* begin_ = nullptr;
   sqlite3_stmt* commit_ = nullptr;
 };

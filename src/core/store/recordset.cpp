@@ -42,6 +42,22 @@ void Recordset::Arrive() const {
   self->at_ = static_cast<qsizetype>(rows_.size()) - 1;
 }
 
+void Recordset::Drop() {
+  if (prepared_) Database::GiveBack(prepared_);
+  prepared_ = nullptr;
+  restWaits_ = goingLast_ = streamedRow_ = false;
+  rows_.clear();
+}
+
+void Recordset::LoseDatabase() {
+  try {
+    Freeze();
+  } catch (const Failure&) {
+    Drop();
+  }
+  database_ = nullptr;
+}
+
 bool Recordset::Bof() const { return IsStreaming() ? at_ == 0 && !streamedRow_ : at_ < 0 || rows_.empty(); }
 
 bool Recordset::Eof() const {

@@ -53,7 +53,9 @@ class Recordset {
     bool deleted = false;
   };
 
-  void Freeze();  // reads the rest, so that the statement can be given back
+  void Freeze();        // reads the rest, so that the statement can be given back
+  void Drop();          // the transaction is taken back: what was not read yet can't be read any more
+  void LoseDatabase();  // the file is let go of
   void ReadAll();
   void ReadRest();
   bool OnlyAdds() const;

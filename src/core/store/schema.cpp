@@ -5,7 +5,7 @@
 #include "core/stand_by.h"
 #include "core/store/connection.h"
 #include "core/store/database.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 
 using namespace Qt::StringLiterals;
 using namespace jet;
@@ -249,15 +249,13 @@ constexpr Index kIndexes[] = {{"tblComponents", "RigID"},
 }  // namespace
 
 void CreateTable(const QString& table, const QString& field, int type, bool autoIncrement) {
-  TrapWith(
+  OperationWith(
       u"Sub CreateTable()"_s,
       [&] {
         ShowStandBy(u"Creating table "_s + table);
-        Bracket bracket;
         const QByteArray column =
             autoIncrement ? '[' + field.toUtf8() + "] INTEGER PRIMARY KEY AUTOINCREMENT" : ColumnText(field, type, 0);
         OpenDatabase().ChangeSchema("CREATE TABLE [" + table.toUtf8() + "] (" + column + ')');
-        bracket.Close();
       },
       [&] {
         return Lines({u"Table: "_s + table, u"Field: "_s + field, u"Type: "_s + QString::number(type)});

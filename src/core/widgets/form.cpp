@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/prompts.h"
+#include "core/trap.h"
 #include "core/widgets/qt_prompts.h"
 #include "core/widgets/screen_routines.h"
 
@@ -73,7 +74,7 @@ void Form::ShowModal() {
     raise();
     return;
   }
-  BeforePrompt();
+  const PersonAnswers waits;
   const PointerAside aside;
   if (isVisible()) hide();
   tag_.clear();
@@ -115,6 +116,14 @@ void Form::Bury() {
     deleteLater();
   } else {
     buried.push_back(this);
+  }
+}
+
+void Form::TablesChanged(const Changes& changes) {
+  if (isVisible()) {
+    Trap(FormName(), [this] { ReloadForm(); });
+  } else if (wasShown_) {
+    missed_.Add(changes);
   }
 }
 
@@ -162,6 +171,8 @@ void Form::showEvent(QShowEvent* event) {
   for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
   if (auto* bar = findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly)) GiveMnemonics(bar);
   QDialog::showEvent(event);
+  wasShown_ = true;
+  if (const Changes missed = std::exchange(missed_, Changes()); !missed.IsEmpty()) TablesChanged(missed);
 }
 
 void Form::hideEvent(QHideEvent* event) {

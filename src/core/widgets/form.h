@@ -18,6 +18,8 @@ class Form : public QDialog, public LoadedForm {
   QString FormName() const override;
   bool FormIsShown() const override { return isVisible(); }
   void ReloadForm() override {}
+  /// Reads anew what is on show; what is hidden does so when it is shown again.
+  void TablesChanged(const Changes& changes) override;
   /// Hides the form and takes it out of the collection at once; it is deleted when no code of it can be running.
   void UnloadForm() override;
 
@@ -60,6 +62,8 @@ class Form : public QDialog, public LoadedForm {
   bool placed_ = false;
   bool modal_ = false;
   bool unloaded_ = false;
+  bool wasShown_ = false;
+  Changes missed_;  // while it was hidden
 };
 
 /// The shared instance of a screen, made on first use.

@@ -72,6 +72,11 @@ frmHistoryForm::frmHistoryForm() : ui_(std::make_unique<Ui::frmHistoryForm>()) {
 
 frmHistoryForm::~frmHistoryForm() = default;
 
+QStringList frmHistoryForm::ShowsTables() const {
+  return {u"tblTasks"_s, u"tblTaskComponents"_s, u"tblJobs"_s,    u"tblComponents"_s, u"tblModels"_s,
+          u"tblRig"_s,   u"tblPeople"_s,         u"tblTaskLib"_s, u"tblLocation"_s};
+}
+
 void frmHistoryForm::SetUpGrid() {
   ui_->grid->setObjectName(u"Grid"_s);
   ui_->grid->SetColumns(Columns());

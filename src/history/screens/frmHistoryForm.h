@@ -22,6 +22,7 @@ class frmHistoryForm : public Form {
   void ReloadMe(const HistoryView& view);
   /// Reads the lines anew.
   void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  protected:
   void showEvent(QShowEvent* event) override;

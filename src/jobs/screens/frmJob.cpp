@@ -5,6 +5,7 @@
 #include "core/clock.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/components.h"
 #include "gear/rigs.h"
@@ -70,6 +71,12 @@ frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(th
 
 frmJob::~frmJob() = default;
 
+QStringList frmJob::ShowsTables() const {
+  return {u"tblJobs"_s,     u"tblTasks"_s,  u"tblTaskComponents"_s, u"tblJobComponents"_s,     u"tblComponents"_s,
+          u"tblModels"_s,   u"tblRig"_s,    u"tblRigTypes"_s,       u"tblRigTypeComponents"_s, u"tblPeople"_s,
+          u"tblLocation"_s, u"tblTaskLib"_s};
+}
+
 void frmJob::ConnectControls() {
   connect(ui_->cmdExit, &QPushButton::clicked, this, &frmJob::Cancel);
   connect(ui_->cmdPrev, &QPushButton::clicked, this, [this] { Step(&PreviousJobID, false); });
@@ -96,15 +103,14 @@ bool frmJob::LoadJob(int jobID) {
     busy_ = false;
     return false;
   }
-  {
-    const Bracket bracket;
+  Operation(u"Sub LoadJob"_s, [&] {
     job_ = JobContextOf(shown);
     componentID_ = JobComponentID(shown);
     RememberShown(job_, componentID_);
     LoadSystemInfo();
     LoadWorkingDate();
     LoadTasksGrid();
-  }
+  });
   busy_ = false;
   return true;
 }

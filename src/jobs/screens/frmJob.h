@@ -27,6 +27,7 @@ class frmJob : public Form {
   bool LoadJob(int jobID);
   int JobID() const { return job_.jobID; }
   void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  protected:
   void Cancel() override;  ///< hides the screen

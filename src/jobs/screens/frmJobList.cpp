@@ -58,6 +58,11 @@ frmJobList::frmJobList() : ui_(std::make_unique<Ui::frmJobList>()) {
 
 frmJobList::~frmJobList() = default;
 
+QStringList frmJobList::ShowsTables() const {
+  return {u"tblJobs"_s,   u"tblTasks"_s,  u"tblJobComponents"_s, u"tblComponents"_s,       u"tblRig"_s,
+          u"tblPeople"_s, u"tblModels"_s, u"tblRigTypes"_s,      u"tblRigTypeComponents"_s};
+}
+
 void frmJobList::BuildMenus() {
   QMenu* customers = MenuBar()->addMenu(u"Cus&tomers"_s);
   customers->addAction(u"Add new customer"_s, this, &frmJobList::AddNewCustomer);
@@ -188,7 +193,6 @@ void frmJobList::DeleteSelectedJob() {
   DeleteJob(job, true, cancelled);
   if (cancelled) return;
   LoadJobs(0);
-  Forms::ReloadIfLoaded(u"frmJob"_s);
 }
 
 void frmJobList::AddNewCustomer() {

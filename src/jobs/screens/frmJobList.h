@@ -18,6 +18,7 @@ class frmJobList : public Form {
 
   void SetStart(const JobListStart& start);
   void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

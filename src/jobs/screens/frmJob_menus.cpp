@@ -109,7 +109,6 @@ void frmJob::DeleteThisJob() {
   DeleteJob(gone, true, cancelled);
   busy_ = false;
   if (cancelled) return;
-  Forms::ReloadIfLoaded(u"frmJobList"_s);
   if (const int next = GetNextValidJobID(gone); next != 0) {
     LoadJob(next);
     return;

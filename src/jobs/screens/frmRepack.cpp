@@ -67,6 +67,10 @@ frmRepack::frmRepack() : ui_(std::make_unique<Ui::frmRepack>()) {
 
 frmRepack::~frmRepack() = default;
 
+QStringList frmRepack::ShowsTables() const {
+  return {u"tblRepackByModel"_s, u"tblRepackByType"_s, u"tblTaskLib"_s, u"tblModels"_s, u"tblRigTypes"_s};
+}
+
 /// The name of a row can't be entered: its price takes the cursor, and what is typed goes into the cell.
 void frmRepack::SetUpGrid(Grid& grid, const QString& heading) {
   grid.SetColumns({{.heading = u"ID"_s, .width = 0},

@@ -20,6 +20,7 @@ class frmRepack : public Form {
   /// Used while the program is being set up: saving shows no box.
   void SetSetUpMode(bool setUp) { setUp_ = setUp; }
   void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
   void SetUpGrid(Grid& grid, const QString& heading);

@@ -35,6 +35,11 @@ frmSelectTask::frmSelectTask() : ui_(std::make_unique<Ui::frmSelectTask>()) {
 
 frmSelectTask::~frmSelectTask() = default;
 
+QStringList frmSelectTask::ShowsTables() const {
+  return {u"tblTaskLib"_s, u"tblTaskLibComponentTypes"_s, u"tblTaskLibRigType"_s, u"tblComponentTypes"_s,
+          u"tblRigTypes"_s};
+}
+
 void frmSelectTask::Browse(bool events) { SetUp({.events = events}, false); }
 
 void frmSelectTask::Pick(const LibraryQuestion& question) { SetUp(question, true); }

@@ -20,6 +20,7 @@ class frmSelectTask : public Form {
   void Pick(const LibraryQuestion& question);
   LibraryChoice Choice() const;
   void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -2,6 +2,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
@@ -61,9 +62,12 @@ int JobGearCommands::AddNewRig(const JobContext& job) {
   const QString name = AskNameOfNewRig(job.customerID);
   const int type = name.isEmpty() ? 0 : ChooseTypeOfNewRig();
   if (type == 0) return 0;
-  const int rig = CreateRig(job.customerID, type, name);
-  if (rig != 0) SetJobSystemID(job.jobID, rig);
-  return rig;
+  int rig = 0;
+  const bool written = Operation(u"Sub AddNewRig"_s, [&] {
+    rig = CreateRig(job.customerID, type, name);
+    if (rig != 0) SetJobSystemID(job.jobID, rig);
+  });
+  return written ? rig : 0;
 }
 
 void JobGearCommands::CreateNewJobNewRig() {

@@ -1,8 +1,8 @@
 #include "core/clock.h"
-#include "core/forms.h"
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "gear/components.h"
 #include "gear/locations.h"
 #include "gear/people.h"
@@ -93,6 +93,26 @@ bool ChooseGear(int customerID, const Gear& gear, int& rigID, int& componentID) 
   return PickRig(rigID, owner);
 }
 
+/// Lets the person name the job that was just made; `jobID` is then the job to go to: this one, another one that was
+/// chosen in its place, or 0. A job that is not wanted is deleted.
+void NameNewJob(const QString& proposal, int customerID, int& jobID) {
+  auto& form = SharedForm<frmNewJob>();
+  form.SetJob(jobID, customerID, proposal, Today());
+  form.ShowModal();
+  const QString name = form.Tag() == "cancel"_L1 ? QString() : form.JobName();
+  const int other = form.JobToLoad();
+  const Date started = form.DateStarted();
+  form.UnloadForm();
+
+  if (name.isEmpty() || other != 0) {
+    DeleteJobRow(jobID);
+    jobID = other;
+  } else {
+    SetJobTitle(jobID, name);
+    SetJobDateStarted(jobID, started);
+  }
+}
+
 }  // namespace
 
 bool StartNewJob(int customerID, int rigID, int componentID, Date date) {
@@ -125,26 +145,10 @@ void StartJobDialog(int customerID, int rigID, int componentID, int& jobID, int 
   const QString seed = TitleSeed(rigID);
   if (locationID == 0) locationID = ChooseLocation();
   if (riggerID == 0) riggerID = ChooseRigger();
-  int newJob = 0;
-  CreateNewJob(seed, customerID, rigID, componentID, newJob, riggerID, locationID, date);
-  if (newJob == 0) return;
-
-  auto& form = SharedForm<frmNewJob>();
-  form.SetJob(newJob, customerID, ProposedName(seed, customerID, componentID), Today());
-  form.ShowModal();
-  const QString name = form.Tag() == "cancel"_L1 ? QString() : form.JobName();
-  const int other = form.JobToLoad();
-  const Date started = form.DateStarted();
-  form.UnloadForm();
-
-  if (name.isEmpty() || other != 0) {
-    DeleteJobRow(newJob);
-    jobID = other;
-  } else {
-    SetJobTitle(newJob, name);
-    SetJobDateStarted(newJob, started);
-    Forms::ReloadIfLoaded(u"frmJobList"_s);
-    jobID = newJob;
-  }
+  const bool written = Operation(u"Sub StartJobDialog"_s, [&] {
+    CreateNewJob(seed, customerID, rigID, componentID, jobID, riggerID, locationID, date);
+    if (jobID != 0) NameNewJob(ProposedName(seed, customerID, componentID), customerID, jobID);
+  });
+  if (!written) jobID = 0;
   if (jobID != 0) GotoJob(jobID);
 }

@@ -49,7 +49,7 @@ void PrintPages(const Pages& pages, QWidget* parent) {
                                                                               : QPageLayout::Landscape);
     printer.setFullPage(true);
     printer.setDocName(u"Report"_s);
-    BeforePrompt();
+    const PersonAnswers waits;
     if (printerQuestion(printer, parent)) Print(printer, pages);
   });
 }

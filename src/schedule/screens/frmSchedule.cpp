@@ -79,6 +79,10 @@ frmSchedule::frmSchedule() : ui_(std::make_unique<Ui::frmSchedule>()) {
 
 frmSchedule::~frmSchedule() = default;
 
+QStringList frmSchedule::ShowsTables() const {
+  return {u"tblSchedules"_s, u"tblComponents"_s, u"tblRig"_s, u"tblPeople"_s, u"tblTaskLib"_s, u"tblModels"_s};
+}
+
 void frmSchedule::BuildMenus() {
   QMenuBar* bar = MenuBar();
   bar->addMenu(u"&Delete"_s)->addAction(u"Delete selected item"_s, this, &frmSchedule::DeleteSelection);

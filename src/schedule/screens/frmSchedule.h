@@ -18,6 +18,7 @@ class frmSchedule : public Form {
 
   void SetStart(const ScheduleStart& start);
   void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
   void BuildMenus();

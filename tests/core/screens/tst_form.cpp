@@ -68,8 +68,6 @@ class TestForm : public QObject {
     QVERIFY(!Forms::IsShown(u"FRMSAMPLE"_s));
     form.Show();
     QVERIFY(Forms::IsShown(u"frmsample"_s));
-    Forms::ReloadIfLoaded(u"frmSample"_s);
-    QCOMPARE(form.reloads, 1);
   }
 
   void UnloadingForgetsAtOnceAndDeletesLater() {

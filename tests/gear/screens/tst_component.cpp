@@ -337,7 +337,7 @@ class TestComponent : public QObject {
     OnComponent(shop, shop.canopy, [&](Form& form) {
       shop.screens.WhenShown(u"frmComponentEdit"_s, [&](Form& editor) {
         shop.prompts.ExpectBox(u"keep going"_s, u"NoReload was true, wasn't supposed to be"_s);
-        Forms::ReloadIfLoaded(u"frmComponent"_s);
+        Forms::Find(u"frmComponent"_s)->ReloadForm();
         PressKey(editor, Qt::Key_Escape);
       });
       Click(form, u"cmdEdit"_s);

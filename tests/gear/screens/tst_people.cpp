@@ -278,7 +278,6 @@ class TestPeopleScreens : public QObject {
     QCOMPARE(TextOf(form, u"lblDue"_s), u"(no scheduled tasks)"_s);
     QVERIFY(!IsEnabled(form, u"cmdShowSchedule"_s));
     loft.Add(u"tblSchedules"_s, {{u"rigID"_s, rig}, {u"DateDue"_s, Date::FromParts(2026, 3, 3)}});
-    Forms::ReloadSchedules();
     QCOMPARE(TextOf(form, u"lblDue"_s), u"Has tasks due tomorrow!"_s);
     QVERIFY(IsEnabled(form, u"cmdShowSchedule"_s));
     Click(form, u"cmdNext"_s);

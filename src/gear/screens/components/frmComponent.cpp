@@ -59,6 +59,11 @@ frmComponent::frmComponent() : ui_(std::make_unique<Ui::frmComponent>()) {
 
 frmComponent::~frmComponent() = default;
 
+QStringList frmComponent::ShowsTables() const {
+  return {u"tblComponents"_s, u"tblModels"_s,    u"tblComponentTypes"_s, u"tblRig"_s,
+          u"tblPeople"_s,     u"tblSchedules"_s, u"tblTaskLib"_s};
+}
+
 void frmComponent::MakeMenu() {
   MenuBar()->addAction(u"Edit"_s, this, &frmComponent::Edit);
   auto* photo = MenuBar()->addMenu(u"Photo"_s);
@@ -74,6 +79,11 @@ void frmComponent::MakeMenu() {
 void frmComponent::SetComponent(int component) {
   component_ = component;
   ReloadForm();
+}
+
+void frmComponent::TablesChanged(const Changes& changes) {
+  // What the editor above writes is read when it has closed.
+  if (!noReload_) Form::TablesChanged(changes);
 }
 
 void frmComponent::ReloadForm() {
@@ -172,7 +182,4 @@ void frmComponent::UpdateTask() {
   UpdateScheduledTask(entry, rig, EntryIsOfOneType(entry) ? component_ : 0);
 }
 
-void frmComponent::Changed() {
-  ReloadForm();
-  Forms::ReloadIfLoaded(u"frmComponentList2"_s);
-}
+void frmComponent::Changed() { ReloadForm(); }

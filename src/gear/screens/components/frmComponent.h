@@ -18,12 +18,14 @@ class frmComponent : public Form {
 
   void SetComponent(int component);
   void ReloadForm() override;
-  void ReloadSchedule() override;
+  QStringList ShowsTables() const override;
+  void TablesChanged(const Changes& changes) override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void ReloadSchedule();
   void MakeMenu();
   void ShowFields();
   void ShowOwner();

@@ -47,6 +47,8 @@ frmPeople::frmPeople() : ui_(std::make_unique<Ui::frmPeople>()) {
 
 frmPeople::~frmPeople() = default;
 
+QStringList frmPeople::ShowsTables() const { return {u"tblPeople"_s, u"tblRig"_s, u"tblSchedules"_s}; }
+
 void frmPeople::MakeMenu() {
   mnuMenu_ = MenuBar()->addMenu(u"Menu"_s);
   mnuMenu_->addAction(u"Add New Customer"_s, this, &frmPeople::AddNew)->setObjectName(u"mnuNewCustomer"_s);
@@ -109,10 +111,6 @@ void frmPeople::LoadList() {
 }
 
 void frmPeople::ReloadForm() { Refresh(); }
-
-void frmPeople::ReloadSchedule() {
-  if (current_ > 0) ShowRigsAndDue(current_);
-}
 
 void frmPeople::Refresh() {
   LoadList();

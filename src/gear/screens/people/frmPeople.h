@@ -25,7 +25,7 @@ class frmPeople : public Form {
   void SetOwnerSetup(bool setup) { ownerSetup_ = ownerPending_ = setup; }
   int CurrentPerson() const { return current_; }
   void ReloadForm() override;
-  void ReloadSchedule() override;
+  QStringList ShowsTables() const override;
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -54,6 +54,12 @@ frmGetRig::frmGetRig() : ui_(std::make_unique<Ui::frmGetRig>()) {
 
 frmGetRig::~frmGetRig() = default;
 
+QStringList frmGetRig::ShowsTables() const {
+  return {u"tblRig"_s,           u"tblPeople"_s,   u"tblComponents"_s,        u"tblModels"_s,
+          u"tblManufacturers"_s, u"tblRigTypes"_s, u"tblRigTypeComponents"_s, u"tblComponentTypes"_s,
+          u"tblSchedules"_s,     u"tblTaskLib"_s};
+}
+
 void frmGetRig::MakeMenu() {
   const auto add = [this](QMenu* menu, const QString& text, auto command) {
     QAction* action = menu->addAction(text, this, command);

@@ -19,7 +19,7 @@ class frmGetRig : public Form {
 
   void SetStart(const RigScreenStart& start);
   void ReloadForm() override;
-  void ReloadSchedule() override;
+  QStringList ShowsTables() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -27,6 +27,7 @@ class frmGetRig : public Form {
  private:
   void MakeMenu();
   void ShowRig();
+  void ReloadSchedule();
   void UpdateTask();
   void ShowState();
   void Search();

@@ -1,0 +1,128 @@
+#include "core/store/operation.h"
+
+#include <QScopedValueRollback>
+
+#include "core/failure.h"
+#include "core/forms.h"
+#include "core/store/database.h"
+#include "core/store/undo.h"
+#include "core/trap.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+OperationScope* innermost = nullptr;
+
+bool telling = false;
+
+/// Screens that write while they are told are told of it in turn; one that never comes to rest is left alone.
+constexpr int kMostRounds = 5;
+
+}  // namespace
+
+void TellChanges() {
+  if (telling || OperationScope::AnyStands()) return;
+  const QScopedValueRollback<bool> once(telling, true);
+  for (int round = 0; round < kMostRounds; ++round) {
+    const Changes changes = TakeCommittedChanges();
+    if (changes.IsEmpty()) return;
+    Forms::Tell(changes);
+  }
+}
+
+QString OperationName::Words() const {
+  if (!words.isEmpty()) return words;
+  const QString before = routine.section(u'(', 0, 0).trimmed();
+  const QString name = before.mid(before.lastIndexOf(u' ') + 1);
+  QString text;
+  for (qsizetype i = 0; i < name.size(); ++i) {
+    const QChar c = name[i];
+    if (!c.isLetterOrNumber()) continue;
+    const bool startsWord = i > 0 && c.isUpper() && name[i - 1].isLower();
+    const bool inCapitals = i + 1 < name.size() && name[i + 1].isUpper();
+    if (text.isEmpty())
+      text += c.toUpper();
+    else if (startsWord)
+      text += u' ' + (inCapitals ? c : c.toLower());
+    else
+      text += c;
+  }
+  return text;
+}
+
+OperationScope::OperationScope(const OperationName& name, Record record)
+    : name_(name), record_(record), outer_(innermost), depth_(PersonAnswers::Depth()) {
+  innermost = this;
+  if (IsOutermost()) HoldConnection(true);
+}
+
+OperationScope::~OperationScope() {
+  if (stands_) Leave();
+}
+
+bool OperationScope::Stands() { return innermost != nullptr && innermost->depth_ == PersonAnswers::Depth(); }
+
+bool OperationScope::AnyStands() { return innermost != nullptr; }
+
+/// An error of the file goes on to the operation outside, unless the loop of a box or a dialog lies between.
+bool OperationScope::EndsHere() const { return IsOutermost() || outer_->depth_ != depth_; }
+
+void OperationScope::Leave() {
+  if (IsOutermost()) HoldConnection(false);
+  innermost = outer_;
+  stands_ = false;
+}
+
+bool OperationScope::End() {
+  if (!Commit()) return false;
+  bracket_.Close();
+  TellChanges();
+  return true;
+}
+
+bool OperationScope::Commit() {
+  try {
+    if (IsOutermost()) {
+      if (record_ != Record::Nothing && ConnectionIsOpen)
+        RecordOperation({record_ == Record::Entry ? name_.Words() : QString(), Forms::InFront()});
+      CommitConnection();
+    }
+  } catch (const StorageFailure& failure) {
+    TakeBack(failure.Text());
+    return false;
+  }
+  Leave();
+  return true;
+}
+
+/// An operation around this one finds the file failed as soon as it goes on.
+void OperationScope::TakeBack(const QString& error) {
+  const bool wrote = ConnectionFailedWriting();
+  if (IsOutermost()) RollBackConnection();
+  Leave();
+  bracket_.Close();
+  MsgBox(wrote ? Lines({error, u"Nothing was changed."_s}) : error, name_.routine, Icon::Exclamation);
+}
+
+void OperationScope::EndFailed(const QString& more, OnFailure onFailure) {
+  try {
+    throw;
+  } catch (const StorageFailure& failure) {
+    if (EndsHere()) {
+      TakeBack(failure.Text());
+      return;
+    }
+    Leave();
+    throw;
+  } catch (const std::exception& error) {
+    const QString text = FailureText(error);
+    if (!Commit()) return;
+    if (onFailure == OnFailure::LeaveConnectionOpen)
+      bracket_.LeaveOpen();
+    else
+      bracket_.Close();
+    TellChanges();
+    MsgBox(more.isEmpty() ? text : text + u'\n' + more, name_.routine, Icon::Exclamation);
+  }
+}

@@ -1,0 +1,221 @@
+#include <QtTest>
+
+#include "core/failure.h"
+#include "core/store/access.h"
+#include "core/store/database.h"
+#include "core/store/operation.h"
+#include "core/trap.h"
+#include "support/counting_form.h"
+#include "support/scripted_prompts.h"
+#include "support/throwaway_loft.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kFull = u"There is not enough space on the disk.\nNothing was changed."_s;
+
+void AddRig(const QString& alias, int owner = 0) {
+  Operation(u"Sub AddRig"_s, [&] {
+    Recordset rigs(u"tblRig"_s);
+    rigs.AddNew();
+    rigs.Set(u"RigAlias", alias);
+    rigs.Set(u"OwnerID", owner);
+    rigs.Update();
+  });
+}
+
+/// From here on the file may not grow.
+void FillDisk() {
+  Bracket bracket;
+  sqlite3_stmt* limit = OpenDatabase().Plain("PRAGMA max_page_count = 1");
+  while (OpenDatabase().Step(limit)) {
+  }
+  bracket.Close();
+}
+
+void FreeDisk() { ReleaseDatabaseFile(); }
+
+const QString kLong = QString(200000, u'x');
+
+class Shop {
+ public:
+  ThrowAwayLoft loft;
+  ScriptedPrompts prompts;
+  QStringList Rigs() const { return loft.Rows(u"select RigAlias from tblRig order by ID"_s); }
+};
+
+/// A screen that writes when it is told.
+class WritingForm : public CountingForm {
+ public:
+  using CountingForm::CountingForm;
+  void TablesChanged(const Changes& changes) override {
+    CountingForm::TablesChanged(changes);
+    if (told == 1) Upkeep(u"Sub WritingForm"_s, [] { UpdateTableBySQL(u"update tblRig set RigAlias = 'Tidy'"_s); });
+  }
+};
+
+}  // namespace
+
+class TestOperation : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void NothingIsInTheFileBeforeItsEndNotEvenAtABox() {
+    Shop shop;
+    shop.prompts.ExpectBox(u"Loftkeep"_s, u"half"_s).Meanwhile([&] { QCOMPARE(shop.Rigs(), QStringList()); });
+    QVERIFY(Operation(u"Sub Outer"_s, [&] {
+      AddRig(u"Blue"_s);
+      MsgBox(u"half"_s);
+      AddRig(u"Red"_s);
+    }));
+    QCOMPARE(shop.Rigs(), QStringList({u"Blue"_s, u"Red"_s}));
+    QVERIFY(!ConnectionIsOpen);
+  }
+
+  void ARoutineThatFailsShowsItsBoxAndTheRestGoesOn() {
+    Shop shop;
+    shop.prompts.ExpectBox(u"Sub Inner"_s, u"Type mismatch"_s);
+    QVERIFY(Operation(u"Sub Outer"_s, [&] {
+      AddRig(u"Blue"_s);
+      QVERIFY(!Operation(u"Sub Inner"_s, [&] {
+        AddRig(u"Red"_s);
+        throw Failure(u"Type mismatch"_s);
+      }));
+      AddRig(u"Green"_s);
+    }));
+    QCOMPARE(shop.Rigs(), QStringList({u"Blue"_s, u"Red"_s, u"Green"_s}));
+  }
+
+  void AFullDiskTakesAllOfItBackWithOneBox() {
+    Shop shop;
+    AddRig(u"Old"_s);
+    const QStringList before = shop.loft.Snapshot();
+    FillDisk();
+    bool wentOn = false;
+    shop.prompts.ExpectBox(u"Sub Outer"_s, kFull);
+    QVERIFY(!Operation(u"Sub Outer"_s, [&] {
+      AddRig(u"Blue"_s);
+      Operation(u"Sub Middle"_s, [&] {
+        Trap(u"Sub Inner"_s, [&] { UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1); });
+        wentOn = true;
+      });
+      wentOn = true;
+    }));
+    QVERIFY(!wentOn);
+    QVERIFY(!OperationScope::AnyStands());
+    QVERIFY(!ConnectionIsOpen);
+    FreeDisk();
+    QCOMPARE(shop.loft.Snapshot(), before);
+    AddRig(u"New"_s);
+    QCOMPARE(shop.Rigs(), QStringList({u"Old"_s, u"New"_s}));
+  }
+
+  void NothingIsWrittenAfterAFailureThatWasCaughtOnTheWay() {
+    Shop shop;
+    AddRig(u"Old"_s);
+    const QStringList before = shop.loft.Snapshot();
+    FillDisk();
+    shop.prompts.ExpectBox(u"Sub Outer"_s, kFull);
+    Operation(u"Sub Outer"_s, [&] {
+      try {
+        UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1);
+      } catch (const StorageFailure&) {
+        // a routine that swallows it
+      }
+      AddRig(u"Ghost"_s);
+    });
+    FreeDisk();
+    QCOMPARE(shop.loft.Snapshot(), before);
+  }
+
+  void AFailureBehindABoxIsToldThereAndEndsTheOneOutsideToo() {
+    Shop shop;
+    AddRig(u"Old"_s);
+    const QStringList before = shop.loft.Snapshot();
+    FillDisk();
+    shop.prompts.ExpectBox(u"Loftkeep"_s, u"wait"_s).Meanwhile([] {
+      UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1);
+    });
+    shop.prompts.ExpectBox(u"Sub UpdateTable()"_s, kFull);
+    shop.prompts.ExpectBox(u"Sub Outer"_s, kFull);
+    QVERIFY(!Operation(u"Sub Outer"_s, [&] {
+      AddRig(u"Blue"_s);
+      MsgBox(u"wait"_s);
+    }));
+    FreeDisk();
+    QCOMPARE(shop.loft.Snapshot(), before);
+  }
+
+  void AStatementThatBreaksKeepsWhatWasWritten() {
+    Shop shop;
+    const QString statement = u"update tblRig set RigAlias = 'O'Brien'"_s;
+    shop.prompts.ExpectBox(u"Sub UpdateTableBySQL(MySQL)"_s,
+                           u"Syntax error in string in query expression '%1'.\nThe following SQL statement caused on "
+                           "error\n\nSQL = %1\n"_s.arg(statement));
+    QVERIFY(Operation(u"Sub Outer"_s, [&] {
+      AddRig(u"Blue"_s);
+      UpdateTableBySQL(statement);
+    }));
+    QCOMPARE(shop.Rigs(), QStringList(u"Blue"_s));
+  }
+
+  void ScreensAreToldOnceAfterTheCommit() {
+    Shop shop;
+    const CountingForm rigs(u"frmGetRig"_s, {u"tblRig"_s});
+    const CountingForm people(u"frmPeople"_s, {u"tblPeople"_s});
+    Operation(u"Sub Outer"_s, [&] {
+      AddRig(u"Blue"_s);
+      AddRig(u"Red"_s);
+      QCOMPARE(rigs.told, 0);
+    });
+    QCOMPARE(rigs.told, 1);
+    QCOMPARE(people.told, 0);
+  }
+
+  void ValuesThatStayTheSameAndRememberedIdsAreNoChange() {
+    Shop shop;
+    AddRig(u"Blue"_s);
+    const CountingForm screen(u"frmGetRig"_s, {u"tblRig"_s, u"tblMisc"_s});
+    UpdateTable(u"tblRig"_s, u"RigAlias"_s, u"Blue"_s, u"ID"_s, 1);
+    UpdateTableBySQL(u"update tblMisc set LastJobID = 17"_s);
+    QCOMPARE(screen.told, 0);
+    UpdateTableBySQL(u"update tblMisc set RepackCycle = 120"_s);
+    QCOMPARE(screen.told, 1);
+  }
+
+  void AScreenThatWritesWhenItIsToldIsToldOfIt() {
+    Shop shop;
+    WritingForm screen(u"frmGetRig"_s, {u"tblRig"_s});
+    AddRig(u"Blue"_s);
+    QCOMPARE(screen.told, 2);
+    QCOMPARE(shop.Rigs(), QStringList(u"Tidy"_s));
+  }
+
+  void ATakenBackOperationTellsNobody() {
+    Shop shop;
+    AddRig(u"Old"_s);
+    const CountingForm screen(u"frmGetRig"_s, {u"tblRig"_s});
+    FillDisk();
+    shop.prompts.ExpectBox(u"Sub UpdateTable()"_s, kFull);
+    UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1);
+    FreeDisk();
+    QCOMPARE(screen.told, 0);
+  }
+
+  void NamesAreMadeOfTheRoutinesOwn() {
+    QCOMPARE(OperationName(u"Sub DeleteAllTasks"_s).Words(), u"Delete all tasks"_s);
+    QCOMPARE(OperationName(u"Sub UpdateTableBySQL(MySQL)"_s).Words(), u"Update table by SQL"_s);
+    QCOMPARE(OperationName(u"Function GetValueFromTable "_s).Words(), u"Get value from table"_s);
+    QCOMPARE(OperationName(u"Sub DeleteJob"_s, u"Delete job Blue"_s).Words(), u"Delete job Blue"_s);
+  }
+
+  void TheFileIsNotLetGoOfInTheMiddle() {
+    Shop shop;
+    shop.prompts.ExpectBox(u"Sub Outer"_s, u"The database file is in use."_s);
+    Operation(u"Sub Outer"_s, [] { ReleaseDatabaseFile(); });
+  }
+};
+
+QTEST_GUILESS_MAIN(TestOperation)
+#include "tst_operation.moc"
