@@ -43,6 +43,12 @@ void frmMain2::BuildMenu() {
     QAction* action = menu->addAction(line.caption);
     action->setEnabled(line.run != nullptr);
     connect(action, &QAction::triggered, this, [run = line.run] { run(); });
+    if (!line.now) continue;
+    connect(menu, &QMenu::aboutToShow, action, [action, line] {
+      const std::optional<QString> now = line.now();
+      action->setText(now.value_or(line.caption));
+      action->setEnabled(now.has_value());
+    });
   }
 }
 

@@ -9,10 +9,14 @@
 #include "core/screens.h"
 #include "core/shell/frmMain2.h"
 #include "core/shell/frmMenu.h"
+#include "core/shell/frmRecentChanges.h"
 #include "core/shell/start_up.h"
 #include "core/shell/support_listing.h"
 #include "core/shell/window_habits.h"
 #include "core/store/access.h"
+#include "core/store/undo.h"
+#include "core/widgets/screen_routines.h"
+#include "core/widgets/undo_keys.h"
 #include "dbcare/check_fields.h"
 #include "dbcare/screens.h"
 #include "gear/screens.h"
@@ -115,6 +119,17 @@ void LoadAllForms() {
   ArrangeForms();
 }
 
+void ShowRecentChanges() { SharedForm<frmRecentChanges>().Show(); }
+
+void UndoLast() { UndoOnScreen(SharedForm<frmMain2>()); }
+
+void RedoLast() { RedoOnScreen(SharedForm<frmMain2>()); }
+
+std::optional<QString> Naming(const QString& verb, const std::optional<RecordedOperation>& operation) {
+  if (!operation) return std::nullopt;
+  return u"%1 \"%2\""_s.arg(verb, WithoutMnemonic(operation->name));
+}
+
 const HomeCommand kLater;  // its screen is not there yet
 
 }  // namespace
@@ -183,6 +198,10 @@ std::vector<MenuLine> MainMenu() {
       {tools, QString(), {}},
       {tools, u"Reconstruct schedules"_s, ReconstructSchedules},
       {tools, u"Audit schedule entries"_s, AuditScheduleTaskLib},
+      {tools, QString(), {}},
+      {tools, u"Undo"_s, UndoLast, [] { return Naming(u"Undo"_s, NextUndo()); }},
+      {tools, u"Redo"_s, RedoLast, [] { return Naming(u"Redo"_s, NextRedo()); }},
+      {tools, u"Recent changes"_s, ShowRecentChanges},
       {email, u"Email single statement "_s, kLater},
       {email, u"Email statements to all customers"_s, kLater},
       {email, u"Email misc message"_s, kLater},

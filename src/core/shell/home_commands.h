@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// What a person can start from the home page, its menu bar and the floating menu. A command without a routine belongs
@@ -15,6 +16,8 @@ struct MenuLine {
   QStringList menus;
   QString caption;
   HomeCommand run;
+  /// For a line that says more than its caption: what it reads now; nothing while there is nothing to do.
+  std::function<std::optional<QString>()> now = nullptr;
 };
 
 /// The menu bar of the home page, in its order.

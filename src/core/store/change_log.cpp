@@ -84,7 +84,10 @@ qsizetype ChangeLog::PutHead(Kind kind, int table, qint64 rowid, int columns) {
 }
 
 void ChangeLog::Row(sqlite3* handle, int what, const char* table, qint64 oldRow, qint64 newRow) {
-  if (std::strcmp(table, kUndoTable) == 0) return;
+  if (std::strcmp(table, kUndoTable) == 0) {
+    changes_.Note(QString::fromLatin1(kUndoTable));
+    return;
+  }
   const int place = PlaceOf(table);
   const int columns = sqlite3_preupdate_count(handle);
   sqlite3_value* old = nullptr;

@@ -61,5 +61,5 @@ class ChangeLog {
   bool inRemembered_ = false;  // the table met last is the one that remembers
 };
 
-/// The table of the record itself, which no log speaks of.
+/// The table of the record itself, whose rows no log keeps.
 inline constexpr char kUndoTable[] = "loft_operations";

@@ -14,6 +14,7 @@
 #include "core/trap.h"
 #include "core/widgets/qt_prompts.h"
 #include "core/widgets/screen_routines.h"
+#include "core/widgets/undo_keys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +40,7 @@ QWidget* Form::Caller() const {
 
 Form::Form() : QDialog(nullptr, Qt::Window) {
   setAttribute(Qt::WA_QuitOnClose, false);
+  GiveUndoKeys(this);
   Forms::Add(this);
 }
 
@@ -173,6 +175,11 @@ void Form::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   wasShown_ = true;
   if (const Changes missed = std::exchange(missed_, Changes()); !missed.IsEmpty()) TablesChanged(missed);
+}
+
+void Form::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Forms::SetInFront(FormName());
 }
 
 void Form::hideEvent(QHideEvent* event) {

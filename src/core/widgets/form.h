@@ -47,6 +47,7 @@ class Form : public QDialog, public LoadedForm {
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   QWidget* Caller() const;

@@ -1,0 +1,54 @@
+#include "core/widgets/undo_keys.h"
+
+#include <QShortcut>
+#include <QToolTip>
+
+#include "core/format.h"
+#include "core/prompts.h"
+#include "core/store/operation.h"
+#include "core/store/undo.h"
+#include "core/widgets/form.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Says what has happened, without asking for an answer.
+void Tell(const Form& form, const QString& text) { QToolTip::showText(form.mapToGlobal(form.rect().center()), text); }
+
+bool IsConfirmed(const Form& form, const RecordedOperation& operation, const QString& verb) {
+  if (operation.screen.isEmpty() || operation.screen == form.FormName()) return true;
+  return Ask(Lines({u"%1 \"%2\"?"_s.arg(verb, operation.name),
+                    u"It was done on another screen, on %1."_s.arg(Format(operation.at, u"mm/dd/yyyy h:nn AM/PM"_s))}),
+             verb, Buttons::YesNo, Answer::Yes) == Answer::Yes;
+}
+
+bool Run(Form& form, const QString& verb, const QString& done, std::optional<RecordedOperation> (*next)(),
+         bool (*run)()) {
+  if (OperationScope::AnyStands()) return false;  // below a box or a dialog of one that has not ended
+  const auto operation = next();
+  if (!operation) {
+    Tell(form, u"There is nothing to %1."_s.arg(verb.toLower()));
+    return false;
+  }
+  if (!IsConfirmed(form, *operation, verb) || !run()) return false;
+  Tell(form, done + operation->name);
+  return true;
+}
+
+}  // namespace
+
+void GiveUndoKeys(Form* form) {
+  const auto give = [form](QKeySequence::StandardKey keys, bool (*run)(Form&)) {
+    for (const QKeySequence& key : QKeySequence::keyBindings(keys)) {
+      auto* shortcut = new QShortcut(key, form);
+      QObject::connect(shortcut, &QShortcut::activated, form, [form, run] { run(*form); });
+    }
+  };
+  give(QKeySequence::Undo, &UndoOnScreen);
+  give(QKeySequence::Redo, &RedoOnScreen);
+}
+
+bool UndoOnScreen(Form& form) { return Run(form, u"Undo"_s, u"Undone: "_s, &NextUndo, &UndoOperation); }
+
+bool RedoOnScreen(Form& form) { return Run(form, u"Redo"_s, u"Done again: "_s, &NextRedo, &RedoOperation); }
