@@ -4,6 +4,7 @@ packages=(
   cmake                  # build, tests and packages
   ninja-build            # what CMake drives
   ccache                 # makes the second build quick
+  lld                    # links the tests
   qt6-base-dev           # screens, printing, Qt Test
   qt6-svg-dev            # the icon, sharp at every size
   qt6-wayland            # native windows on a Wayland desktop

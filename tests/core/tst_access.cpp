@@ -5,6 +5,7 @@
 #include "core/store/database.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -401,5 +402,5 @@ class AccessTest : public QObject {
   std::unique_ptr<StoreFixture> store_;
 };
 
-QTEST_GUILESS_MAIN(AccessTest)
+LOFT_TEST_MAIN(AccessTest)
 #include "tst_access.moc"

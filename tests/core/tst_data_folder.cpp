@@ -11,6 +11,7 @@
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -151,5 +152,5 @@ class DataFolderTest : public QObject {
   std::unique_ptr<DataHome> home_;
 };
 
-QTEST_GUILESS_MAIN(DataFolderTest)
+LOFT_TEST_MAIN(DataFolderTest)
 #include "tst_data_folder.moc"

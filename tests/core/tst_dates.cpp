@@ -4,6 +4,7 @@
 #include "core/failure.h"
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -218,5 +219,5 @@ class TestDates : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TestDates)
+LOFT_TEST_MAIN(TestDates)
 #include "tst_dates.moc"

@@ -3,6 +3,7 @@
 #include "core/default_rows.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -106,5 +107,5 @@ class DefaultRowsTest : public QObject {
   std::unique_ptr<StoreFixture> store_;
 };
 
-QTEST_GUILESS_MAIN(DefaultRowsTest)
+LOFT_TEST_MAIN(DefaultRowsTest)
 #include "tst_default_rows.moc"

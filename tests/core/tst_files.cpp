@@ -7,6 +7,7 @@
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -228,5 +229,5 @@ class TestFiles : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TestFiles)
+LOFT_TEST_MAIN(TestFiles)
 #include "tst_files.moc"

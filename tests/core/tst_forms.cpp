@@ -2,6 +2,7 @@
 
 #include "core/forms.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -64,5 +65,5 @@ class TestForms : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TestForms)
+LOFT_TEST_MAIN(TestForms)
 #include "tst_forms.moc"

@@ -5,6 +5,7 @@
 #include "core/store/jet.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -122,5 +123,5 @@ class JetTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(JetTest)
+LOFT_TEST_MAIN(JetTest)
 #include "tst_jet.moc"

@@ -3,6 +3,7 @@
 #include "core/lists.h"
 #include "core/store/access.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -111,5 +112,5 @@ class TestLists : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestLists)
+LOFT_TEST_MAIN(TestLists)
 #include "tst_lists.moc"

@@ -7,6 +7,7 @@
 #include "core/trap.h"
 #include "support/counting_form.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -217,5 +218,5 @@ class TestOperation : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestOperation)
+LOFT_TEST_MAIN(TestOperation)
 #include "tst_operation.moc"

@@ -9,6 +9,7 @@
 #include "support/power_cut.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
+#include "support/test_program.h"
 
 namespace {
 
@@ -74,5 +75,5 @@ class PowerCutTest : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(PowerCutTest)
+LOFT_TEST_MAIN(PowerCutTest)
 #include "tst_power_cut.moc"

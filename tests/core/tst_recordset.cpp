@@ -7,6 +7,7 @@
 #include "core/store/database.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -437,5 +438,5 @@ class RecordsetTest : public QObject {
   std::unique_ptr<ScriptedPrompts> prompts_;
 };
 
-QTEST_GUILESS_MAIN(RecordsetTest)
+LOFT_TEST_MAIN(RecordsetTest)
 #include "tst_recordset.moc"

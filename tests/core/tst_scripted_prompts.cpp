@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/trap.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -141,5 +142,5 @@ class TestScriptedPrompts : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TestScriptedPrompts)
+LOFT_TEST_MAIN(TestScriptedPrompts)
 #include "tst_scripted_prompts.moc"

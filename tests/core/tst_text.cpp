@@ -2,6 +2,7 @@
 
 #include "core/platform.h"
 #include "core/text.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -156,5 +157,5 @@ class TestText : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TestText)
+LOFT_TEST_MAIN(TestText)
 #include "tst_text.moc"

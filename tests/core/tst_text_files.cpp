@@ -7,6 +7,7 @@
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -165,5 +166,5 @@ class TestTextFiles : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TestTextFiles)
+LOFT_TEST_MAIN(TestTextFiles)
 #include "tst_text_files.moc"

@@ -6,6 +6,7 @@
 #include "support/counting_form.h"
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -232,5 +233,5 @@ class TestUndo : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestUndo)
+LOFT_TEST_MAIN(TestUndo)
 #include "tst_undo.moc"

@@ -6,6 +6,7 @@
 #include "core/format.h"
 #include "core/money.h"
 #include "core/value.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -237,5 +238,5 @@ class TestValues : public QObject {
   }
 };
 
-QTEST_APPLESS_MAIN(TestValues)
+LOFT_TEST_MAIN(TestValues)
 #include "tst_values.moc"

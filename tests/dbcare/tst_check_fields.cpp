@@ -4,6 +4,7 @@
 #include "dbcare/check_fields.h"
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -135,5 +136,5 @@ class CheckFieldsTest : public QObject {
   std::unique_ptr<StoreFixture> store_;
 };
 
-QTEST_GUILESS_MAIN(CheckFieldsTest)
+LOFT_TEST_MAIN(CheckFieldsTest)
 #include "tst_check_fields.moc"

@@ -12,6 +12,7 @@
 #include "support/exported_loft.h"
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -252,5 +253,5 @@ class ExportFilesTest : public QObject {
   QString target_;
 };
 
-QTEST_GUILESS_MAIN(ExportFilesTest)
+LOFT_TEST_MAIN(ExportFilesTest)
 #include "tst_export_files.moc"

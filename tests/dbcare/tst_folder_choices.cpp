@@ -8,6 +8,7 @@
 #include "support/exported_loft.h"
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -127,5 +128,5 @@ class FolderChoicesTest : public QObject {
   std::unique_ptr<DataHome> home_;
 };
 
-QTEST_GUILESS_MAIN(FolderChoicesTest)
+LOFT_TEST_MAIN(FolderChoicesTest)
 #include "tst_folder_choices.moc"

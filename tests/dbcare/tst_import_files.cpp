@@ -11,6 +11,7 @@
 #include "support/exported_loft.h"
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -251,5 +252,5 @@ class ImportFilesTest : public QObject {
   QString export_;
 };
 
-QTEST_GUILESS_MAIN(ImportFilesTest)
+LOFT_TEST_MAIN(ImportFilesTest)
 #include "tst_import_files.moc"

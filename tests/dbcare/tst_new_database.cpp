@@ -10,6 +10,7 @@
 #include "support/data_home.h"
 #include "support/exported_loft.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -154,5 +155,5 @@ class NewDatabaseTest : public QObject {
   std::unique_ptr<DataHome> home_;
 };
 
-QTEST_GUILESS_MAIN(NewDatabaseTest)
+LOFT_TEST_MAIN(NewDatabaseTest)
 #include "tst_new_database.moc"

@@ -6,6 +6,7 @@
 #include "dbcare/version_file.h"
 #include "support/data_home.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -96,5 +97,5 @@ class VersionFileTest : public QObject {
   std::unique_ptr<DataHome> home_;
 };
 
-QTEST_GUILESS_MAIN(VersionFileTest)
+LOFT_TEST_MAIN(VersionFileTest)
 #include "tst_version_file.moc"

@@ -10,6 +10,7 @@
 #include "gear/rigs.h"
 #include "gear/service_lives.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -156,5 +157,5 @@ class TestCatalogueEdges : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestCatalogueEdges)
+LOFT_TEST_MAIN(TestCatalogueEdges)
 #include "tst_catalogue_edges.moc"

@@ -7,6 +7,7 @@
 #include "gear/components.h"
 #include "gear/models.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -94,5 +95,5 @@ class TestComponentEdges : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestComponentEdges)
+LOFT_TEST_MAIN(TestComponentEdges)
 #include "tst_component_edges.moc"

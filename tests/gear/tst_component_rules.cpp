@@ -9,6 +9,7 @@
 #include "gear/rig_rules.h"
 #include "gear/rigs.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -447,5 +448,5 @@ class TestComponentRules : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestComponentRules)
+LOFT_TEST_MAIN(TestComponentRules)
 #include "tst_component_rules.moc"

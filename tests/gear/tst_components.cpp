@@ -5,6 +5,7 @@
 #include "gear/models.h"
 #include "gear/rigs.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -67,5 +68,5 @@ class TestComponents : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestComponents)
+LOFT_TEST_MAIN(TestComponents)
 #include "tst_components.moc"

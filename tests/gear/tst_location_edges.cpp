@@ -3,6 +3,7 @@
 #include "gear/location_rules.h"
 #include "gear/locations.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -46,5 +47,5 @@ class TestLocationEdges : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestLocationEdges)
+LOFT_TEST_MAIN(TestLocationEdges)
 #include "tst_location_edges.moc"

@@ -2,6 +2,7 @@
 
 #include "gear/locations.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -63,5 +64,5 @@ class TestLocations : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestLocations)
+LOFT_TEST_MAIN(TestLocations)
 #include "tst_locations.moc"

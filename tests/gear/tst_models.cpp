@@ -9,6 +9,7 @@
 #include "gear/models_file.h"
 #include "gear/service_lives.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -362,5 +363,5 @@ class TestModels : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestModels)
+LOFT_TEST_MAIN(TestModels)
 #include "tst_models.moc"

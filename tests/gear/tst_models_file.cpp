@@ -4,6 +4,7 @@
 #include "core/store/connection.h"
 #include "gear/models_file.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -140,5 +141,5 @@ class TestModelsFile : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestModelsFile)
+LOFT_TEST_MAIN(TestModelsFile)
 #include "tst_models_file.moc"

@@ -2,6 +2,7 @@
 
 #include "gear/people.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -190,5 +191,5 @@ class TestPeople : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestPeople)
+LOFT_TEST_MAIN(TestPeople)
 #include "tst_people.moc"

@@ -11,6 +11,7 @@
 #include "gear/rigs.h"
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -457,5 +458,5 @@ class TestPersonRules : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestPersonRules)
+LOFT_TEST_MAIN(TestPersonRules)
 #include "tst_person_rules.moc"

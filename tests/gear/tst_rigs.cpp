@@ -10,6 +10,7 @@
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -366,5 +367,5 @@ class TestRigs : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestRigs)
+LOFT_TEST_MAIN(TestRigs)
 #include "tst_rigs.moc"

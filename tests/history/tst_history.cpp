@@ -4,6 +4,7 @@
 #include "gear/rigs.h"
 #include "history/history_texts.h"
 #include "history/sample_history.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -201,5 +202,5 @@ class TestHistory : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestHistory)
+LOFT_TEST_MAIN(TestHistory)
 #include "tst_history.moc"

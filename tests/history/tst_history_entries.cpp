@@ -5,6 +5,7 @@
 #include "history/history_entries.h"
 #include "history/sample_history.h"
 #include "schedule/schedule.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -309,5 +310,5 @@ class TestHistoryEntries : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestHistoryEntries)
+LOFT_TEST_MAIN(TestHistoryEntries)
 #include "tst_history_entries.moc"

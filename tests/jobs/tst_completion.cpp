@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include "jobs/sample_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -191,5 +192,5 @@ class TestCompletion : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestCompletion)
+LOFT_TEST_MAIN(TestCompletion)
 #include "tst_completion.moc"

@@ -3,6 +3,7 @@
 #include "jobs/custom_entry.h"
 #include "jobs/library_entry.h"
 #include "jobs/sample_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -125,5 +126,5 @@ class TestCustomEntry : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestCustomEntry)
+LOFT_TEST_MAIN(TestCustomEntry)
 #include "tst_custom_entry.moc"

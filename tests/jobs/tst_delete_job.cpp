@@ -4,6 +4,7 @@
 #include "jobs/sample_job.h"
 #include "schedule/schedule.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -99,5 +100,5 @@ class TestDeleteJob : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestDeleteJob)
+LOFT_TEST_MAIN(TestDeleteJob)
 #include "tst_delete_job.moc"

@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include "jobs/random_work.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,5 +63,5 @@ class TestDueDates : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestDueDates)
+LOFT_TEST_MAIN(TestDueDates)
 #include "tst_due_dates.moc"

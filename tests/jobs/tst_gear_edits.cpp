@@ -3,6 +3,7 @@
 #include "jobs/gear_edits.h"
 #include "jobs/gear_shop.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -67,5 +68,5 @@ class TestGearEdits : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestGearEdits)
+LOFT_TEST_MAIN(TestGearEdits)
 #include "tst_gear_edits.moc"

@@ -5,6 +5,7 @@
 #include "jobs/install_component.h"
 #include "jobs/remove_component.h"
 #include "jobs/rig_sync.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -114,5 +115,5 @@ class TestGearWalk : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestGearWalk)
+LOFT_TEST_MAIN(TestGearWalk)
 #include "tst_gear_walk.moc"

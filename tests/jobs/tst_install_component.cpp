@@ -5,6 +5,7 @@
 #include "jobs/install_component.h"
 #include "schedule/schedule.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -269,5 +270,5 @@ class TestInstallComponent : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestInstallComponent)
+LOFT_TEST_MAIN(TestInstallComponent)
 #include "tst_install_component.moc"

@@ -2,6 +2,7 @@
 
 #include "jobs/job_list.h"
 #include "jobs/sample_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -54,5 +55,5 @@ class TestJobList : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestJobList)
+LOFT_TEST_MAIN(TestJobList)
 #include "tst_job_list.moc"

@@ -2,6 +2,7 @@
 
 #include "jobs/job_components.h"
 #include "jobs/sample_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -193,5 +194,5 @@ class TestJobRecords : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestJobRecords)
+LOFT_TEST_MAIN(TestJobRecords)
 #include "tst_job_records.moc"

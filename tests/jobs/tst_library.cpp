@@ -7,6 +7,7 @@
 #include "jobs/library_parts.h"
 #include "jobs/sample_job.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -415,5 +416,5 @@ class TestLibrary : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestLibrary)
+LOFT_TEST_MAIN(TestLibrary)
 #include "tst_library.moc"

@@ -4,6 +4,7 @@
 #include "jobs/job_lines.h"
 #include "jobs/line_edits.h"
 #include "jobs/sample_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -249,5 +250,5 @@ class TestLineEdits : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestLineEdits)
+LOFT_TEST_MAIN(TestLineEdits)
 #include "tst_line_edits.moc"

@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include "jobs/sample_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -210,5 +211,5 @@ class TestLines : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestLines)
+LOFT_TEST_MAIN(TestLines)
 #include "tst_lines.moc"

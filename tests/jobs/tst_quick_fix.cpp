@@ -3,6 +3,7 @@
 #include "jobs/quick_fix.h"
 #include "jobs/sample_job.h"
 #include "jobs/schedule_jobs.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -98,5 +99,5 @@ class TestQuickFix : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestQuickFix)
+LOFT_TEST_MAIN(TestQuickFix)
 #include "tst_quick_fix.moc"

@@ -3,6 +3,7 @@
 #include "jobs/gear_shop.h"
 #include "jobs/install_component.h"
 #include "jobs/remove_component.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -243,5 +244,5 @@ class TestRemoveComponent : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestRemoveComponent)
+LOFT_TEST_MAIN(TestRemoveComponent)
 #include "tst_remove_component.moc"

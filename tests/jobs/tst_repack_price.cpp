@@ -7,6 +7,7 @@
 #include "jobs/sample_job.h"
 #include "schedule/schedule.h"
 #include "schedule/task_library.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -214,5 +215,5 @@ class TestRepackPrice : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestRepackPrice)
+LOFT_TEST_MAIN(TestRepackPrice)
 #include "tst_repack_price.moc"

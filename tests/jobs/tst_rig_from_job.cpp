@@ -2,6 +2,7 @@
 
 #include "jobs/gear_shop.h"
 #include "jobs/rig_from_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -214,5 +215,5 @@ class TestRigFromJob : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestRigFromJob)
+LOFT_TEST_MAIN(TestRigFromJob)
 #include "tst_rig_from_job.moc"

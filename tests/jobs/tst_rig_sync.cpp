@@ -3,6 +3,7 @@
 #include "jobs/gear_shop.h"
 #include "jobs/rig_sync.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -134,5 +135,5 @@ class TestRigSync : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestRigSync)
+LOFT_TEST_MAIN(TestRigSync)
 #include "tst_rig_sync.moc"

@@ -2,6 +2,7 @@
 
 #include "jobs/sample_job.h"
 #include "jobs/task_edit.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,5 +35,5 @@ class TestTaskEditRules : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestTaskEditRules)
+LOFT_TEST_MAIN(TestTaskEditRules)
 #include "tst_task_edit.moc"

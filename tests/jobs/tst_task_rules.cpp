@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include "jobs/sample_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -126,5 +127,5 @@ class TestTaskRules : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestTaskRules)
+LOFT_TEST_MAIN(TestTaskRules)
 #include "tst_task_rules.moc"

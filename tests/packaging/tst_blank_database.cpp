@@ -6,6 +6,7 @@
 #include "dbcare/check_fields.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,5 +52,5 @@ void TestBlankDatabase::HoldsNoRow() {
 
 void TestBlankDatabase::LeavesNoJournal() { QVERIFY(!QFile::exists(QStringLiteral(BLANK_DATABASE) + u"-journal"_s)); }
 
-QTEST_GUILESS_MAIN(TestBlankDatabase)
+LOFT_TEST_MAIN(TestBlankDatabase)
 #include "tst_blank_database.moc"

@@ -5,6 +5,7 @@
 #include "reports/paint_page.h"
 #include "reports/primitives.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -270,5 +271,5 @@ class TestCanvas : public QObject {
   }
 };
 
-QTEST_MAIN(TestCanvas)
+LOFT_TEST_MAIN(TestCanvas)
 #include "tst_canvas.moc"

@@ -5,6 +5,7 @@
 #include "reports/reports.h"
 #include "support/data_folder_here.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -158,5 +159,5 @@ class TestFonts : public QObject {
   }
 };
 
-QTEST_MAIN(TestFonts)
+LOFT_TEST_MAIN(TestFonts)
 #include "tst_fonts.moc"

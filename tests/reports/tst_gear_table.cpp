@@ -2,6 +2,7 @@
 
 #include "reports/gear_table.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -75,5 +76,5 @@ class TestGearTable : public QObject {
   }
 };
 
-QTEST_MAIN(TestGearTable)
+LOFT_TEST_MAIN(TestGearTable)
 #include "tst_gear_table.moc"

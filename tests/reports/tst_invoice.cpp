@@ -8,6 +8,7 @@
 #include "reports/reports.h"
 #include "support/data_folder_here.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -387,5 +388,5 @@ class TestInvoice : public QObject {
   }
 };
 
-QTEST_MAIN(TestInvoice)
+LOFT_TEST_MAIN(TestInvoice)
 #include "tst_invoice.moc"

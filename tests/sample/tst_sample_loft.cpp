@@ -15,6 +15,7 @@
 #include "support/data_home.h"
 #include "support/fixed_clock.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -135,5 +136,5 @@ class SampleLoftTest : public QObject {
   std::unique_ptr<SampleHome> sample_;
 };
 
-QTEST_GUILESS_MAIN(SampleLoftTest)
+LOFT_TEST_MAIN(SampleLoftTest)
 #include "tst_sample_loft.moc"

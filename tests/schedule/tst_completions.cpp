@@ -3,6 +3,7 @@
 #include "schedule/completions.h"
 #include "schedule/sample_rig.h"
 #include "schedule/task_library.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -147,5 +148,5 @@ class TestCompletions : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestCompletions)
+LOFT_TEST_MAIN(TestCompletions)
 #include "tst_completions.moc"

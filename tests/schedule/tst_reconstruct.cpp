@@ -2,6 +2,7 @@
 
 #include "schedule/reconstruct.h"
 #include "schedule/sample_rig.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -114,5 +115,5 @@ class TestReconstruct : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestReconstruct)
+LOFT_TEST_MAIN(TestReconstruct)
 #include "tst_reconstruct.moc"

@@ -3,6 +3,7 @@
 #include "schedule/rig_audit.h"
 #include "schedule/sample_rig.h"
 #include "schedule/schedule.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -153,5 +154,5 @@ class TestRigAudit : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestRigAudit)
+LOFT_TEST_MAIN(TestRigAudit)
 #include "tst_rig_audit.moc"

@@ -4,6 +4,7 @@
 #include "schedule/sample_rig.h"
 #include "schedule/schedule.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -272,5 +273,5 @@ class TestSchedule : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestSchedule)
+LOFT_TEST_MAIN(TestSchedule)
 #include "tst_schedule.moc"

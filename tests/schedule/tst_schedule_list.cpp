@@ -3,6 +3,7 @@
 #include "schedule/sample_rig.h"
 #include "schedule/schedule.h"
 #include "schedule/schedule_list.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -139,5 +140,5 @@ class TestScheduleList : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestScheduleList)
+LOFT_TEST_MAIN(TestScheduleList)
 #include "tst_schedule_list.moc"

@@ -6,6 +6,7 @@
 #include "schedule/schedule.h"
 #include "schedule/scheduled_task.h"
 #include "support/counting_form.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -196,5 +197,5 @@ class TestScheduledTask : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestScheduledTask)
+LOFT_TEST_MAIN(TestScheduledTask)
 #include "tst_scheduled_task.moc"

@@ -2,6 +2,7 @@
 
 #include "schedule/sample_rig.h"
 #include "schedule/service_life.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -88,5 +89,5 @@ class TestServiceLife : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestServiceLife)
+LOFT_TEST_MAIN(TestServiceLife)
 #include "tst_service_life.moc"

@@ -2,6 +2,7 @@
 
 #include "schedule/time_left.h"
 #include "support/fixed_clock.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -45,5 +46,5 @@ class TestTimeLeft : public QObject {
   }
 };
 
-QTEST_GUILESS_MAIN(TestTimeLeft)
+LOFT_TEST_MAIN(TestTimeLeft)
 #include "tst_time_left.moc"

@@ -28,6 +28,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -378,5 +379,5 @@ class Tour : public QObject {
   std::unique_ptr<DataHome> home_;
 };
 
-QTEST_MAIN(Tour)
+LOFT_TEST_MAIN(Tour)
 #include "tst_tour.moc"

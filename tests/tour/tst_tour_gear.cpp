@@ -23,6 +23,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "tour/sample_tour.h"
 
 using namespace Qt::StringLiterals;
@@ -219,5 +220,5 @@ class TourOfGear : public QObject {
   int reserve_ = 0;
 };
 
-QTEST_MAIN(TourOfGear)
+LOFT_TEST_MAIN(TourOfGear)
 #include "tst_tour_gear.moc"

@@ -6,6 +6,7 @@
 #include "jobs/screens.h"
 #include "jobs/screens/library_shop.h"
 #include "schedule/schedule.h"
+#include "support/test_program.h"
 #include "tour/sample_tour.h"
 
 using namespace Qt::StringLiterals;
@@ -203,5 +204,5 @@ class TourOfJobs : public QObject {
   int job_ = 0;
 };
 
-QTEST_MAIN(TourOfJobs)
+LOFT_TEST_MAIN(TourOfJobs)
 #include "tst_tour_jobs.moc"

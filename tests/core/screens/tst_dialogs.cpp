@@ -12,6 +12,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -224,5 +225,5 @@ class TestDialogs : public QObject {
   }
 };
 
-QTEST_MAIN(TestDialogs)
+LOFT_TEST_MAIN(TestDialogs)
 #include "tst_dialogs.moc"

@@ -16,6 +16,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -289,5 +290,5 @@ class TestForm : public QObject {
   }
 };
 
-QTEST_MAIN(TestForm)
+LOFT_TEST_MAIN(TestForm)
 #include "tst_form.moc"

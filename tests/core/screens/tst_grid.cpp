@@ -8,6 +8,7 @@
 #include "core/widgets/theme.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -361,5 +362,5 @@ class TestGrid : public QObject {
   }
 };
 
-QTEST_MAIN(TestGrid)
+LOFT_TEST_MAIN(TestGrid)
 #include "tst_grid.moc"

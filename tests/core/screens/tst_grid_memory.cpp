@@ -22,6 +22,7 @@
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -213,5 +214,5 @@ class TestGridMemory : public QObject {
   }
 };
 
-QTEST_MAIN(TestGridMemory)
+LOFT_TEST_MAIN(TestGridMemory)
 #include "tst_grid_memory.moc"

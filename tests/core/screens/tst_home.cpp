@@ -19,6 +19,7 @@
 #include "support/screens/keyboard.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -316,5 +317,5 @@ class HomeTest : public QObject {
   std::unique_ptr<ThrowAwayLoft> loft_;
 };
 
-QTEST_MAIN(HomeTest)
+LOFT_TEST_MAIN(HomeTest)
 #include "tst_home.moc"

@@ -16,6 +16,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -372,5 +373,5 @@ class HomeCommandsTest : public QObject {
   }
 };
 
-QTEST_MAIN(HomeCommandsTest)
+LOFT_TEST_MAIN(HomeCommandsTest)
 #include "tst_home_commands.moc"

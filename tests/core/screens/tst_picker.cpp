@@ -9,6 +9,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -458,5 +459,5 @@ class TestPicker : public QObject {
   }
 };
 
-QTEST_MAIN(TestPicker)
+LOFT_TEST_MAIN(TestPicker)
 #include "tst_picker.moc"

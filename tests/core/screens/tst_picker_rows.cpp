@@ -3,6 +3,7 @@
 #include "core/picker.h"
 #include "core/screens/picker_rows.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -51,5 +52,5 @@ class TestPickerRows : public QObject {
   }
 };
 
-QTEST_MAIN(TestPickerRows)
+LOFT_TEST_MAIN(TestPickerRows)
 #include "tst_picker_rows.moc"

@@ -11,6 +11,7 @@
 #include "core/widgets/qt_prompts.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -149,5 +150,5 @@ class TestQtPrompts : public QObject {
   }
 };
 
-QTEST_MAIN(TestQtPrompts)
+LOFT_TEST_MAIN(TestQtPrompts)
 #include "tst_qt_prompts.moc"

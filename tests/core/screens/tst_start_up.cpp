@@ -20,6 +20,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -460,5 +461,5 @@ class StartUpTest : public QObject {
   std::unique_ptr<DataHome> home_;
 };
 
-QTEST_MAIN(StartUpTest)
+LOFT_TEST_MAIN(StartUpTest)
 #include "tst_start_up.moc"

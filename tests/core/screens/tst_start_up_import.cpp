@@ -15,6 +15,7 @@
 #include "support/screens/keyboard.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -283,5 +284,5 @@ class StartUpImportTest : public QObject {
   QString export_;
 };
 
-QTEST_MAIN(StartUpImportTest)
+LOFT_TEST_MAIN(StartUpImportTest)
 #include "tst_start_up_import.moc"

@@ -19,6 +19,7 @@
 #include "support/screens/keyboard.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -364,5 +365,5 @@ class FoldersTest : public QObject {
   QString documents_;
 };
 
-QTEST_MAIN(FoldersTest)
+LOFT_TEST_MAIN(FoldersTest)
 #include "tst_folders.moc"

@@ -13,6 +13,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -378,5 +379,5 @@ class TestCatalogueScreen : public QObject {
   }
 };
 
-QTEST_MAIN(TestCatalogueScreen)
+LOFT_TEST_MAIN(TestCatalogueScreen)
 #include "tst_catalogue.moc"

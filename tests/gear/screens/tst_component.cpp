@@ -7,6 +7,7 @@
 #include "gear/screens/rig_shop.h"
 #include "gear/selected_component.h"
 #include "schedule/schedule.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -369,5 +370,5 @@ class TestComponent : public QObject {
   }
 };
 
-QTEST_MAIN(TestComponent)
+LOFT_TEST_MAIN(TestComponent)
 #include "tst_component.moc"

@@ -3,6 +3,7 @@
 
 #include "gear/component_editor.h"
 #include "gear/screens/rig_shop.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -283,5 +284,5 @@ class TestComponentEdit : public QObject {
   }
 };
 
-QTEST_MAIN(TestComponentEdit)
+LOFT_TEST_MAIN(TestComponentEdit)
 #include "tst_component_edit.moc"

@@ -3,6 +3,7 @@
 #include "core/shell/home_commands.h"
 #include "gear/rig_rules.h"
 #include "gear/screens/rig_shop.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -418,5 +419,5 @@ class TestComponentScreens : public QObject {
   }
 };
 
-QTEST_MAIN(TestComponentScreens)
+LOFT_TEST_MAIN(TestComponentScreens)
 #include "tst_component_screens.moc"

@@ -1,5 +1,6 @@
 #include "gear/screens/rig_shop.h"
 #include "support/screens/keyboard.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -63,5 +64,5 @@ class TestGearKeyboard : public QObject {
   }
 };
 
-QTEST_MAIN(TestGearKeyboard)
+LOFT_TEST_MAIN(TestGearKeyboard)
 #include "tst_gear_keyboard.moc"

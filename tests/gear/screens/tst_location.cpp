@@ -11,6 +11,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -332,5 +333,5 @@ class TestLocationScreen : public QObject {
   }
 };
 
-QTEST_MAIN(TestLocationScreen)
+LOFT_TEST_MAIN(TestLocationScreen)
 #include "tst_location.moc"

@@ -11,6 +11,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -121,5 +122,5 @@ class TestNames : public QObject {
   }
 };
 
-QTEST_MAIN(TestNames)
+LOFT_TEST_MAIN(TestNames)
 #include "tst_names.moc"

@@ -16,6 +16,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -430,5 +431,5 @@ class TestPeopleScreens : public QObject {
   }
 };
 
-QTEST_MAIN(TestPeopleScreens)
+LOFT_TEST_MAIN(TestPeopleScreens)
 #include "tst_people.moc"

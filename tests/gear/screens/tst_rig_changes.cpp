@@ -7,6 +7,7 @@
 #include "gear/rig_rules.h"
 #include "gear/rig_types.h"
 #include "gear/screens/rig_shop.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -330,5 +331,5 @@ class TestRigChanges : public QObject {
   }
 };
 
-QTEST_MAIN(TestRigChanges)
+LOFT_TEST_MAIN(TestRigChanges)
 #include "tst_rig_changes.moc"

@@ -2,6 +2,7 @@
 
 #include "gear/rig_rules.h"
 #include "gear/screens/rig_shop.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -190,5 +191,5 @@ class TestRigChoice : public QObject {
   }
 };
 
-QTEST_MAIN(TestRigChoice)
+LOFT_TEST_MAIN(TestRigChoice)
 #include "tst_rig_choice.moc"

@@ -3,6 +3,7 @@
 #include "gear/rig_rules.h"
 #include "gear/screens/rig_shop.h"
 #include "schedule/schedule.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -387,5 +388,5 @@ class TestRigComponents : public QObject {
   }
 };
 
-QTEST_MAIN(TestRigComponents)
+LOFT_TEST_MAIN(TestRigComponents)
 #include "tst_rig_components.moc"

@@ -6,6 +6,7 @@
 #include "gear/person_record.h"
 #include "gear/rig_rules.h"
 #include "gear/screens/rig_shop.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -271,5 +272,5 @@ class TestRigLists : public QObject {
   }
 };
 
-QTEST_MAIN(TestRigLists)
+LOFT_TEST_MAIN(TestRigLists)
 #include "tst_rig_lists.moc"

@@ -9,6 +9,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -201,5 +202,5 @@ class TestRigTypesScreen : public QObject {
   }
 };
 
-QTEST_MAIN(TestRigTypesScreen)
+LOFT_TEST_MAIN(TestRigTypesScreen)
 #include "tst_rig_types_screen.moc"

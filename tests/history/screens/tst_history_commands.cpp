@@ -5,6 +5,7 @@
 #include "gear/rigs.h"
 #include "history/screens/open_history.h"
 #include "schedule/schedule.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -364,5 +365,5 @@ class TestHistoryCommands : public QObject {
   }
 };
 
-QTEST_MAIN(TestHistoryCommands)
+LOFT_TEST_MAIN(TestHistoryCommands)
 #include "tst_history_commands.moc"

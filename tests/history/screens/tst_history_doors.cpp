@@ -5,6 +5,7 @@
 #include "history/screens/open_history.h"
 #include "jobs/screens.h"
 #include "schedule/screens.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -159,5 +160,5 @@ class TestHistoryDoors : public QObject {
   }
 };
 
-QTEST_MAIN(TestHistoryDoors)
+LOFT_TEST_MAIN(TestHistoryDoors)
 #include "tst_history_doors.moc"

@@ -2,6 +2,7 @@
 
 #include "gear/components.h"
 #include "history/screens/open_history.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -225,5 +226,5 @@ class TestHistoryScreen : public QObject {
   }
 };
 
-QTEST_MAIN(TestHistoryScreen)
+LOFT_TEST_MAIN(TestHistoryScreen)
 #include "tst_history_screen.moc"

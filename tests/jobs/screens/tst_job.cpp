@@ -3,6 +3,7 @@
 
 #include "jobs/screens/open_job.h"
 #include "support/data_folder_here.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -215,5 +216,5 @@ class TestJob : public QObject {
   }
 };
 
-QTEST_MAIN(TestJob)
+LOFT_TEST_MAIN(TestJob)
 #include "tst_job.moc"

@@ -3,6 +3,7 @@
 #include "jobs/library_entry.h"
 #include "jobs/screens/library_shop.h"
 #include "jobs/screens/open_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -240,5 +241,5 @@ class TestJobAdding : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobAdding)
+LOFT_TEST_MAIN(TestJobAdding)
 #include "tst_job_adding.moc"

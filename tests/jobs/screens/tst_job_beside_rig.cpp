@@ -8,6 +8,7 @@
 #include "jobs/screens.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -52,5 +53,5 @@ class TestJobBesideRig : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobBesideRig)
+LOFT_TEST_MAIN(TestJobBesideRig)
 #include "tst_job_beside_rig.moc"

@@ -3,6 +3,7 @@
 #include "gear/rigs.h"
 #include "jobs/job_components.h"
 #include "jobs/screens/open_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -122,5 +123,5 @@ class TestJobDiffers : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobDiffers)
+LOFT_TEST_MAIN(TestJobDiffers)
 #include "tst_job_differs.moc"

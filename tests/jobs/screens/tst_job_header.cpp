@@ -4,6 +4,7 @@
 
 #include "jobs/line_edits.h"
 #include "jobs/screens/open_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -166,5 +167,5 @@ class TestJobHeader : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobHeader)
+LOFT_TEST_MAIN(TestJobHeader)
 #include "tst_job_header.moc"

@@ -3,6 +3,7 @@
 #include "gear/models.h"
 #include "jobs/screens/library_shop.h"
 #include "jobs/screens/open_gear.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -259,5 +260,5 @@ class TestJobInstall : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobInstall)
+LOFT_TEST_MAIN(TestJobInstall)
 #include "tst_job_install.moc"

@@ -3,6 +3,7 @@
 
 #include "jobs/line_edits.h"
 #include "jobs/screens/open_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -299,5 +300,5 @@ class TestJobLines : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobLines)
+LOFT_TEST_MAIN(TestJobLines)
 #include "tst_job_lines.moc"

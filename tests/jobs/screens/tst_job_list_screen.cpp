@@ -9,6 +9,7 @@
 #include "jobs/screens.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -234,5 +235,5 @@ class TestJobListScreen : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobListScreen)
+LOFT_TEST_MAIN(TestJobListScreen)
 #include "tst_job_list_screen.moc"

@@ -2,6 +2,7 @@
 
 #include "core/default_rows.h"
 #include "jobs/screens/open_job.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -133,5 +134,5 @@ class TestJobParts : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobParts)
+LOFT_TEST_MAIN(TestJobParts)
 #include "tst_job_parts.moc"

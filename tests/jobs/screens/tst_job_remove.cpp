@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "jobs/screens/open_gear.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -135,5 +136,5 @@ class TestJobRemove : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobRemove)
+LOFT_TEST_MAIN(TestJobRemove)
 #include "tst_job_remove.moc"

@@ -2,6 +2,7 @@
 
 #include "gear/rig_types.h"
 #include "jobs/screens/open_gear.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -237,5 +238,5 @@ class TestJobRig : public QObject {
   }
 };
 
-QTEST_MAIN(TestJobRig)
+LOFT_TEST_MAIN(TestJobRig)
 #include "tst_job_rig.moc"

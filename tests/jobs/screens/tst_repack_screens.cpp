@@ -14,6 +14,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -215,5 +216,5 @@ class TestRepackScreens : public QObject {
   }
 };
 
-QTEST_MAIN(TestRepackScreens)
+LOFT_TEST_MAIN(TestRepackScreens)
 #include "tst_repack_screens.moc"

@@ -7,6 +7,7 @@
 #include "jobs/screens.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -361,5 +362,5 @@ class TestStartJob : public QObject {
   }
 };
 
-QTEST_MAIN(TestStartJob)
+LOFT_TEST_MAIN(TestStartJob)
 #include "tst_start_job.moc"

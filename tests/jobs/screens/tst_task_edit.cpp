@@ -7,6 +7,7 @@
 #include "jobs/task_edit.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -181,5 +182,5 @@ class TestTaskEdit : public QObject {
   }
 };
 
-QTEST_MAIN(TestTaskEdit)
+LOFT_TEST_MAIN(TestTaskEdit)
 #include "tst_task_edit.moc"

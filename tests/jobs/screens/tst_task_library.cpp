@@ -4,6 +4,7 @@
 #include "core/screens.h"
 #include "jobs/library_entry.h"
 #include "jobs/screens/library_shop.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -357,5 +358,5 @@ class TestTaskLibrary : public QObject {
   }
 };
 
-QTEST_MAIN(TestTaskLibrary)
+LOFT_TEST_MAIN(TestTaskLibrary)
 #include "tst_task_library.moc"

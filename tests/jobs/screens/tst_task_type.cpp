@@ -6,6 +6,7 @@
 #include "jobs/library_entry.h"
 #include "jobs/screens/frmTaskType.h"
 #include "jobs/screens/library_shop.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -391,5 +392,5 @@ class TestTaskType : public QObject {
   }
 };
 
-QTEST_MAIN(TestTaskType)
+LOFT_TEST_MAIN(TestTaskType)
 #include "tst_task_type.moc"

@@ -4,6 +4,7 @@
 #include "schedule/screens.h"
 #include "schedule/task_library.h"
 #include "support/screens/keyboard.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -154,5 +155,5 @@ class TestWorkKeyboard : public QObject {
   }
 };
 
-QTEST_MAIN(TestWorkKeyboard)
+LOFT_TEST_MAIN(TestWorkKeyboard)
 #include "tst_work_keyboard.moc"

@@ -19,6 +19,7 @@
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 #include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
@@ -336,5 +337,5 @@ class TestPrintPreview : public QObject {
   }
 };
 
-QTEST_MAIN(TestPrintPreview)
+LOFT_TEST_MAIN(TestPrintPreview)
 #include "tst_print_preview.moc"

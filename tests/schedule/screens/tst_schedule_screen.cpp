@@ -9,6 +9,7 @@
 #include "schedule/screens.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -284,5 +285,5 @@ class TestScheduleScreen : public QObject {
   }
 };
 
-QTEST_MAIN(TestScheduleScreen)
+LOFT_TEST_MAIN(TestScheduleScreen)
 #include "tst_schedule_screen.moc"
