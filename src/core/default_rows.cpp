@@ -148,15 +148,17 @@ void CheckMiscRow() {
 }
 
 void AddMiscRow(int repackCycle) {
-  Recordset misc(u"tblMisc"_s);
-  misc.AddNew();
-  misc.Set(u"HidePhotos", false);
-  misc.Set(u"LastBackupDate", Date());
-  for (QStringView id : {u"UserID", u"DefaultRigTypeID", u"LastSystemID", u"LastJobID", u"LastCustomerID",
-                         u"LastComponentID", u"DefaultRiggerID"})
-    misc.Set(id, 0);
-  misc.Set(u"RepackCycle", repackCycle);
-  misc.Set(u"UploadAlias", QString());
-  misc.Set(u"DefaultPhotoSize", 100);
-  misc.Update();
+  UnrecordedOperation(u"Sub AddMiscRow"_s, [&] {
+    Recordset misc(u"tblMisc"_s);
+    misc.AddNew();
+    misc.Set(u"HidePhotos", false);
+    misc.Set(u"LastBackupDate", Date());
+    for (QStringView id : {u"UserID", u"DefaultRigTypeID", u"LastSystemID", u"LastJobID", u"LastCustomerID",
+                           u"LastComponentID", u"DefaultRiggerID"})
+      misc.Set(id, 0);
+    misc.Set(u"RepackCycle", repackCycle);
+    misc.Set(u"UploadAlias", QString());
+    misc.Set(u"DefaultPhotoSize", 100);
+    misc.Update();
+  });
 }

@@ -191,9 +191,13 @@ class TestScheduledTask : public QObject {
     shop.loft.Run(u"delete from tblTasks where ID = %1"_s.arg(repack));
     UpdateSchedule(RepackTaskLibID, shop.rig, 0);
     QCOMPARE(screen.told, 2);
+    // The row goes even where the new date can't be built.
+    shop.AddSchedule(shop.rig, shop.aadCheck, Day(8, 1, 2026), 0, shop.aad);
+    QCOMPARE(screen.told, 3);
     shop.prompts.ExpectBox(u"Sub ReplaceSchedule"_s, u"Type mismatch"_s);
     ReplaceSchedule(shop.rig, shop.aadCheck, Day(8, 31, 2025), 1, shop.aad);
-    QCOMPARE(screen.told, 3);
+    QCOMPARE(screen.told, 4);
+    QCOMPARE(shop.Schedules(), QStringList());
   }
 };
 

@@ -18,6 +18,7 @@
 #include "core/stand_by.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/trap.h"
 #include "core/widgets/screen_routines.h"
 #include "dbcare/check_fields.h"
 #include "dbcare/new_database.h"
@@ -178,7 +179,7 @@ void CheckFolderSystem() {
   if (ConnectionCount == kStop || !FindDatabase() || ConnectionCount == kStop) return;
   TakeFolder();
   if (!OpenConnection()) throw Failure(u"The database could not be opened"_s);
-  Operation(u"Sub CheckFolderSystem"_s, [] {
+  Trap(u"Sub CheckFolderSystem"_s, [] {
     CreateSubFolders();
     CheckSupportFiles();
     CheckAllFields(true);
@@ -234,7 +235,7 @@ void FirstRunSetup(bool forNewDatabase) {
 }
 
 void CheckDatabaseOnStart() {
-  Operation(u"Sub CheckDatabaseOnStart"_s, [] {
+  UnrecordedOperation(u"Sub CheckDatabaseOnStart"_s, [] {
     if (GetNumberRecordsInTable(u"tblMisc"_s) == 0) {
       const int answer = static_cast<int>(
           Val(InputBox(u"How many days for reserve repack cycle?"_s, u"Enter reserve repack cycle"_s, u"180"_s)));

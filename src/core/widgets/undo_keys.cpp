@@ -39,14 +39,13 @@ bool Run(Form& form, const QString& verb, const QString& done, std::optional<Rec
 }  // namespace
 
 void GiveUndoKeys(Form* form) {
-  const auto give = [form](QKeySequence::StandardKey keys, bool (*run)(Form&)) {
-    for (const QKeySequence& key : QKeySequence::keyBindings(keys)) {
-      auto* shortcut = new QShortcut(key, form);
-      QObject::connect(shortcut, &QShortcut::activated, form, [form, run] { run(*form); });
-    }
+  const auto give = [form](const QKeySequence& keys, bool (*run)(Form&)) {
+    auto* shortcut = new QShortcut(keys, form);
+    QObject::connect(shortcut, &QShortcut::activated, form, [form, run] { run(*form); });
   };
-  give(QKeySequence::Undo, &UndoOnScreen);
-  give(QKeySequence::Redo, &RedoOnScreen);
+  give(Qt::CTRL | Qt::Key_Z, &UndoOnScreen);
+  give(Qt::CTRL | Qt::Key_Y, &RedoOnScreen);
+  give(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &RedoOnScreen);
 }
 
 bool UndoOnScreen(Form& form) { return Run(form, u"Undo"_s, u"Undone: "_s, &NextUndo, &UndoOperation); }

@@ -317,9 +317,7 @@ class StartUpTest : public QObject {
       QVERIFY(Forms::IsShown(u"frmMain2"_s));
       QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"ID"_s, 1, u"LastName"_s).ToText(), u"Lee"_s);
       prompts.ExpectBox(u"Sub UpdateTable()"_s,
-                        u"Cannot update.  Database or object is read-only.\n"
-                        "The following SQL statement caused on error\n\n"
-                        "SQL = Select * from tblPeople where ID = 1\n"_s);
+                        u"Cannot update.  Database or object is read-only.\nNothing was changed."_s);
       UpdateTable(u"tblPeople"_s, u"LastName"_s, u"Moe"_s, u"ID"_s, 1);
       UnloadScreens();
       LeaveDataFolder();
