@@ -18,16 +18,17 @@ bool LineIsDone(int taskID);
 bool AllChecked(int jobID);
 
 /// Flips a line: an incomplete one (waiting on parts counts as such) is completed on `date`, a complete one is taken
-/// back. The schedule and the job's status follow. An event never changes: false.
+/// back. The schedule and the job's status follow. An event never changes, nor does a line that has gone: false, as
+/// after a failure.
 bool ToggleComplete(int taskID, Date date, bool rigComponentsCurrent);
 
 /// Brings the job's status in line with its lines, `date` being the completion date when all are done; whether they
 /// are.
 bool CheckJobStatus(int jobID, Date date);
 
-/// Recomputes the job's status whenever it is loaded. A complete job takes the completion date of its first line; a job
-/// without lines is complete with no date. A line whose status and date disagree shows a notice and stays as it is.
-/// The completion date that results, none for an incomplete job.
+/// Recomputes the job's status whenever it is loaded, and writes it where it differs. A complete job takes the
+/// completion date of its first line; a job without lines is complete with no date. A line whose status and date
+/// disagree shows a notice and stays as it is. The completion date that results, none for an incomplete job.
 Date RecomputeJobStatus(int jobID);
 
 /// Completes all lines on `date`, or takes all back; each line passes through ToggleComplete.

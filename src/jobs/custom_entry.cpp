@@ -61,7 +61,7 @@ CustomRoad ChooseCustomRoad(const CustomEntry& entry, int jobID, int& taskLibID)
 
 int AddOneOffLine(const JobContext& job, const CustomEntry& entry, Date date) {
   int taskID = 0;
-  Operation(u"Sub AddOneOffLine"_s, [&] {
+  const bool written = Operation(u"Sub AddOneOffLine"_s, [&] {
     AddCustomLine(job, {.name = entry.name, .price = entry.price, .logBook = entry.logBook, .isEvent = entry.isEvent},
                   date, taskID);
     if (taskID != 0) {
@@ -70,5 +70,5 @@ int AddOneOffLine(const JobContext& job, const CustomEntry& entry, Date date) {
       for (int type : types) AddTaskComponent(taskID, JobComponentOfType(job.jobID, type), entry.isEvent);
     }
   });
-  return taskID;
+  return written ? taskID : 0;
 }

@@ -5,7 +5,7 @@
 #include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
-#include "schedule/schedule.h"
+#include "jobs/schedule_key.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,21 +28,22 @@ bool IsConfirmed(int jobID, bool ask) {
 }
 
 void DeleteLines(int jobID) {
-  const int rigID = JobSystemID(jobID);
   for (int taskID : LinesOfJob(jobID)) {
-    const int taskLibID = TaskLibIDOf(taskID);
+    ScheduleKey key = KeyOfLine(taskID);
+    key.componentID = 0;  // a job that goes takes its completions back from its rig alone
     DeleteTask(taskID);
-    UpdateSchedule(taskLibID, rigID, 0);
+    UpdateSchedule(key);
   }
 }
+
+bool IsEmpty(int jobID) { return LinesOfJob(jobID).isEmpty(); }
 
 QList<int> EmptyJobs() {
   QList<int> empty;
   QList<Value> jobs;
   GetRecordsFromTableBySQL(u"select * from tblJobs order by ID"_s, u"ID"_s, jobs);
-  for (const Value& job : jobs) {
-    if (!job.IsEmpty() && GetNumberRecords(u"tblTasks"_s, u"JobID"_s, job) == 0) empty.append(job.ToInt());
-  }
+  for (const Value& job : jobs)
+    if (!job.IsEmpty() && IsEmpty(job.ToInt())) empty.append(job.ToInt());
   return empty;
 }
 
@@ -57,10 +58,9 @@ bool IsConfirmed(const QList<int>& empty) {
 }  // namespace
 
 void DeleteJob(int jobID, bool ask, bool& cancelled) {
-  cancelled = false;
-  Operation(u"Sub DeleteJob"_s, [&] {
-    cancelled = !IsConfirmed(jobID, ask);
-    if (cancelled) return;
+  cancelled = !IsConfirmed(jobID, ask);
+  if (cancelled) return;
+  cancelled = !Operation(u"Sub DeleteJob"_s, [&] {
     DeleteLines(jobID);
     DeleteJobRow(jobID);
   });
@@ -74,22 +74,20 @@ void DeleteJobRow(int jobID) {
 }
 
 void AuditJobs() {
-  if (GetNumberRecordsInTable(u"tblJobs"_s) == 0) return;
-  DeleteRecordsFromTableBySQL(u"delete * from tblJobs where JobTitle = ''"_s);
-  DeleteRecordsFromTableBySQL(u"delete * from tblJobs where JobTitle = 'loadme'"_s);
+  const QString remnants = u"from tblJobs where JobTitle = '' or JobTitle = 'loadme'"_s;
+  if (GetNumberRecordsComplex(u"Select ID "_s + remnants).ToInt() == 0) return;
+  Upkeep(u"Sub AuditJobs"_s, [&] { DeleteRecordsFromTableBySQL(u"Delete * "_s + remnants); });
 }
 
 bool DeleteAllEmptyJobs() {
-  bool deleted = false;
-  const bool written = Operation(u"Sub DeleteAllEmptyJobs"_s, [&] {
-    const QList<int> empty = EmptyJobs();
-    if (empty.isEmpty()) {
-      MsgBox(u"There are no empty jobs"_s, u"No empty jobs"_s);
-      return;
-    }
-    if (!IsConfirmed(empty)) return;
-    for (int job : empty) DeleteJobRow(job);
-    deleted = true;
+  const QList<int> empty = EmptyJobs();
+  if (empty.isEmpty()) {
+    MsgBox(u"There are no empty jobs"_s, u"No empty jobs"_s);
+    return false;
+  }
+  if (!IsConfirmed(empty)) return false;
+  return Operation(u"Sub DeleteAllEmptyJobs"_s, [&] {
+    for (int job : empty)
+      if (IsEmpty(job)) DeleteJobRow(job);  // it may have got a line meanwhile
   });
-  return written && deleted;
 }

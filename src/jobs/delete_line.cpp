@@ -4,7 +4,7 @@
 #include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
-#include "schedule/schedule.h"
+#include "jobs/schedule_key.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +25,15 @@ void TellWhatStays(int taskLibID) {
   }
 }
 
+void RemoveLine(int taskID) {
+  const int jobID = LineField(taskID, u"JobID"_s).ToInt();
+  ScheduleKey key = KeyOfLine(taskID);
+  key.componentID = JobComponentID(jobID);  // on a job without a rig, the rows of its own component are looked at
+  DeleteTask(taskID);
+  UpdateSchedule(key);
+  if (LinesOfJob(jobID).isEmpty()) SetJobDateCompleted(jobID, Date());
+}
+
 }  // namespace
 
 void DeleteTask(int taskID) {
@@ -34,23 +43,14 @@ void DeleteTask(int taskID) {
   });
 }
 
-bool DeleteLine(int taskID, bool quiet, int rigID, int componentID) {
-  bool deleted = false;
-  const bool written = Operation(u"Sub DeleteCurrentTask"_s, [&] {
-    const QString name = LineField(taskID, u"TaskName"_s).ToText();
-    const int jobID = LineField(taskID, u"JobID"_s).ToInt();
-    const int taskLibID = TaskLibIDOf(taskID);
-    if (!quiet && !AskYes(u"Are you sure you want to delete this entry?"_s, u"Delete "_s + name + u'?')) return;
-    TellWhatStays(taskLibID);
-    DeleteTask(taskID);
-    UpdateSchedule(taskLibID, rigID, componentID);
-    if (LinesOfJob(jobID).isEmpty()) SetJobDateCompleted(jobID, Date());
-    deleted = true;
-  });
-  return written && deleted;
+bool DeleteLine(int taskID, bool quiet) {
+  const QString name = LineField(taskID, u"TaskName"_s).ToText();
+  if (!quiet && !AskYes(u"Are you sure you want to delete this entry?"_s, u"Delete "_s + name + u'?')) return false;
+  TellWhatStays(TaskLibIDOf(taskID));
+  return Operation(u"Sub DeleteCurrentTask"_s, [&] { RemoveLine(taskID); });
 }
 
-bool DeleteAllLines(int jobID, int rigID, int componentID) {
+bool DeleteAllLines(int jobID) {
   const QList<int> lines = LinesOfJob(jobID);
   if (lines.isEmpty()) {
     MsgBox(u"This jobs has no entries"_s, u"Nothing to delete"_s);
@@ -60,7 +60,8 @@ bool DeleteAllLines(int jobID, int rigID, int componentID) {
                      u"Are you sure you want to do this?"_s}),
               u"Delete all entries for this job?"_s))
     return false;
+  for (int taskID : lines) TellWhatStays(TaskLibIDOf(taskID));
   return Operation(u"Sub DeleteAllTasks"_s, [&] {
-    for (int taskID : lines) DeleteLine(taskID, true, rigID, componentID);
+    for (int taskID : lines) RemoveLine(taskID);
   });
 }

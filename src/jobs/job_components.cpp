@@ -15,8 +15,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 void DeleteVanishedComponents(int jobID) {
-  for (Recordset& row : Rows(u"Select * from tblJobComponents where Jobid = %1"_s.arg(jobID)))
-    if (!ComponentExists(row[u"ComponentID"].ToInt())) row.Delete();
+  QList<int> components;
+  GetRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID, u"ComponentID"_s, components);
+  components.removeIf([](int component) { return component == 0 || ComponentExists(component); });
+  if (components.isEmpty()) return;
+  Upkeep(u"Sub LoadJobGear"_s, [&] {
+    for (int component : components) RemoveJobComponent(jobID, component);
+  });
 }
 
 }  // namespace
@@ -83,8 +88,8 @@ bool RigComponentsCurrent(int jobID, int rigID) {
 
 QList<GearPlace> LoadJobGear(int jobID, int rigID) {
   QList<GearPlace> places;
+  DeleteVanishedComponents(jobID);
   Operation(u"Sub LoadJobGear"_s, [&] {
-    DeleteVanishedComponents(jobID);
     if (const int rigType = rigID == 0 ? 0 : RigType(rigID); rigType != 0) {
       for (int type : ComponentTypesOfRigType(rigType)) places.append({type, JobComponentOfType(jobID, type)});
     } else {

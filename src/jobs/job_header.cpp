@@ -4,6 +4,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "gear/people.h"
 #include "jobs/job_records.h"
 
@@ -11,7 +12,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-EditResult SaveDate(int jobID, const QString& text, Date stored, void (*write)(int jobID, Date date)) {
+/// What became of a text that passed its rules, once it is written.
+template <typename Write>
+EditResult WriteField(const QString& routine, const QString& shown, const QString& before, Write&& write) {
+  const bool written = Operation(routine, std::forward<Write>(write));
+  return {.shown = written ? shown : before, .changed = written};
+}
+
+EditResult SaveDate(const QString& routine, int jobID, const QString& text, Date stored,
+                    void (*write)(int jobID, Date date)) {
   const QString shown = HeaderDate(stored);
   const QString typed = text.trimmed();
   if (typed.isEmpty() || typed == shown) return {.shown = shown};
@@ -20,8 +29,7 @@ EditResult SaveDate(int jobID, const QString& text, Date stored, void (*write)(i
     return {.shown = shown, .refused = true};
   }
   const Date date = ParseDate(typed);
-  write(jobID, date);
-  return {.shown = HeaderDate(date), .changed = true};
+  return WriteField(routine, HeaderDate(date), shown, [&] { write(jobID, date); });
 }
 
 }  // namespace
@@ -29,11 +37,11 @@ EditResult SaveDate(int jobID, const QString& text, Date stored, void (*write)(i
 QString HeaderDate(Date date) { return date.IsNone() ? u"n/a"_s : Format(date, u"mm/dd/yyyy"_s); }
 
 EditResult SaveDatePromised(int jobID, const QString& text) {
-  return SaveDate(jobID, text, JobDatePromised(jobID), &SetJobDatePromised);
+  return SaveDate(u"Sub SaveDatePromised"_s, jobID, text, JobDatePromised(jobID), &SetJobDatePromised);
 }
 
 EditResult SaveDateStarted(int jobID, const QString& text) {
-  return SaveDate(jobID, text, JobDateStarted(jobID), &SetJobDateStarted);
+  return SaveDate(u"Sub SaveDateStarted"_s, jobID, text, JobDateStarted(jobID), &SetJobDateStarted);
 }
 
 EditResult SaveJobName(int jobID, const QString& text) {
@@ -44,8 +52,7 @@ EditResult SaveJobName(int jobID, const QString& text) {
     MsgBox(u"There is already a job named: "_s + name, u"Can't use this job name"_s);
     return {.shown = old, .refused = true};
   }
-  SetJobTitle(jobID, name);
-  return {.shown = JobTitle(jobID), .changed = true};
+  return WriteField(u"Sub SaveJobName"_s, name.left(kJobTextLength), old, [&] { SetJobTitle(jobID, name); });
 }
 
 EditResult SaveInvoiceNumber(int jobID, const QString& text) {
@@ -56,8 +63,7 @@ EditResult SaveInvoiceNumber(int jobID, const QString& text) {
     MsgBox(u"Invoice #%1 is already in use"_s.arg(number), u"Duplicate Invoice Number"_s);
     return {.shown = old, .refused = true};
   }
-  SetJobInvoiceNumber(jobID, number);
-  return {.shown = GetInvoiceNumber(jobID), .changed = true};
+  return WriteField(u"Sub SaveInvoiceNumber"_s, number, old, [&] { SetJobInvoiceNumber(jobID, number); });
 }
 
 bool JobHasTasksByOtherRiggers(int jobID, int riggerID) {
@@ -66,15 +72,25 @@ bool JobHasTasksByOtherRiggers(int jobID, int riggerID) {
              .ToInt() > 0;
 }
 
-bool OfferRiggerForTasks(int jobID, int riggerID) {
+namespace {
+
+bool AskRiggerForTasks(int jobID, int riggerID) {
   if (!JobHasTasksByOtherRiggers(jobID, riggerID)) return false;
   const QString name = PersonDisplayName(riggerID);
-  if (!AskYes(Lines({u"Rigger for this job has been changed to %1."_s.arg(name),
-                     u"This job has tasks performed by other riggers."_s,
-                     u"Do you want to change rigger to %1 for all tasks on this job?"_s.arg(name)}),
-              u"Change rigger on tasks?"_s))
-    return false;
-  UpdateTableBySQL(
-      u"update tblTasks set riggerID = %1 where isEvent = false and JobID = %2"_s.arg(riggerID).arg(jobID));
-  return true;
+  return AskYes(Lines({u"Rigger for this job has been changed to %1."_s.arg(name),
+                       u"This job has tasks performed by other riggers."_s,
+                       u"Do you want to change rigger to %1 for all tasks on this job?"_s.arg(name)}),
+                u"Change rigger on tasks?"_s);
+}
+
+}  // namespace
+
+bool ChangeJobRigger(int jobID, int riggerID) {
+  const bool tasksToo = AskRiggerForTasks(jobID, riggerID);
+  return Operation(u"Sub ChangeRigger"_s, [&] {
+    SetJobRiggerID(jobID, riggerID);
+    if (!tasksToo) return;
+    UpdateTableBySQL(
+        u"update tblTasks set riggerID = %1 where isEvent = false and JobID = %2"_s.arg(riggerID).arg(jobID));
+  });
 }

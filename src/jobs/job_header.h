@@ -16,8 +16,8 @@ EditResult SaveInvoiceNumber(int jobID, const QString& text);
 /// "mm/dd/yyyy", or "n/a" for none.
 QString HeaderDate(Date date);
 
-/// After the job's rigger has changed: when lines were done by others, asks whether all tasks change to the new one.
-/// True when they did.
-bool OfferRiggerForTasks(int jobID, int riggerID);
+/// Gives the job another rigger. When lines were done by others, asks whether all tasks change to the new one too. True
+/// when it was written.
+bool ChangeJobRigger(int jobID, int riggerID);
 /// Does a line name another rigger than this one?
 bool JobHasTasksByOtherRiggers(int jobID, int riggerID);

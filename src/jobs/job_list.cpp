@@ -19,7 +19,7 @@ bool OK2ShowByJob(Status status, Date completed) {
 /// All dates are of one width, so the titles line up behind them.
 QString RowText(const Recordset& job, Status status, Date completed) {
   QString invoice = job[u"InvoiceNumber"].ToText();
-  if (invoice.trimmed().isEmpty()) invoice = GetInvoiceNumber(job[u"ID"].ToInt());
+  if (invoice.trimmed().isEmpty()) invoice = job[u"ID"].ToText();  // it could not be written
   return Format(job[u"DateStarted"].ToDate(), u"mm/dd/yy"_s) + u"    "_s + job[u"JobTitle"].ToText() + u" - "_s +
          invoice + (status == Status::Any && !completed.IsNone() ? u" (completed)"_s : QString());
 }
@@ -28,6 +28,7 @@ QString RowText(const Recordset& job, Status status, Date completed) {
 
 IdList LoadListJobs(const JobListFilter& filter) {
   IdList list;
+  AssignInvoiceNumbers();
   Operation(u"Sub LoadListJobs"_s, [&] {
     const QString whose =
         filter.customer == 0 ? QString() : u" where CustomerID = "_s + QString::number(filter.customer);

@@ -10,5 +10,5 @@ struct JobListFilter {
 };
 
 /// The jobs that pass, newest first: date started, title, invoice number, and what is completed among all. Jobs without
-/// a title are remnants of starts that failed; they are left out.
+/// a title are remnants of starts that failed; they are left out. A job without an invoice number gets it here.
 IdList LoadListJobs(const JobListFilter& filter);

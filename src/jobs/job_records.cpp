@@ -40,23 +40,29 @@ void SetJobComments(int jobID, const QString& comments) {
   SetJobField(jobID, u"Comments"_s, comments.isEmpty() ? u" "_s : comments);
 }
 
-void SetLastJobID(int jobID) { UpdateTableBySQL(u"update tblMisc set LastJobID = %1"_s.arg(jobID)); }
+void SetLastJobID(int jobID) {
+  if (LastJobID() != jobID) UpdateTableBySQL(u"update tblMisc set LastJobID = %1"_s.arg(jobID));
+}
 int LastJobID() { return GetValueFromTableBySQL(u"tblMisc"_s, u"LastJobID"_s).ToInt(); }
 
 QString GetInvoiceNumber(int jobID) {
-  QString number;
-  Operation(u"Function GetInvoiceNumber"_s, [&] {
-    Recordset job(JobByID(jobID));
-    if (RecordsetHasRows(job)) {
-      number = job[u"InvoiceNumber"].ToText();
-      if (number.trimmed().isEmpty()) {
-        number = QString::number(jobID);
-        job.Set(u"InvoiceNumber", number);
-        job.Update();
-      }
-    }
+  if (!JobExists(jobID)) return {};
+  const QString number = JobField(jobID, u"InvoiceNumber"_s).ToText();
+  if (!number.trimmed().isEmpty()) return number;
+  Upkeep(u"Function GetInvoiceNumber"_s, [&] { SetJobInvoiceNumber(jobID, QString::number(jobID)); });
+  return QString::number(jobID);
+}
+
+void AssignInvoiceNumbers() {
+  QList<int> blank;
+  Operation(u"Sub AssignInvoiceNumbers"_s, [&] {
+    for (const Recordset& job : Rows(u"Select ID, InvoiceNumber from tblJobs"_s))
+      if (job[u"InvoiceNumber"].ToText().trimmed().isEmpty()) blank << job[u"ID"].ToInt();
   });
-  return number;
+  if (blank.isEmpty()) return;
+  Upkeep(u"Sub AssignInvoiceNumbers"_s, [&] {
+    for (int jobID : blank) SetJobInvoiceNumber(jobID, QString::number(jobID));
+  });
 }
 
 void SetJobTitle(int jobID, const QString& title) {
@@ -101,10 +107,12 @@ bool InvoiceNumberIsFree(const QString& number) {
 
 void SetJobStatus(int jobID, bool complete, Date date) {
   Operation(u"Sub SetJobStatus"_s, [&] {
-    Recordset job(u"Select * from tblJobs where Id = %1"_s.arg(jobID));
-    if (RecordsetHasRows(job)) {
-      job.Set(u"JobStatus", complete ? -1 : 0);
-      job.Set(u"DateCompleted", complete ? date : Date());
+    const int status = complete ? -1 : 0;
+    const Date completed = complete ? date : Date();
+    for (Recordset& job : Rows(JobByID(jobID))) {
+      if (job[u"JobStatus"].ToInt() == status && job[u"DateCompleted"].ToDate() == completed) continue;
+      job.Set(u"JobStatus", status);
+      job.Set(u"DateCompleted", completed);
       job.Update();
     }
   });

@@ -35,6 +35,8 @@ constexpr int kJobTextLength = 50;
 
 /// The job's invoice number. The first reader of a blank one assigns it: the job's id.
 QString GetInvoiceNumber(int jobID);
+/// Assigns the numbers of all jobs that have none, in one step.
+void AssignInvoiceNumbers();
 /// Cut to 50 characters. A job whose invoice number reads "0" gets its id there too.
 void SetJobTitle(int jobID, const QString& title);
 /// Is there a job of this title, case and outer blanks aside?

@@ -261,6 +261,7 @@ IdList LoadTasksByComponentType(int componentType, bool events) {
 
 void SaveInstallRemovePrice(int taskLibID, Money price) {
   if (price == TaskLibFlatRate(taskLibID)) return;
-  UpdateTable(u"tblTaskLib"_s, u"FlatRate"_s, price, u"ID"_s, taskLibID);
-  MsgBox(u"Price updated"_s);
+  if (Operation(u"Sub DoInstallRemove"_s,
+                [&] { UpdateTable(u"tblTaskLib"_s, u"FlatRate"_s, price, u"ID"_s, taskLibID); }))
+    MsgBox(u"Price updated"_s);
 }

@@ -1,9 +1,13 @@
 #include "jobs/line_edits.h"
 
+#include <optional>
+
 #include "core/dates.h"
+#include "core/failure.h"
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "jobs/job_lines.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
@@ -15,29 +19,44 @@ namespace {
 constexpr double kHighestPrice = 1'000'000'000;
 const QString kPricePattern = u"#############0.00"_s;
 
+/// Writes a cell of the grid; what stood in it stays when it could not be written.
+EditResult WriteCell(int taskID, const QString& field, const Value& value, const QString& shown,
+                     const QString& before) {
+  const bool written = Operation(u"Sub SaveTextBox"_s, [&] { SetLineField(taskID, field, value); });
+  return {.shown = written ? shown : before, .changed = written};
+}
+
+/// No amount for a text whose number is above the highest price, or is none that money can hold.
+std::optional<Money> PriceFrom(const QString& typed) {
+  try {
+    if (Val(typed) <= kHighestPrice) return Money::FromText(typed);
+  } catch (const Failure&) {
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 EditResult SaveLineName(int taskID, const QString& text) {
   const JobLine line = LoadJobLine(taskID);
   const QString name = text.trimmed().left(kJobTextLength);
   if (name.isEmpty() || name == line.task.trimmed()) return {.shown = line.task};
-  SetLineField(taskID, u"taskName"_s, name);
-  return {.shown = (line.partID == 0 ? QString() : kPartIndent) + name, .changed = true};
+  return WriteCell(taskID, u"taskName"_s, name, (line.partID == 0 ? QString() : kPartIndent) + name, line.task);
 }
 
 EditResult SaveLinePrice(int taskID, const QString& text) {
   const Money old = LoadJobLine(taskID).price;
+  const QString before = Format(old, kPricePattern);
   const QString typed = text.trimmed();
-  if (typed.isEmpty()) return {.shown = Format(old, kPricePattern)};
-  if (Val(typed) > kHighestPrice) {
+  if (typed.isEmpty()) return {.shown = before};
+  const std::optional<Money> price = PriceFrom(typed);
+  if (!price) {
     MsgBox(typed + u" is not a valid amount"_s,
            u"Invalid dollar amount\n(values over $ 1,000,000,000 are not allowed)"_s);
-    return {.shown = Format(old, kPricePattern), .refused = true};
+    return {.shown = before, .refused = true};
   }
-  const Money price = Money::FromText(typed);
-  if (price == old) return {.shown = Format(old, kPricePattern)};
-  SetLineField(taskID, u"FlatRate"_s, price);
-  return {.shown = Format(price, kPricePattern), .changed = true};
+  if (*price == old) return {.shown = before};
+  return WriteCell(taskID, u"FlatRate"_s, *price, Format(*price, kPricePattern), before);
 }
 
 EditResult SaveLineDate(int taskID, const QString& text) {
@@ -49,16 +68,18 @@ EditResult SaveLineDate(int taskID, const QString& text) {
     return {.shown = old, .refused = true};
   }
   const Date date = ParseDate(typed);
-  SetLineField(taskID, u"DateTaskCompleted"_s, date);
-  return {.shown = Format(date, u"mm/dd/yyyy"_s), .changed = true};
+  return WriteCell(taskID, u"DateTaskCompleted"_s, date, Format(date, u"mm/dd/yyyy"_s), old);
 }
 
-void SetLineRigger(int taskID, int riggerID) { SetLineField(taskID, u"RiggerID"_s, riggerID); }
+void SetLineRigger(int taskID, int riggerID) {
+  Operation(u"Sub ChangeTaskRigger"_s, [&] { SetLineField(taskID, u"RiggerID"_s, riggerID); });
+}
 
 QString LineComments(int taskID) { return LineField(taskID, u"comments"_s).ToText(); }
 
 void SetLineComments(int taskID, const QString& comments) {
-  SetLineField(taskID, u"comments"_s, comments.isEmpty() ? u" "_s : comments);
+  Operation(u"Sub EditTaskComments"_s,
+            [&] { SetLineField(taskID, u"comments"_s, comments.isEmpty() ? u" "_s : comments); });
 }
 
 QString LineName(int taskID) { return LineField(taskID, u"TaskName"_s).ToText(); }

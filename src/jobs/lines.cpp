@@ -57,7 +57,7 @@ JobContext JobContextOf(int jobID) {
 
 void AddTaskToJob(const JobContext& job, int itemID, bool isPart, Date date, int& taskID) {
   taskID = 0;
-  Operation(u"Sub AddTaskToJob"_s, [&] {
+  const bool written = Operation(u"Sub AddTaskToJob"_s, [&] {
     const bool isEvent = !isPart && TaskLibIsEvent(itemID);
     {
       Recordset tasks(u"tblTasks"_s);
@@ -78,11 +78,12 @@ void AddTaskToJob(const JobContext& job, int itemID, bool isPart, Date date, int
       taskID = tasks[u"ID"].ToInt();
     }
   });
+  if (!written) taskID = 0;
 }
 
 void AddCustomLine(const JobContext& job, const CustomLine& line, Date date, int& taskID) {
   taskID = 0;
-  Operation(u"Sub AddCustomLine"_s, [&] {
+  const bool written = Operation(u"Sub AddCustomLine"_s, [&] {
     Recordset tasks(u"tblTasks"_s);
     tasks.AddNew();
     WriteContext(tasks, job, date);
@@ -92,6 +93,7 @@ void AddCustomLine(const JobContext& job, const CustomLine& line, Date date, int
     tasks.Update();
     taskID = tasks[u"ID"].ToInt();
   });
+  if (!written) taskID = 0;
 }
 
 void AddLibraryParts(const JobContext& job, int taskLibID, Date date) {
@@ -129,11 +131,13 @@ void AddTaskComponent(int taskID, int componentID, bool complete) {
 }
 
 void AddGearLine(const JobContext& job, int taskLibID, const QString& name, int componentID, Date date) {
-  int taskID = 0;
-  AddTaskToJob(job, taskLibID, false, date, taskID);
-  if (taskID == 0) return;
-  SetLineField(taskID, u"TaskName"_s, name.left(kJobTextLength));
-  AddTaskComponent(taskID, componentID, false);
+  Operation(u"Sub AddGearLine"_s, [&] {
+    int taskID = 0;
+    AddTaskToJob(job, taskLibID, false, date, taskID);
+    if (taskID == 0) return;
+    SetLineField(taskID, u"TaskName"_s, name.left(kJobTextLength));
+    AddTaskComponent(taskID, componentID, false);
+  });
 }
 
 QList<int> LinesOfJob(int jobID) {

@@ -63,7 +63,7 @@ void DeleteTask(int taskID);
 
 /// Deletes a line the way the job screen does: asks first unless `quiet`, tells what deleting an installation or a
 /// removal does not undo, and brings the schedule of the job's rig or component up to date. The job's completion date
-/// goes with its last line. False when the person said No.
-bool DeleteLine(int taskID, bool quiet, int rigID, int componentID);
+/// goes with its last line. False when the person said No, or when it could not be written.
+bool DeleteLine(int taskID, bool quiet);
 /// Asks, then deletes all lines of a job. False when nothing was deleted.
-bool DeleteAllLines(int jobID, int rigID, int componentID);
+bool DeleteAllLines(int jobID);

@@ -3,6 +3,7 @@
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/operation.h"
 #include "gear/catalogue.h"
 #include "gear/models.h"
 
@@ -23,12 +24,14 @@ int AddCustomPart(const JobContext& job, const QString& name, Money price, Date 
       return 0;
     return AddPartToJob(job, known, date);
   }
-  int part = kCustomPart;
-  if (AskYes(u"Would you like to add this item to the PARTS database for future use?"_s, u"New Item: "_s + name)) {
-    part = AddPart(name, price, 0).id;
-    MsgBox(name + u" has been added to the parts table"_s, u"Done"_s);
-  }
+  const bool keep =
+      AskYes(u"Would you like to add this item to the PARTS database for future use?"_s, u"New Item: "_s + name);
   int line = 0;
-  AddCustomLine(job, {.name = name, .price = price, .partID = part}, date, line);
+  const bool written = Operation(u"Sub AddCustomPart"_s, [&] {
+    const int part = keep ? AddPart(name, price, 0).id : kCustomPart;
+    AddCustomLine(job, {.name = name, .price = price, .partID = part}, date, line);
+  });
+  if (!written) return 0;
+  if (keep) MsgBox(name + u" has been added to the parts table"_s, u"Done"_s);
   return line;
 }

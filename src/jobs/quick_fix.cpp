@@ -8,14 +8,14 @@
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
-#include "schedule/schedule.h"
+#include "jobs/schedule_key.h"
 #include "schedule/task_library.h"
 
 using namespace Qt::StringLiterals;
 
 int QuickFix(int rigID, int customerID, int taskLibID, Date date) {
   int jobID = 0;
-  Operation(u"Sub QuickFix"_s, [&] {
+  const bool written = Operation(u"Sub QuickFix"_s, [&] {
     CreateNewJob(Value(date).ToText() + u" - "_s + TaskLibName(taskLibID), customerID, rigID, 0, jobID,
                  ValidDefaultRigger(), DefaultLocation(), date);
     int taskID = 0;
@@ -24,9 +24,9 @@ int QuickFix(int rigID, int customerID, int taskLibID, Date date) {
     MsgBox(u"work on next line"_s);
     SetJobStatus(jobID, true, date);
     SetTaskStatus(taskID, true, date);
-    UpdateSchedule(taskLibID, rigID, GetThisComponentID(taskID));
+    UpdateSchedule(KeyOfLine(taskID));
   });
-  return jobID;
+  return written ? jobID : 0;
 }
 
 void ShowQuickFixHelp() {

@@ -80,7 +80,7 @@ bool PlaceIsFilled(int rows, int componentType, int componentID) {
     MsgBox(u"There are no components to remove"_s, title);
   else if (componentType == 0)
     MsgBox(u"You must select a component from the above grid"_s, title);
-  else if (componentID == 0)
+  else if (!ComponentExists(componentID))
     MsgBox(type + u" doesn't exist"_s, u"Can't remove "_s + type);
   else
     return true;

@@ -33,6 +33,10 @@ void SavePrice(const QString& table, const QString& key, int id, Money price) {
   });
 }
 
+void Clear(const QString& table) {
+  Operation(u"Sub ClearAllPrices"_s, [&] { DeleteAllRecords(table, false); });
+}
+
 QString PriceText(Money price) { return Format(price, u"##0.00"_s); }
 
 void AddPrices(IdList& list, const QString& table, QStringView key, QString (*nameOf)(int id)) {
@@ -79,6 +83,17 @@ Money GetRepackPrice(int taskLibID, int rigID) {
 void SaveByModel(int modelID, Money price) { SavePrice(u"tblRepackByModel"_s, u"ModelID"_s, modelID, price); }
 
 void SaveByType(int typeID, Money price) { SavePrice(u"tblRepackByType"_s, u"TypeID"_s, typeID, price); }
+
+bool SaveRepackPrices(const RepackPrices& prices) {
+  return Operation(u"Sub SaveRepackPrices"_s, [&] {
+    CheckIR(prices.usual);
+    for (const auto& [type, price] : prices.byType) SaveByType(type, price);
+    for (const auto& [model, price] : prices.byModel) SaveByModel(model, price);
+  });
+}
+
+void ClearPricesByType() { Clear(u"tblRepackByType"_s); }
+void ClearPricesByModel() { Clear(u"tblRepackByModel"_s); }
 
 QString RepackPriceLabel() {
   QString label;

@@ -1,5 +1,8 @@
 #pragma once
+#include <QList>
 #include <QString>
+
+#include <utility>
 
 #include "core/lists.h"
 #include "core/money.h"
@@ -16,6 +19,18 @@ Money GetPriceByType(int typeID, int taskLibID);
 /// Stores a price; 0 means none.
 void SaveByModel(int modelID, Money price);
 void SaveByType(int typeID, Money price);
+
+/// All prices of the repack, by the ids of rig types and of models.
+struct RepackPrices {
+  Money usual;
+  QList<std::pair<int, Money>> byType;
+  QList<std::pair<int, Money>> byModel;
+};
+/// Stores them all; false when that failed.
+bool SaveRepackPrices(const RepackPrices& prices);
+/// Forgets the prices of all rig types, or of all models.
+void ClearPricesByType();
+void ClearPricesByModel();
 
 /// What the picker shows as the price of a repack: the default price, or "(cost varies)" when a price by model or by
 /// rig type differs from it.

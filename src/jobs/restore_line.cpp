@@ -1,7 +1,7 @@
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
-#include "core/store/access.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 #include "jobs/job_records.h"
 #include "jobs/line_edits.h"
@@ -18,7 +18,7 @@ const QString kNoName = u"Can't restore previous name (if any)"_s;
 /// A part whose model has gone becomes a custom part of this line.
 bool PartHasGone(int taskID, int partID, const QString& lastLine) {
   if (partID <= 0 || ModelExists(partID)) return false;
-  SetLineField(taskID, u"PartID"_s, kCustomPart);
+  if (!Operation(u"Sub PartHasGone"_s, [&] { SetLineField(taskID, u"PartID"_s, kCustomPart); })) return true;
   MsgBox(Lines({u"This part has been deleted from the available parts table"_s,
                 u"It is now considered a custom entry for this job."_s, lastLine}),
          u"Part no longer exists"_s);
@@ -30,8 +30,7 @@ bool WritePrice(int taskID, Money original, const QString& text, const QString& 
     MsgBox(text, title);
     return false;
   }
-  SetLineField(taskID, u"FlatRate"_s, original);
-  return true;
+  return Operation(u"Sub RestorePrice"_s, [&] { SetLineField(taskID, u"FlatRate"_s, original); });
 }
 
 bool WriteName(int taskID, const QString& original, const QString& text) {
@@ -40,8 +39,7 @@ bool WriteName(int taskID, const QString& original, const QString& text) {
     MsgBox(text);
     return false;
   }
-  SetLineField(taskID, u"TaskName"_s, name);
-  return true;
+  return Operation(u"Sub RestoreTaskName"_s, [&] { SetLineField(taskID, u"TaskName"_s, name); });
 }
 
 /// Why the price of a task is not known; empty when the library tells it.

@@ -8,7 +8,7 @@
 #include "core/store/operation.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
-#include "schedule/schedule.h"
+#include "jobs/schedule_key.h"
 #include "schedule/task_library.h"
 
 using namespace Qt::StringLiterals;
@@ -28,11 +28,11 @@ Date StartOf(const TaskEntry& entry) {
   return {};
 }
 
-void UpdateTask(int taskID, const TaskEntry& entry, int& taskLibID, int& rigID) {
+/// What was written moves the row of the line's own rig, whatever component it touched, and no row without a rig.
+ScheduleKey UpdateTask(int taskID, const TaskEntry& entry) {
   Recordset task(Statement(taskID));
-  if (!RecordsetHasRows(task)) return;
-  taskLibID = task[u"TaskLibID"].ToInt();
-  rigID = task[u"SystemID"].ToInt();
+  if (!RecordsetHasRows(task)) return {};
+  const ScheduleKey key{.taskLibID = task[u"TaskLibID"].ToInt(), .rigID = task[u"SystemID"].ToInt()};
   const QString completed = entry.dateCompleted.trimmed();
   task.Set(u"DateTaskStarted", StartOf(entry));
   task.Set(u"DateTaskCompleted", completed.isEmpty() ? Date() : ParseDate(completed));
@@ -41,6 +41,7 @@ void UpdateTask(int taskID, const TaskEntry& entry, int& taskLibID, int& rigID) 
   task.Set(u"FlatRate", Money::FromText(entry.price));
   task.Set(u"Status", entry.status);
   task.Update();
+  return key;
 }
 
 }  // namespace
@@ -86,10 +87,5 @@ bool AuditFailed(int taskID, TaskEntry& entry) {
 
 bool SaveTaskEntry(int taskID, TaskEntry& entry) {
   if (AuditFailed(taskID, entry)) return false;
-  return Operation(u"Sub UpdateTask"_s, [&] {
-    int taskLibID = 0;
-    int rigID = 0;
-    UpdateTask(taskID, entry, taskLibID, rigID);
-    UpdateSchedule(taskLibID, rigID, 0);
-  });
+  return Operation(u"Sub UpdateTask"_s, [&] { UpdateSchedule(UpdateTask(taskID, entry)); });
 }

@@ -88,7 +88,7 @@ LibraryOutcome AddLibraryTask(const JobContext& job, int taskLibID, Date date, b
   if (taskLibID == RemoveTaskLibID) return LibraryOutcome::Remove;
   if (taskLibID < 1) return LibraryOutcome::Refused;
   auto outcome = LibraryOutcome::Refused;
-  Operation(u"Sub GetLibraryTask"_s, [&] {
+  const bool written = Operation(u"Sub GetLibraryTask"_s, [&] {
     int taskID = 0;
     if (MayStandOnJob(job, taskLibID)) AddTaskToJob(job, taskLibID, false, date, taskID);
     if (taskID != 0) {
@@ -97,6 +97,7 @@ LibraryOutcome AddLibraryTask(const JobContext& job, int taskLibID, Date date, b
       outcome = LibraryOutcome::Added;
     }
   });
+  if (!written) return LibraryOutcome::Refused;
   if (outcome == LibraryOutcome::Added && taskLibID == RepackTaskLibID && !rigComponentsCurrent) {
     MsgBox(Lines({u"Please note:"_s, u"This repack entry will not show up on the schedule."_s,
                   u"This is because this job has components that are different"_s, u"than those in the current rig"_s}),

@@ -225,7 +225,7 @@ class RandomWork : public SampleRig {
       case Action::DeleteLine:
         if (lineID != 0 && model_.lines.at(lineID).job != 0) {
           const int onJob = model_.lines.at(lineID).job;
-          ::DeleteLine(lineID, true, JobSystemID(onJob), JobComponentID(onJob));
+          ::DeleteLine(lineID, true);
           model_.DeleteLine(lineID);
           Load(onJob);
         }

@@ -1,6 +1,11 @@
 #include <QtTest>
 
+#include "core/store/undo.h"
+#include "jobs/delete_job.h"
+#include "jobs/job_components.h"
 #include "jobs/sample_job.h"
+#include "jobs/schedule_key.h"
+#include "support/counting_form.h"
 #include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
@@ -134,6 +139,56 @@ class TestCompletion : public QObject {
     ToggleComplete(first, kWork, true);
     ToggleComplete(second, kWork, true);
     QCOMPARE(RecomputeJobStatus(shop.job), Date());  // the first line's date is not that of an open job
+  }
+
+  void LoadingWritesAStatusOnlyWhereItDiffers() {
+    SampleJob shop;
+    RecomputeJobStatus(shop.job);  // without lines it is complete without a date
+    CountingForm form(u"frmOther"_s, {u"tblJobs"_s});
+    const int operations = static_cast<int>(RecentOperations().size());
+    RecomputeJobStatus(shop.job);
+    LoadJobGear(shop.job, shop.rig);
+    GetInvoiceNumber(shop.job);
+    QCOMPARE(form.told, 1);  // the invoice number
+    RecomputeJobStatus(shop.job);
+    GetInvoiceNumber(shop.job);
+    AuditJobs();
+    QCOMPARE(form.told, 1);
+    shop.loft.Run(u"update tblJobs set JobStatus = 0"_s);
+    QCOMPARE(form.told, 2);
+    RecomputeJobStatus(shop.job);
+    QCOMPARE(form.told, 3);
+    QCOMPARE(shop.JobState(), SampleJob::State(-1, Date()));
+    // What loading puts right is upkeep: a person takes nothing of it back by itself.
+    for (const RecordedOperation& operation : RecentOperations())
+      QVERIFY2(operation.name != u"Load tasks grid"_s && operation.name != u"Get invoice number"_s,
+               qPrintable(operation.name));
+    QVERIFY(RecentOperations().size() <= operations + 1);
+  }
+
+  void EachWriterMovesTheRowOfItsOwnKey() {
+    SampleJob shop;
+    const int repack = shop.AddTask(RepackTaskLibID);
+    const int check = shop.AddTask(shop.aadCheck);
+    const ScheduleKey ofRepack = KeyOfLine(repack);
+    QCOMPARE(ofRepack.taskLibID, RepackTaskLibID);
+    QCOMPARE(ofRepack.rigID, shop.rig);
+    QCOMPARE(ofRepack.componentID, 0);  // it touched two
+    QCOMPARE(KeyOfLine(check).componentID, shop.aad);
+    shop.job = shop.AddJob("Loose", 0, shop.aad);
+    const int loose = shop.AddTask(shop.aadCheck);
+    QCOMPARE(KeyOfLine(loose).rigID, 0);
+    QCOMPARE(KeyOfLine(loose).componentID, shop.aad);
+    QCOMPARE(KeyOfLine(999).taskLibID, 0);
+  }
+
+  void ALineThatHasGoneIsNotCompleted() {
+    SampleJob shop;
+    const int line = shop.AddTask(shop.aadCheck);
+    DeleteTask(line);
+    const QStringList before = shop.loft.Snapshot();
+    QVERIFY(!ToggleComplete(line, kWork, true));
+    QCOMPARE(shop.loft.ChangesSince(before), QStringList());
   }
 
   void AJobWithoutLinesIsCompleteWithNoDate() {

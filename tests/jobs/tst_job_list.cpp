@@ -1,7 +1,10 @@
+#include <QFile>
 #include <QtTest>
 
+#include "core/store/undo.h"
 #include "jobs/job_list.h"
 #include "jobs/sample_job.h"
+#include "support/refusing_disk.h"
 #include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
@@ -34,6 +37,29 @@ class TestJobList : public QObject {
                                       u"03/01/25    Last year - 3 (completed)"_s}));
     // Showing an invoice number for the first time assigns it.
     QCOMPARE(shop.loft.Rows(u"SELECT InvoiceNumber FROM tblJobs ORDER BY ID"_s), QStringList({u"1"_s, u"2"_s, u"3"_s}));
+  }
+
+  void NumbersThatCantBeWrittenAreToldOnceAndTheListStillShows() {
+    Shop shop;
+    ReleaseDatabaseFile();
+    QFile::setPermissions(shop.loft.Folder().Path(), QFile::Permissions(0x7755));
+    QFile::setPermissions(shop.loft.DatabaseFile(), QFile::Permissions(0x4444));
+    {
+      const OrdinaryUser user;
+      shop.prompts.ExpectBox(u"Sub AssignInvoiceNumbers"_s,
+                             u"attempt to write a readonly database\nNothing was changed."_s);
+      QCOMPARE(LoadListJobs({}).texts,
+               QStringList({u"03/01/26    Spare's work - 2"_s, u"03/01/26    Blue 03/01/2026 - 1"_s,
+                            u"03/01/25    Last year - 3 (completed)"_s}));
+      ReleaseDatabaseFile();
+    }
+    QFile::setPermissions(shop.loft.DatabaseFile(), QFile::Permissions(0x6644));
+    QCOMPARE(shop.loft.Rows(u"SELECT DISTINCT InvoiceNumber FROM tblJobs"_s), QStringList{QString()});
+    LoadListJobs({});
+    QVERIFY(!NextUndo() || NextUndo()->name != u"Assign invoice numbers"_s);  // upkeep, which nobody asked for
+    const QStringList before = shop.loft.Snapshot();
+    LoadListJobs({});
+    QCOMPARE(shop.loft.ChangesSince(before), QStringList());
   }
 
   void OfACustomerAStatusOrATask() {

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "core/store/undo.h"
 #include "jobs/job_header.h"
 #include "jobs/job_lines.h"
 #include "jobs/line_edits.h"
@@ -215,7 +216,6 @@ class TestLineEdits : public QObject {
   void LinesOfOtherRiggersCanFollowTheJob() {
     SampleJob shop;
     const int ann = shop.loft.Add("tblPeople", {{"FirstName", "Ann"}, {"LastName", "Adams"}, {"rigger", true}});
-    QVERIFY(!OfferRiggerForTasks(shop.job, ann));
     const int task = shop.AddTask(shop.aadCheck);
     QVERIFY(!JobHasTasksByOtherRiggers(shop.AddJob("Other", shop.rig, 0), ann));
     const int event = shop.AddTask(shop.AddEvent("Reserve ride"));
@@ -226,12 +226,19 @@ class TestLineEdits : public QObject {
         "This job has tasks performed by other riggers.\n"
         "Do you want to change rigger to Ann Adams for all tasks on this job?"_s;
     shop.prompts.Expect(u"Change rigger on tasks?"_s, text, Answer::No);
-    QVERIFY(!OfferRiggerForTasks(shop.job, ann));
+    QVERIFY(ChangeJobRigger(shop.job, ann));
+    QCOMPARE(JobRiggerID(shop.job), ann);
     QCOMPARE(LoadJobLine(task).riggerID, shop.rigger);
+    QVERIFY(ChangeJobRigger(shop.job, shop.rigger));  // nobody else is left to ask about
     shop.prompts.Expect(u"Change rigger on tasks?"_s, text, Answer::Yes);
-    QVERIFY(OfferRiggerForTasks(shop.job, ann));
+    QVERIFY(ChangeJobRigger(shop.job, ann));
+    QCOMPARE(JobRiggerID(shop.job), ann);
     QCOMPARE(LoadJobLine(task).riggerID, ann);
     QCOMPARE(LoadJobLine(event).riggerID, 0);
+    QCOMPARE(NextUndo()->name, u"Change rigger"_s);
+    QVERIFY(UndoOperation());
+    QCOMPARE(JobRiggerID(shop.job), shop.rigger);
+    QCOMPARE(LoadJobLine(task).riggerID, shop.rigger);
   }
 
   void CommentsAreHeadedByTheKindOfLine() {

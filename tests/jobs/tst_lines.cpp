@@ -131,16 +131,16 @@ class TestLines : public QObject {
     CompleteAllTasks(shop.job, true, Day(3, 2, 2026), true);
     const QStringList before = shop.loft.Snapshot();
     shop.prompts.Expect(u"Delete Inspect and repack reserve?"_s, kQuestion, Answer::No).WithPreset(Answer::No);
-    QVERIFY(!DeleteLine(line, false, shop.rig, 0));
+    QVERIFY(!DeleteLine(line, false));
     QCOMPARE(shop.loft.ChangesSince(before), QStringList());
     shop.prompts.Expect(u"Delete Inspect and repack reserve?"_s, kQuestion, Answer::Yes);
-    QVERIFY(DeleteLine(line, false, shop.rig, 0));
+    QVERIFY(DeleteLine(line, false));
     QCOMPARE(LinesOfJob(shop.job), QList<int>{check});
     QCOMPARE(Ties(shop, line), QStringList());
     QCOMPARE(shop.Schedules().filter(u"|1|"_s),
              QStringList(SampleRig::ScheduleRow(shop.rig, 1, Day(1, 1, 2026), Day(6, 30, 2026), early, 0)));
     QCOMPARE(JobDateCompleted(shop.job), Day(3, 2, 2026));
-    QVERIFY(DeleteLine(check, true, shop.rig, 0));
+    QVERIFY(DeleteLine(check, true));
     QCOMPARE(shop.JobState(), SampleJob::State(-1, Date()));
   }
 
@@ -150,7 +150,7 @@ class TestLines : public QObject {
     shop.job = shop.AddJob("Loose", 0, shop.aad);
     const int line = shop.AddTask(shop.aadCheck);
     ToggleComplete(line, Day(3, 2, 2026), false);
-    QVERIFY(DeleteLine(line, true, 0, shop.aad));
+    QVERIFY(DeleteLine(line, true));
     QCOMPARE(shop.Schedules(), QStringList(SampleRig::ScheduleRow(0, shop.aadCheck, Day(1, 10, 2026), Day(7, 10, 2026),
                                                                   early, shop.aad)));
   }
@@ -167,14 +167,14 @@ class TestLines : public QObject {
                            "This will delete the task but it will not remove the actual\n"
                            "component that was installed.  \n"
                            "To delete the component from this job, you must use REMOVE COMPONENT"_s);
-    QVERIFY(DeleteLine(install, false, shop.rig, 0));
+    QVERIFY(DeleteLine(install, false));
     shop.prompts.Expect(u"Delete Remove component?"_s, kQuestion, Answer::Yes);
     shop.prompts.ExpectBox(u"Loftkeep"_s,
                            u"You are deleting a component removal task.\n"
                            "This will delete the task but it will not restore the\n"
                            "component that was removed.  \n"
                            "To restore the component, you must use INSTALL COMPONENT"_s);
-    QVERIFY(DeleteLine(removal, false, shop.rig, 0));
+    QVERIFY(DeleteLine(removal, false));
     // The same among all lines, which are asked for once.
     AddTaskToJob(shop.Context(), RemoveTaskLibID, false, Day(3, 2, 2026), removal);
     shop.prompts.Expect(u"Delete all entries for this job?"_s,
@@ -186,13 +186,13 @@ class TestLines : public QObject {
                            "This will delete the task but it will not restore the\n"
                            "component that was removed.  \n"
                            "To restore the component, you must use INSTALL COMPONENT"_s);
-    QVERIFY(DeleteAllLines(shop.job, shop.rig, 0));
+    QVERIFY(DeleteAllLines(shop.job));
   }
 
   void AllLinesAreDeletedAfterOneQuestion() {
     SampleJob shop;
     shop.prompts.ExpectBox(u"Nothing to delete"_s, u"This jobs has no entries"_s);
-    QVERIFY(!DeleteAllLines(shop.job, shop.rig, 0));
+    QVERIFY(!DeleteAllLines(shop.job));
     shop.AddTask(RepackTaskLibID);
     shop.AddTask(shop.aadCheck);
     CompleteAllTasks(shop.job, true, Day(3, 2, 2026), true);
@@ -200,10 +200,10 @@ class TestLines : public QObject {
     const QString question =
         u"This will permanently delete all tasks and parts for this job.\nAre you sure you want to do this?"_s;
     shop.prompts.Expect(title, question, Answer::No).WithPreset(Answer::No);
-    QVERIFY(!DeleteAllLines(shop.job, shop.rig, 0));
+    QVERIFY(!DeleteAllLines(shop.job));
     QCOMPARE(LinesOfJob(shop.job).size(), 2);
     shop.prompts.Expect(title, question, Answer::Yes);
-    QVERIFY(DeleteAllLines(shop.job, shop.rig, 0));
+    QVERIFY(DeleteAllLines(shop.job));
     QCOMPARE(LinesOfJob(shop.job), QList<int>());
     QCOMPARE(shop.loft.Rows(u"select * from tblTaskComponents"_s), QStringList());
     QCOMPARE(shop.Schedules(), QStringList());

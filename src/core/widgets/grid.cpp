@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMetaMethod>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
@@ -134,6 +135,36 @@ void Grid::FillLazily(int rows, GridModel::TextOf textOf, const std::function<in
   filling_ = true;
   model_.SetRows(std::move(content), std::move(textOf));
   AfterFill();
+}
+
+void Grid::Refill(std::vector<GridRow> rows) {
+  const int row = CurrentRow();
+  const int column = CurrentColumn();
+  const int id = RowData(row);
+  const int editedID = IsEditing() ? RowData(edited_.row()) : 0;
+  const int editedColumn = edited_.column();
+  const int scrolled = verticalScrollBar()->value();
+  if (editedID == 0) CloseEditor();
+  filling_ = true;
+  model_.SetRows(std::move(rows));
+  AfterFill();
+  SelectAgain(row, column, id);
+  verticalScrollBar()->setValue(scrolled);
+  if (editedID == 0) return;
+  edited_ = model_.index(FindRow(editedID), editedColumn);
+  if (IsEditing())
+    PlaceEditor();
+  else
+    HideEditor();
+}
+
+void Grid::SelectAgain(int row, int column, int id) {
+  if (row < 0) return;
+  const QScopedValueRollback<bool> untold(filling_, true);
+  const int found = id == 0 ? -1 : FindRow(id);
+  SelectCell(found >= 0 ? found : qMin(row, RowCount() - 1), column);
+  toldRow_ = CurrentRow();
+  toldColumn_ = CurrentColumn();
 }
 
 void Grid::AfterFill() {

@@ -25,6 +25,10 @@ class Grid : public QTableView {
   /// person has chosen is applied again; nothing is selected afterwards.
   void Fill(std::vector<GridRow> rows);
   void FillLazily(int rows, GridModel::TextOf textOf, const std::function<int(int row)>& dataOf = nullptr);
+  /// Fills it with what the same rows read now. By their ids, the selected cell stays selected and a text box that is
+  /// open stays open with what was typed; where the selected row has gone, the one in its place is selected. Nothing is
+  /// told of it.
+  void Refill(std::vector<GridRow> rows);
   int AddRow(const QStringList& cells, int id = 0);  ///< for a few rows; Fill is for many
   void InsertRow(int row, const QStringList& cells, int id = 0);
   void RemoveRow(int row);
@@ -75,6 +79,7 @@ class Grid : public QTableView {
   bool IsEditing() const { return edited_.isValid(); }
   bool SaveEditor();  ///< false when the text was refused and the box is still open
   void AbandonEditor();
+  bool EditorIsChanged() const;  ///< false while the box holds the text that it was opened with
   QLineEdit* Editor() const;
 
   void Copy() const;  ///< the selected cell, or the shown cells of the selected rows, to the clipboard
@@ -113,10 +118,12 @@ class Grid : public QTableView {
  private:
   void ApplyColumns();
   void AfterFill();
+  void SelectAgain(int row, int column, int id);
   void TellChange();
   void ClickHeading(int column);
   void PlaceEditor();
   void CloseEditor();
+  void HideEditor();
   bool SendKey(int key);
   QString Name(int column) const;
   QList<int> ShownColumns() const;
@@ -126,6 +133,7 @@ class Grid : public QTableView {
   GridModel model_;
   CellEditor* editor_ = nullptr;
   QPersistentModelIndex edited_;
+  QString editedText_;  // what the box was opened with
   QString memory_;
   Qt::KeyboardModifiers modifiers_;
   Qt::SortOrder sortOrder_ = Qt::AscendingOrder;

@@ -1,3 +1,5 @@
+#include <QScopedValueRollback>
+
 #include "core/widgets/cell_editor.h"
 #include "core/widgets/grid.h"
 
@@ -6,7 +8,8 @@ bool Grid::EditInCell(int row, int column, const std::optional<QString>& text) {
   SelectCell(row, column);
   edited_ = model_.index(row, column);
   editor_->setAlignment(model_.Columns()[static_cast<size_t>(column)].alignment | Qt::AlignVCenter);
-  editor_->setText(text.value_or(Text(row, column)));
+  editedText_ = text.value_or(Text(row, column));
+  editor_->setText(editedText_);
   editor_->setAccessibleName(Name(column));
   PlaceEditor();
   editor_->show();
@@ -17,15 +20,21 @@ bool Grid::EditInCell(int row, int column, const std::optional<QString>& text) {
 
 QLineEdit* Grid::Editor() const { return editor_; }
 
+bool Grid::EditorIsChanged() const { return IsEditing() && editor_->text() != editedText_; }
+
 bool Grid::SaveEditor() {
   if (!IsEditing()) return true;
   if (saving_) return false;  // a box shown by the one who refuses takes the focus away
   bool keepOpen = false;
   const QPersistentModelIndex saved = edited_;
-  saving_ = true;
-  Q_EMIT CellSaved(edited_.row(), edited_.column(), editor_->text(), keepOpen);
-  saving_ = false;
-  if (edited_ != saved || !edited_.isValid()) return true;  // the grid was filled anew, or another cell is edited
+  const int id = RowData(edited_.row());
+  {
+    const QScopedValueRollback<bool> saving(saving_, true);
+    Q_EMIT CellSaved(edited_.row(), edited_.column(), editor_->text(), keepOpen);
+  }
+  // Meanwhile the grid may have been filled anew, or the screen refilled it with what was saved.
+  const bool isOpen = IsEditing() && (edited_ == saved || (id != 0 && RowData(edited_.row()) == id));
+  if (!isOpen) return true;
   if (!keepOpen) {
     CloseEditor();
     return true;
@@ -40,7 +49,10 @@ void Grid::AbandonEditor() {
 }
 
 void Grid::CloseEditor() {
-  if (!IsEditing()) return;
+  if (IsEditing()) HideEditor();
+}
+
+void Grid::HideEditor() {
   const bool focused = editor_->hasFocus();
   edited_ = QPersistentModelIndex();  // before hiding, which counts as leaving
   editor_->hide();

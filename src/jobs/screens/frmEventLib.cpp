@@ -5,6 +5,7 @@
 #include "core/widgets/screen_routines.h"
 #include "jobs/library_entry.h"
 #include "jobs/screens.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmEventLib.h"
 
 using namespace Qt::StringLiterals;
@@ -25,6 +26,15 @@ frmEventLib::frmEventLib() : ui_(std::make_unique<Ui::frmEventLib>()) {
 }
 
 frmEventLib::~frmEventLib() = default;
+
+QStringList frmEventLib::ShowsTables() const { return {u"tblTaskLib"_s, u"tblComponentTypes"_s}; }
+
+void frmEventLib::ReloadForm() {
+  if (taskLibID_ != 0 && !TaskLibExists(taskLibID_))
+    Cancel();
+  else
+    RefillList(*ui_->lstComps, LoadComponentTypes());
+}
 
 void frmEventLib::SetEvent(int taskLibID, const QString& name) {
   EventTypeEntry entry{.name = name};
@@ -53,6 +63,7 @@ void frmEventLib::Save() {
 }
 
 int EditEventType(int taskLibID, const QString& name) {
+  if (ComesForward<frmEventLib>()) return 0;
   auto& form = SharedForm<frmEventLib>();
   form.SetEvent(taskLibID, name);
   form.ShowModal();

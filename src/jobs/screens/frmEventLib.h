@@ -16,6 +16,9 @@ class frmEventLib : public Form {
 
   void SetEvent(int taskLibID, const QString& name);
   int TaskLibID() const { return taskLibID_; }
+  /// Leaves what is being entered; an event that has gone can't be edited any more.
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
   void Save();

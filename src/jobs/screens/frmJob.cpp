@@ -1,11 +1,14 @@
 #include "jobs/screens/frmJob.h"
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 #include "core/clock.h"
+#include "core/dates.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/trap.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/components.h"
 #include "gear/rigs.h"
@@ -72,9 +75,8 @@ frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(th
 frmJob::~frmJob() = default;
 
 QStringList frmJob::ShowsTables() const {
-  return {u"tblJobs"_s,     u"tblTasks"_s,  u"tblTaskComponents"_s, u"tblJobComponents"_s,     u"tblComponents"_s,
-          u"tblModels"_s,   u"tblRig"_s,    u"tblRigTypes"_s,       u"tblRigTypeComponents"_s, u"tblPeople"_s,
-          u"tblLocation"_s, u"tblTaskLib"_s};
+  return {u"tblJobs"_s,           u"tblTasks"_s, u"tblJobComponents"_s,     u"tblComponents"_s, u"tblModels"_s,
+          u"tblComponentTypes"_s, u"tblRig"_s,   u"tblRigTypeComponents"_s, u"tblPeople"_s,     u"tblLocation"_s};
 }
 
 void frmJob::ConnectControls() {
@@ -92,35 +94,47 @@ void frmJob::ConnectControls() {
 
 bool frmJob::LoadJob(int jobID) {
   if (busy_) return true;
-  busy_ = true;
-  CloseLabelEditor();
+  if (!SaveEditors()) ui_->Grid2->AbandonEditor();
   AuditJobs();
   const int shown = JobExists(jobID) ? jobID : GetNextValidJobID(jobID);
+  ui_->grid->Clear();
+  ui_->Grid2->Clear();
   if (shown == 0) {
-    MsgBox(u"There are no jobs"_s);
     job_ = {};
+    MsgBox(u"There are no jobs"_s);
     hide();
-    busy_ = false;
     return false;
   }
-  Operation(u"Sub LoadJob"_s, [&] {
-    job_ = JobContextOf(shown);
-    componentID_ = JobComponentID(shown);
-    RememberShown(job_, componentID_);
-    LoadSystemInfo();
-    LoadWorkingDate();
-    LoadTasksGrid();
-  });
-  busy_ = false;
+  ShowJobOf(shown);
+  LoadWorkingDate();
+  Upkeep(u"Sub LoadJob"_s, [this] { RememberShown(job_, componentID_); });
   return true;
 }
 
+void frmJob::ShowJobOf(int jobID) {
+  const QScopedValueRollback<bool> busy(busy_, true);
+  Trap(u"Sub LoadJob"_s, [&] {
+    Bracket bracket;
+    job_ = JobContextOf(jobID);
+    componentID_ = JobComponentID(jobID);
+    LoadSystemInfo();
+    LoadTasksGrid();
+    bracket.Close();
+  });
+}
+
 void frmJob::ReloadForm() {
-  if (job_.jobID != 0 && !busy_) LoadJob(job_.jobID);
+  if (job_.jobID == 0 || busy_) return;
+  if (!JobExists(job_.jobID)) {
+    LoadJob(job_.jobID);
+    return;
+  }
+  ShowJobOf(job_.jobID);
+  if (!IsValidDate(ui_->txtDate->text().trimmed()) && !ui_->txtDate->hasFocus()) LoadWorkingDate();
 }
 
 void frmJob::Cancel() {
-  CloseLabelEditor();
+  if (!SaveEditors()) return;
   SetTag(u"cancel"_s);
   hide();
 }
@@ -128,11 +142,10 @@ void frmJob::Cancel() {
 void frmJob::Activate() {
   if (busy_ || job_.jobID == 0) return;
   if (ui_->txtDate->text().trimmed().isEmpty()) ui_->txtDate->setText(HeaderDate(Today()));
-  if (!JobExists(job_.jobID)) {
+  if (JobExists(job_.jobID))
+    CheckRigChange();
+  else
     LoadJob(job_.jobID);
-    return;
-  }
-  CheckRigChange();
 }
 
 void frmJob::changeEvent(QEvent* event) {

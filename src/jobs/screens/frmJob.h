@@ -4,6 +4,7 @@
 
 #include "core/date.h"
 #include "core/widgets/form.h"
+#include "jobs/custom_entry.h"
 #include "jobs/job_header.h"
 #include "jobs/lines.h"
 #include "jobs/task_rules.h"
@@ -23,9 +24,11 @@ class frmJob : public Form {
   frmJob();
   ~frmJob() override;
 
-  /// Shows a job, or the next valid one when it has gone. False, after a box, when there are no jobs.
+  /// Opens a job, or the next valid one when it has gone, on its own working date. False, after a box, when there are
+  /// no jobs.
   bool LoadJob(int jobID);
   int JobID() const { return job_.jobID; }
+  /// Reads the job anew. Selections, the working date and what is being typed stay.
   void ReloadForm() override;
   QStringList ShowsTables() const override;
 
@@ -40,6 +43,8 @@ class frmJob : public Form {
 
   // frmJob.cpp
   void ConnectControls();
+  void ShowJobOf(int jobID);
+  bool StillShows(int jobID) const { return jobID != 0 && jobID == job_.jobID; }
   void Activate();
   void Step(int (*neighbour)(int jobID, bool& noneLeft), bool forward);
   void RunListItem();
@@ -57,6 +62,7 @@ class frmJob : public Form {
   void EditLabel(ClickLabel* label, const Save& save);
   void SaveLabel();
   void CloseLabelEditor();
+  bool SaveEditors();
   void LoadWorkingDate();
   void RepairWorkingDate();
   Date WorkDate() const;
@@ -78,19 +84,19 @@ class frmJob : public Form {
   void DeleteCurrentTask();
   void DeleteAllTasks();
   void ChangeTaskRigger();
-  void PickLineRigger(int row);
+  void PickLineRigger(int task);
   void Restore(bool (*restore)(int taskID), const QString& what);
   void EditTaskComments();
   void CheckTaskComments();
 
   // frmJob_adding.cpp
   Date TypedDate() const;
-  void AddLine(int taskLibID, Date date);
   void EnterTask();
-  bool GetLibraryTask(int taskLibID, Date date);
+  void GetLibraryTask(int taskLibID, Date date);
   void AddFromLibrary(bool events);
   void DoMultiTask();
   void EnterCustom(bool isEvent);
+  void AddOneOff(const CustomEntry& entry, Date date);
   void SelectPart();
   void EnterCustomPart();
 
@@ -104,6 +110,7 @@ class frmJob : public Form {
 
   std::unique_ptr<Ui::frmJob> ui_;
   QLineEdit* txtAny_;  ///< laid over the label that is edited
+  QString anyText_;    ///< what it was opened with
   ClickLabel* edited_ = nullptr;
   Save save_;
   JobContext job_;

@@ -18,6 +18,7 @@
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
 #include "jobs/screens/gear_grid.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmJobList.h"
 #include "schedule/task_library.h"
 
@@ -59,8 +60,9 @@ frmJobList::frmJobList() : ui_(std::make_unique<Ui::frmJobList>()) {
 frmJobList::~frmJobList() = default;
 
 QStringList frmJobList::ShowsTables() const {
-  return {u"tblJobs"_s,   u"tblTasks"_s,  u"tblJobComponents"_s, u"tblComponents"_s,       u"tblRig"_s,
-          u"tblPeople"_s, u"tblModels"_s, u"tblRigTypes"_s,      u"tblRigTypeComponents"_s};
+  return {u"tblJobs"_s,          u"tblTasks"_s,      u"tblTaskLib"_s,          u"tblPeople"_s,
+          u"tblJobComponents"_s, u"tblComponents"_s, u"tblModels"_s,           u"tblComponentTypes"_s,
+          u"tblRig"_s,           u"tblRigTypes"_s,   u"tblRigTypeComponents"_s};
 }
 
 void frmJobList::BuildMenus() {
@@ -77,9 +79,7 @@ void frmJobList::BuildMenus() {
     taskLibID_ = 0;
     LoadJobs(Job());
   });
-  MenuBar()->addMenu(u"T&ools"_s)->addAction(u"Delete all empty jobs"_s, this, [this] {
-    if (DeleteAllEmptyJobs()) ReloadForm();
-  });
+  MenuBar()->addMenu(u"T&ools"_s)->addAction(u"Delete all empty jobs"_s, this, [] { DeleteAllEmptyJobs(); });
   MenuBar()->addMenu(u"For&ms"_s)->addAction(u"Arrange forms"_s, this, [] { ArrangeForms(); });
 }
 
@@ -91,9 +91,11 @@ void frmJobList::SetStart(const JobListStart& start) {
 }
 
 void frmJobList::ReloadForm() {
-  const int job = Job();
-  LoadCustomers(Customer());
-  LoadJobs(job);
+  if (!TaskLibExists(taskLibID_)) taskLibID_ = 0;
+  RefillList(*ui_->lstCustomers, ::LoadCustomers(false));
+  ShowTaskType();
+  RefillList(*ui_->lstJobs, LoadListJobs(Filter()));
+  ShowJob();
 }
 
 int frmJobList::Customer() const { return ui_->lstCustomers->ItemData(ui_->lstCustomers->ListIndex()); }
@@ -118,10 +120,14 @@ void frmJobList::LoadCustomers(int select) {
 
 void frmJobList::LoadJobs(int select) {
   const QSignalBlocker quiet(ui_->lstJobs);
-  ui_->lblTaskType->setText(taskLibID_ == 0 ? QString() : u'(' + TaskLibName(taskLibID_) + u" only)"_s);
+  ShowTaskType();
   ui_->lstJobs->Fill(LoadListJobs(Filter()));
   ui_->lstJobs->SelectData(select);
   ShowJob();
+}
+
+void frmJobList::ShowTaskType() {
+  ui_->lblTaskType->setText(taskLibID_ == 0 ? QString() : u'(' + TaskLibName(taskLibID_) + u" only)"_s);
 }
 
 void frmJobList::ShowJob() {
@@ -136,10 +142,9 @@ void frmJobList::ShowJob() {
     if (!ui_->lstCustomers->SelectData(shown)) ui_->lstCustomers->SetListIndex(-1);
   }
   ui_->lblRigType->setText(rigExists ? RigTypeName(RigType(rig)) : QString());
-  if (job == 0)
-    ui_->grid->Clear();
-  else
-    FillGearGrid(*ui_->grid, job, rigExists ? rig : 0);
+  if (job == 0 || job != shown_) ui_->grid->Clear();
+  shown_ = job;
+  if (job != 0) FillGearGrid(*ui_->grid, job, rigExists ? rig : 0);
   ui_->cmdCurrentComp->setEnabled(rig != 0);
 }
 
@@ -191,8 +196,6 @@ void frmJobList::DeleteSelectedJob() {
   }
   bool cancelled = false;
   DeleteJob(job, true, cancelled);
-  if (cancelled) return;
-  LoadJobs(0);
 }
 
 void frmJobList::AddNewCustomer() {

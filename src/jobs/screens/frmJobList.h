@@ -31,6 +31,7 @@ class frmJobList : public Form {
   JobListFilter Filter() const;
   void LoadCustomers(int select);
   void LoadJobs(int select);
+  void ShowTaskType();
   void ShowJob();
   void ShowPhotos();
   void Search();
@@ -45,4 +46,5 @@ class frmJobList : public Form {
 
   std::unique_ptr<Ui::frmJobList> ui_;
   int taskLibID_ = 0;
+  int shown_ = 0;  ///< the job whose gear is on show
 };

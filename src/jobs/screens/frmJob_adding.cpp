@@ -1,6 +1,9 @@
+#include <algorithm>
+
 #include "core/default_rows.h"
 #include "core/picker.h"
 #include "core/screens.h"
+#include "core/store/operation.h"
 #include "gear/catalogue.h"
 #include "jobs/completion.h"
 #include "jobs/custom_entry.h"
@@ -11,6 +14,7 @@
 #include "jobs/screens/frmMiscTask.h"
 #include "jobs/screens/frmTaskType.h"
 #include "jobs/screens/job_gear_commands.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
@@ -33,38 +37,44 @@ int SaveCustomTaskToLibrary() {
 /// What is typed as date performed; it is read before anything else is asked.
 Date frmJob::TypedDate() const { return WorkingDate(ui_->txtDate->text()); }
 
-void frmJob::AddLine(int taskLibID, Date date) {
-  if (GetLibraryTask(taskLibID, date)) LoadTasksGrid();
-}
-
 /// The reserve repack.
 void frmJob::EnterTask() {
   const Date date = TypedDate();
-  if (RepackIsPossible(job_.rigID)) AddLine(RepackTaskLibID, date);
+  if (RepackIsPossible(job_.rigID)) GetLibraryTask(RepackTaskLibID, date);
 }
 
-/// True when a line was added; what installs and removes gear shows the lines by itself.
-bool frmJob::GetLibraryTask(int taskLibID, Date date) {
+void frmJob::GetLibraryTask(int taskLibID, Date date) {
   const LibraryOutcome outcome = AddLibraryTask(job_, taskLibID, date, rigComponentsCurrent_);
   if (outcome == LibraryOutcome::Install) gear_->InstallComponent();
   if (outcome == LibraryOutcome::Remove) gear_->RemoveComponent();
-  return outcome == LibraryOutcome::Added;
 }
 
 void frmJob::AddFromLibrary(bool events) {
+  const int job = job_.jobID;
   const Date date = TypedDate();
-  if (const int entry = SelectTask({.events = events}).taskLibID; entry > 0) AddLine(entry, date);
+  if (const int entry = SelectTask({.events = events}).taskLibID; entry > 0 && StillShows(job))
+    GetLibraryTask(entry, date);
 }
 
 void frmJob::DoMultiTask() {
+  const int job = job_.jobID;
   const QList<int> entries = SelectMultipleTasks();
-  if (entries.isEmpty()) return;
+  if (entries.isEmpty() || !StillShows(job)) return;
   const Date date = TypedDate();
-  for (int entry : entries) GetLibraryTask(entry, date);
-  LoadTasksGrid();
+  // Gear is installed and removed by commands of their own.
+  const auto isGear = [](int entry) { return entry == InstallTaskLibID || entry == RemoveTaskLibID; };
+  for (auto it = entries.cbegin(); it != entries.cend();) {
+    const auto end = std::find_if(it, entries.cend(), isGear);
+    Operation({u"Sub DoMultiTask"_s, u"Add multiple tasks"_s}, [&] {
+      for (; it != end; ++it) GetLibraryTask(*it, date);
+    });
+    if (it != entries.cend()) GetLibraryTask(*it++, date);
+  }
 }
 
 void frmJob::EnterCustom(bool isEvent) {
+  if (ComesForward<frmMiscTask>()) return;
+  const int job = job_.jobID;
   auto& form = SharedForm<frmMiscTask>();
   if (isEvent) form.DoEventCaptions();
   form.ShowModal();
@@ -76,25 +86,34 @@ void frmJob::EnterCustom(bool isEvent) {
     road = taskLibID > 0 ? CustomRoad::Library : CustomRoad::None;
   }
   form.UnloadForm();
-  if (road == CustomRoad::Library) AddLine(taskLibID, TypedDate());
-  if (road != CustomRoad::OneOff) return;
-  AddOneOffLine(job_, entry, TypedDate());
-  LoadTasksGrid();
-  const bool complete = CheckJobStatus(job_.jobID, WorkDate());
+  if (!StillShows(job)) return;
+  if (road == CustomRoad::Library) GetLibraryTask(taskLibID, TypedDate());
+  if (road == CustomRoad::OneOff) AddOneOff(entry, TypedDate());
+}
+
+/// Until the next load a job that is complete by it is complete on the working date.
+void frmJob::AddOneOff(const CustomEntry& entry, Date date) {
+  bool complete = false;
+  Operation(u"Sub AddOneOffLine"_s, [&] {
+    AddOneOffLine(job_, entry, date);
+    complete = CheckJobStatus(job_.jobID, WorkDate());
+  });
   ShowJobStatus(complete, complete ? HeaderDate(WorkDate()) : u"(n/a)"_s);
 }
 
 void frmJob::SelectPart() {
+  const int job = job_.jobID;
   int part = PickItem(kPickMiscItem).id;
   if (part == kPickAddNew) {
     MiscItem item;
     part = EnterMiscItem(item) ? AddPart(item.name, item.price, 0).id : 0;
   }
-  if (part > 0 && AddPartToJob(job_, part, TypedDate()) != 0) LoadTasksGrid();
+  if (part > 0 && StillShows(job)) AddPartToJob(job_, part, TypedDate());
 }
 
 void frmJob::EnterCustomPart() {
+  const int job = job_.jobID;
   MiscItem item;
-  if (!EnterMiscItem(item, {.caption = u"Enter Custom Item"_s})) return;
-  if (AddCustomPart(job_, item.name, item.price, TypedDate()) != 0) LoadTasksGrid();
+  if (EnterMiscItem(item, {.caption = u"Enter Custom Item"_s}) && StillShows(job))
+    AddCustomPart(job_, item.name, item.price, TypedDate());
 }

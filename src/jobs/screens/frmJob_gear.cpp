@@ -16,15 +16,8 @@ constexpr int kMostGearRows = 8;
 
 void frmJob::ConnectGear() {
   SetUpGearGrid(*ui_->grid);
-  gear_ = std::make_unique<JobGearCommands>(JobGearCommands::Screen{.grid = ui_->grid,
-                                                                    .job = &job_,
-                                                                    .date = [this] { return WorkDate(); },
-                                                                    .reloadGear =
-                                                                        [this] {
-                                                                          LoadSystemInfo();
-                                                                          LoadTasksGrid();
-                                                                        },
-                                                                    .reloadJob = [this] { ReloadForm(); }});
+  gear_ = std::make_unique<JobGearCommands>(
+      JobGearCommands::Screen{.grid = ui_->grid, .job = &job_, .date = [this] { return WorkDate(); }});
   const auto act = [this](int row, int column) { gear_->ClickCell(row, column); };
   connect(ui_->grid, &Grid::CellClick, this, act);
   connect(ui_->grid, &Grid::CellEnter, this, act);

@@ -4,6 +4,7 @@
 #include "core/dates.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/operation.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/locations.h"
 #include "gear/people.h"
@@ -13,6 +14,17 @@
 #include "jobs/screens/ui_frmJob.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Another window or a box's own menu in front does not mean that the box was left.
+bool WasLeft(const QEvent* event) {
+  if (event->type() != QEvent::FocusOut) return false;
+  const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
+  return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+}
+
+}  // namespace
 
 void frmJob::ConnectHeader() {
   txtAny_->installEventFilter(this);
@@ -62,7 +74,8 @@ void frmJob::EditLabel(ClickLabel* label, const Save& save) {
   const QPoint place = label->mapTo(this, QPoint(0, 0));
   const int height = qMax(label->height(), txtAny_->sizeHint().height());
   txtAny_->setGeometry(place.x(), place.y() + (label->height() - height) / 2, qMax(label->width(), 110), height);
-  txtAny_->setText(label->text());
+  anyText_ = label->text();
+  txtAny_->setText(anyText_);
   txtAny_->show();
   txtAny_->raise();
   SelectAllInBox(txtAny_);
@@ -74,6 +87,7 @@ void frmJob::SaveLabel() {
   const Save save = save_;
   const QString text = txtAny_->text();
   CloseLabelEditor();
+  if (text == anyText_) return;
   const EditResult result = save(text);
   label->setText(result.shown);
   if (result.refused && label == ui_->lblDateStarted) ui_->txtDate->setFocus();
@@ -88,9 +102,21 @@ void frmJob::CloseLabelEditor() {
   txtAny_->hide();
 }
 
+/// Saves what is being typed; false while a cell keeps a text that was refused. A job that has gone takes its texts
+/// along.
+bool frmJob::SaveEditors() {
+  if (!JobExists(job_.jobID)) {
+    CloseLabelEditor();
+    ui_->Grid2->AbandonEditor();
+    return true;
+  }
+  SaveLabel();
+  return ui_->Grid2->SaveEditor();
+}
+
 bool frmJob::eventFilter(QObject* watched, QEvent* event) {
   if (watched == txtAny_ && edited_) {
-    if (event->type() == QEvent::FocusOut) {
+    if (WasLeft(event)) {
       SaveLabel();
     } else if (event->type() == QEvent::KeyPress) {
       const int key = static_cast<QKeyEvent*>(event)->key();
@@ -104,7 +130,7 @@ bool frmJob::eventFilter(QObject* watched, QEvent* event) {
       }
     }
   }
-  if (watched == ui_->txtDate && event->type() == QEvent::FocusOut && isVisible()) RepairWorkingDate();
+  if (watched == ui_->txtDate && WasLeft(event) && isVisible()) RepairWorkingDate();
   return Form::eventFilter(watched, event);
 }
 
@@ -130,27 +156,22 @@ Date frmJob::WorkDate() const {
 
 void frmJob::ChangeRigger() {
   if (!RiggersExist()) return;
+  const int job = job_.jobID;
   const Picked picked = PickItem(kPickRigger, 0, job_.riggerID);
-  if (picked.id < 1 || picked.id == job_.riggerID) return;
-  SetJobRiggerID(job_.jobID, picked.id);
-  job_.riggerID = picked.id;
-  OfferRiggerForTasks(job_.jobID, picked.id);
-  LoadTasksGrid();
+  if (StillShows(job) && picked.id > 0 && picked.id != job_.riggerID) ChangeJobRigger(job, picked.id);
 }
 
 /// Lines that are on the job already keep the place where they were done.
 void frmJob::ChangeLocation() {
+  const int job = job_.jobID;
   const int chosen = ShowLocations(job_.locationID != 0 ? job_.locationID : DefaultLocation());
-  if (chosen == 0) return;
-  SetJobLocationID(job_.jobID, chosen);
-  job_.locationID = chosen;
-  LoadHeader();
+  if (chosen != 0) Operation(u"Sub ChangeLocation"_s, [&] { SetJobLocationID(job, chosen); });
 }
 
 void frmJob::EditJobComments() {
-  const auto text = EditComments(u"Job: "_s + JobTitle(job_.jobID), JobComments(job_.jobID));
-  if (text) SetJobComments(job_.jobID, *text);
-  LoadHeader();
+  const int job = job_.jobID;
+  const auto text = EditComments(u"Job: "_s + JobTitle(job), JobComments(job));
+  if (text) Operation(u"Sub EditJobComments"_s, [&] { SetJobComments(job, *text); });
 }
 
 void frmJob::ShowDateHelp() {

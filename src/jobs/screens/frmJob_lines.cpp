@@ -1,8 +1,10 @@
+#include <QScopedValueRollback>
+
 #include "core/format.h"
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
-#include "core/trap.h"
+#include "core/store/operation.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/catalogue.h"
 #include "jobs/completion.h"
@@ -64,7 +66,7 @@ void frmJob::LoadTasksGrid() {
   rows.push_back({});
   rows.push_back({{u"Total"_s}});
   for (auto row = rows.end() - kRowsBelow; row != rows.end(); ++row) row->cells.resize(kPartID + 1);
-  ui_->Grid2->Fill(std::move(rows));
+  ui_->Grid2->Refill(std::move(rows));
   const int last = ui_->Grid2->RowCount() - 1;
   for (int column = kTask; column <= kStatus; ++column) ui_->Grid2->SetCellColour(last, column, kTotalsBack);
   ShowTotal();
@@ -94,8 +96,7 @@ int frmJob::SelectedTask() const { return ui_->Grid2->RowData(ui_->Grid2->Curren
 void frmJob::EditCell(int row, int column) {
   const int task = ui_->Grid2->RowData(row);
   if (task == 0) return;
-  const bool isEvent = TaskIsEvent(task);
-  if (isEvent && (column == kRigger || column == kPrice)) {
+  if ((column == kRigger || column == kPrice) && TaskIsEvent(task)) {
     MsgBox(Lines({u"This entry is an event, not a rigging task."_s,
                   u"The %1 field is not available for events."_s.arg(column == kRigger ? u"rigger"_s : u"price"_s)}),
            u"Event: "_s + LineName(task));
@@ -104,7 +105,7 @@ void frmJob::EditCell(int row, int column) {
   const QString text = ui_->Grid2->Text(row, column).trimmed();
   switch (column) {
     case kRigger:
-      PickLineRigger(row);
+      PickLineRigger(task);
       break;
     case kStatus:
       ToggleLine(row);
@@ -119,6 +120,7 @@ void frmJob::EditCell(int row, int column) {
 }
 
 void frmJob::SaveCell(int row, int column, const QString& text, bool& keepOpen) {
+  if (!ui_->Grid2->EditorIsChanged()) return;
   const int task = ui_->Grid2->RowData(row);
   EditResult result;
   if (column == kTask)
@@ -128,42 +130,40 @@ void frmJob::SaveCell(int row, int column, const QString& text, bool& keepOpen) 
   else
     result = SaveLineDate(task, text);
   keepOpen = result.refused;
-  if (!result.changed) return;
-  ui_->Grid2->SetText(row, column, result.shown);
-  if (column == kPrice) ShowTotal();
 }
 
+/// Shows by itself what it changes: until the next load the job is complete on the working date.
 void frmJob::ToggleLine(int row) {
   const int task = ui_->Grid2->RowData(row);
-  if (task == 0 || !ToggleComplete(task, WorkDate(), rigComponentsCurrent_)) return;
-  const JobLine line = LoadJobLine(task);
+  if (task == 0) return;
+  bool toggled = false;
+  bool complete = false;
+  JobLine line;
+  {
+    const QScopedValueRollback<bool> busy(busy_, true);
+    const bool written = Operation(u"Sub ToggleComplete"_s, [&] {
+      toggled = ToggleComplete(task, WorkDate(), rigComponentsCurrent_);
+      line = LoadJobLine(task);
+      complete = AllChecked(job_.jobID);
+    });
+    if (!written || !toggled) return;
+  }
   ui_->Grid2->SetText(row, kStatus, line.status);
   ui_->Grid2->SetText(row, kDate, line.date);
-  const bool complete = AllChecked(job_.jobID);
   ShowJobStatus(complete, complete ? HeaderDate(WorkDate()) : u"(n/a)"_s);
 }
 
-void frmJob::CompleteAll(bool complete) {
-  CompleteAllTasks(job_.jobID, complete, WorkDate(), rigComponentsCurrent_);
-  LoadTasksGrid();
-}
+void frmJob::CompleteAll(bool complete) { CompleteAllTasks(job_.jobID, complete, WorkDate(), rigComponentsCurrent_); }
 
 void frmJob::DeleteCurrentTask() {
   if (LinesOfJob(job_.jobID).isEmpty()) return;
-  const int row = ui_->Grid2->CurrentRow();
-  const int task = SelectedTask();
-  if (task == 0) {
+  if (const int task = SelectedTask(); task == 0)
     MsgBox(u"You must select an item to delete"_s, u"Nothing selected"_s);
-    return;
-  }
-  if (!DeleteLine(task, false, job_.rigID, componentID_)) return;
-  LoadTasksGrid();
-  ui_->Grid2->SelectRow(row);
+  else
+    DeleteLine(task, false);
 }
 
-void frmJob::DeleteAllTasks() {
-  if (DeleteAllLines(job_.jobID, job_.rigID, componentID_)) LoadTasksGrid();
-}
+void frmJob::DeleteAllTasks() { DeleteAllLines(job_.jobID); }
 
 void frmJob::ChangeTaskRigger() {
   if (LinesOfJob(job_.jobID).isEmpty()) {
@@ -176,25 +176,18 @@ void frmJob::ChangeTaskRigger() {
     EditCell(ui_->Grid2->CurrentRow(), kRigger);
 }
 
-void frmJob::PickLineRigger(int row) {
-  const int task = ui_->Grid2->RowData(row);
+void frmJob::PickLineRigger(int task) {
   const Picked picked = PickItem(kPickRigger, 0, LoadJobLine(task).riggerID);
   if (picked.id < 1) return;
   SetLineRigger(task, picked.id);
-  LoadTasksGrid();
-  ui_->Grid2->SelectCell(row, kRigger);
+  ui_->Grid2->SelectCell(ui_->Grid2->FindRow(task), kRigger);
 }
 
 void frmJob::Restore(bool (*restore)(int taskID), const QString& what) {
-  const int row = ui_->Grid2->CurrentRow();
-  const int task = SelectedTask();
-  if (task == 0) {
+  if (const int task = SelectedTask(); task == 0)
     MsgBox(what, u"Nothing selected"_s);
-    return;
-  }
-  if (!restore(task)) return;
-  LoadTasksGrid();
-  ui_->Grid2->SelectRow(row);
+  else
+    restore(task);
 }
 
 void frmJob::EditTaskComments() {
@@ -204,7 +197,6 @@ void frmJob::EditTaskComments() {
     return;
   }
   if (const auto text = EditComments(LineHeading(task), LineComments(task))) SetLineComments(task, *text);
-  CheckTaskComments();
 }
 
 void frmJob::CheckTaskComments() {

@@ -1,5 +1,6 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 
 #include "core/clock.h"
 #include "core/default_rows.h"
@@ -73,10 +74,7 @@ void frmJob::BuildMenus() {
   rig->addAction(u"Create a new rig"_s, this, [this] { gear_->MakeArig(); });
   rig->addAction(u"Add an existing rig to this job"_s, this, [this] { gear_->ImportRig(); });
   rig->addAction(u"Show this rig"_s, this, &frmJob::ShowThisRig);
-  rig->addAction(u"Show all rigs"_s, this, [this] {
-    ShowRigs();
-    ReloadForm();
-  });
+  rig->addAction(u"Show all rigs"_s, this, [] { ShowRigs(); });
   rig->addAction(u"Install component in rig"_s, this, [this] { gear_->InstallComponent(); });
   rig->addAction(u"Remove component from rig"_s, this, [this] { gear_->RemoveComponent(); });
   QMenu* component = bar->addMenu(u"&Component"_s);
@@ -91,9 +89,7 @@ void frmJob::BuildMenus() {
   QAction* mnuSync =
       tools->addAction(u"Update rig component to match this job's components"_s, this, [this] { gear_->UpdateRig(); });
   mnuSync->setObjectName(u"mnuSync"_s);
-  tools->addAction(u"Delete all empty jobs"_s, this, [this] {
-    if (DeleteAllEmptyJobs()) ReloadForm();
-  });
+  tools->addAction(u"Delete all empty jobs"_s, this, [] { DeleteAllEmptyJobs(); });
   tools->addAction(u"Refresh"_s, this, &frmJob::ReloadForm);
 
   QMenu* comments = bar->addMenu(u"Co&mments"_s);
@@ -105,10 +101,14 @@ void frmJob::BuildMenus() {
 void frmJob::DeleteThisJob() {
   bool cancelled = false;
   const int gone = job_.jobID;
-  busy_ = true;
-  DeleteJob(gone, true, cancelled);
-  busy_ = false;
-  if (cancelled) return;
+  {
+    const QScopedValueRollback<bool> busy(busy_, true);
+    DeleteJob(gone, true, cancelled);
+  }
+  if (cancelled) {
+    ReloadForm();  // others may have written while it asked
+    return;
+  }
   if (const int next = GetNextValidJobID(gone); next != 0) {
     LoadJob(next);
     return;
@@ -142,7 +142,6 @@ void frmJob::ShowThisRig() {
     return;
   }
   ShowRigs({.customer = RigOwner(job_.rigID), .rig = job_.rigID});
-  ReloadForm();
 }
 
 void frmJob::ShowHistory() {

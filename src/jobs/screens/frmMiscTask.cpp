@@ -2,6 +2,7 @@
 
 #include "core/lists.h"
 #include "core/prompts.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmMiscTask.h"
 
 using namespace Qt::StringLiterals;
@@ -17,6 +18,10 @@ frmMiscTask::frmMiscTask() : ui_(std::make_unique<Ui::frmMiscTask>()) {
 }
 
 frmMiscTask::~frmMiscTask() = default;
+
+QStringList frmMiscTask::ShowsTables() const { return {u"tblComponentTypes"_s}; }
+
+void frmMiscTask::ReloadForm() { RefillList(*ui_->lstComps, LoadComponentTypes()); }
 
 void frmMiscTask::DoEventCaptions() {
   isEvent_ = true;
@@ -48,5 +53,6 @@ void frmMiscTask::Accept() {
 
 void frmMiscTask::Cancel() {
   ui_->txtName->clear();
+  ui_->txtCost->clear();
   Form::Cancel();
 }

@@ -17,6 +17,8 @@ class frmMiscTask : public Form {
 
   void DoEventCaptions();
   CustomEntry Entry() const;
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
   QStringList ComponentNames() const;  ///< as they stand in the list
 
  protected:

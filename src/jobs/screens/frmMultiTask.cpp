@@ -2,6 +2,7 @@
 
 #include "core/lists.h"
 #include "jobs/screens.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmMultiTask.h"
 
 using namespace Qt::StringLiterals;
@@ -28,11 +29,12 @@ frmMultiTask::frmMultiTask() : ui_(std::make_unique<Ui::frmMultiTask>()) {
 
 frmMultiTask::~frmMultiTask() = default;
 
+QStringList frmMultiTask::ShowsTables() const { return {u"tblTaskLib"_s}; }
+
 QList<int> frmMultiTask::Ticked() const { return ui_->lstTasks->TickedData(); }
 
 /// The entries of the kind chosen; those that stay keep their ticks.
 void frmMultiTask::LoadEntries() {
-  const QList<int> ticked = Ticked();
   const bool both = ui_->optBoth->isChecked();
   const bool events = ui_->optEvents->isChecked();
   setWindowTitle(both     ? u"Select multiple tasks/events"_s
@@ -40,13 +42,11 @@ void frmMultiTask::LoadEntries() {
                           : u"Select multiple tasks"_s);
   ui_->cmdNewTask->setVisible(!both);
   ui_->cmdNewTask->setText(events ? u"&New event"_s : u"&New task"_s);
-  ui_->lstTasks->Fill(both ? LoadTaskList() : LoadTaskOrEventList(events));
-  ui_->lstTasks->TickData(ticked);
+  RefillList(*ui_->lstTasks, both ? LoadTaskList() : LoadTaskOrEventList(events));
 }
 
 void frmMultiTask::NewEntry() {
   const int added = ui_->optEvents->isChecked() ? EditEventType() : EditTaskType();
-  LoadEntries();
   if (added != 0) ui_->lstTasks->SelectData(added);
 }
 
@@ -64,6 +64,7 @@ void frmMultiTask::Search() {
 }
 
 QList<int> SelectMultipleTasks() {
+  if (ComesForward<frmMultiTask>()) return {};
   auto& form = SharedForm<frmMultiTask>();
   form.ShowModal();
   QList<int> ticked = form.Tag() == "ok"_L1 ? form.Ticked() : QList<int>();

@@ -15,6 +15,8 @@ class frmMultiTask : public Form {
   ~frmMultiTask() override;
 
   QList<int> Ticked() const;
+  void ReloadForm() override { LoadEntries(); }
+  QStringList ShowsTables() const override;
 
  private:
   void LoadEntries();

@@ -2,6 +2,7 @@
 
 #include "core/format.h"
 #include "core/widgets/screen_routines.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmNewMisc.h"
 
 using namespace Qt::StringLiterals;
@@ -34,6 +35,7 @@ void frmNewMisc::Cancel() {
 }
 
 bool EnterMiscItem(MiscItem& item, const MiscItemQuestion& question) {
+  if (ComesForward<frmNewMisc>()) return false;
   auto& form = SharedForm<frmNewMisc>();
   form.SetItem(item, question);
   form.ShowModal();

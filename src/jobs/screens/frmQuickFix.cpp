@@ -9,6 +9,7 @@
 #include "gear/rigs.h"
 #include "jobs/quick_fix.h"
 #include "jobs/screens.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmQuickFix.h"
 #include "schedule/task_library.h"
 
@@ -28,11 +29,24 @@ void frmQuickFix::SetTask(int rigID, int customerID, int taskLibID) {
   rigID_ = rigID;
   customerID_ = customerID;
   taskLibID_ = taskLibID;
-  ui_->lblCustomer->setText(PersonDisplayName(customerID));
-  ui_->lblRig->setText(RigName(rigID));
-  ui_->lblTask->setText(TaskLibName(taskLibID));
+  ShowNames();
   ui_->txtDate->setText(Format(Today(), u"mm/dd/yy"_s));
   SelectAllInBox(ui_->txtDate);
+}
+
+void frmQuickFix::ShowNames() {
+  ui_->lblCustomer->setText(PersonDisplayName(customerID_));
+  ui_->lblRig->setText(RigName(rigID_));
+  ui_->lblTask->setText(TaskLibName(taskLibID_));
+}
+
+QStringList frmQuickFix::ShowsTables() const { return {u"tblPeople"_s, u"tblRig"_s, u"tblTaskLib"_s}; }
+
+void frmQuickFix::ReloadForm() {
+  if (TaskLibExists(taskLibID_) && (rigID_ == 0 || RigExists(rigID_)))
+    ShowNames();
+  else
+    Cancel();
 }
 
 void frmQuickFix::Save() {
@@ -42,11 +56,11 @@ void frmQuickFix::Save() {
     SelectAllInBox(ui_->txtDate);
     return;
   }
-  QuickFix(rigID_, customerID_, taskLibID_, ParseDate(typed));
-  Leave();
+  if (QuickFix(rigID_, customerID_, taskLibID_, ParseDate(typed)) != 0) Leave();
 }
 
 void ShowQuickFix(int rigID, int customerID, int taskLibID) {
+  if (ComesForward<frmQuickFix>()) return;
   auto& form = SharedForm<frmQuickFix>();
   form.SetTask(rigID, customerID, taskLibID);
   form.ShowModal();

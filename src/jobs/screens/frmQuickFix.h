@@ -15,8 +15,12 @@ class frmQuickFix : public Form {
   ~frmQuickFix() override;
 
   void SetTask(int rigID, int customerID, int taskLibID);
+  /// A task or a rig that has gone can't be recorded any more.
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
+  void ShowNames();
   void Save();
 
   std::unique_ptr<Ui::frmQuickFix> ui_;

@@ -1,15 +1,18 @@
 #include "jobs/screens/frmRepack.h"
 
+#include <optional>
+
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/lists.h"
 #include "core/prompts.h"
-#include "core/store/access.h"
+#include "core/trap.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/rig_type_rules.h"
 #include "gear/screens.h"
 #include "jobs/repack_price.h"
 #include "jobs/screens.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmRepack.h"
 #include "schedule/task_library.h"
 
@@ -17,25 +20,40 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kPrice = 2;
+enum Column { kID, kName, kPrice, kStored };
+
 constexpr int kMostRows = 11;
+
+/// What was typed into the row of an id; nothing where its price stands as it was read.
+std::optional<QString> TypedPrice(const Grid& grid, int id) {
+  const int row = grid.FindRow(id);
+  if (row < 0 || grid.Text(row, kPrice) == grid.Text(row, kStored)) return std::nullopt;
+  return grid.Text(row, kPrice);
+}
 
 void FillPrices(Grid& grid, const IdList& names, Money (*priceOf)(int id, int taskLibID)) {
   std::vector<GridRow> rows;
   for (qsizetype i = 0; i < names.Size(); ++i) {
     const int id = names.ids.at(i);
     const Money price = priceOf(id, RepackTaskLibID);
+    const QString stored = price.IsZero() ? QString() : Format(price, u"######0.00"_s);
     rows.push_back(
-        {.cells = {QString::number(id), names.texts.at(i), price.IsZero() ? QString() : Format(price, u"######0.00"_s)},
-         .data = id});
+        {.cells = {QString::number(id), names.texts.at(i), TypedPrice(grid, id).value_or(stored), stored}, .data = id});
   }
-  grid.Fill(std::move(rows));
+  grid.Refill(std::move(rows));
   grid.FitHeight(kMostRows);
 }
 
-void SavePrices(const Grid& grid, void (*save)(int id, Money price)) {
+QList<std::pair<int, Money>> Prices(const Grid& grid) {
+  QList<std::pair<int, Money>> prices;
   for (int row = 0; row < grid.RowCount(); ++row)
-    save(grid.RowData(row), Money::FromDouble(Val(grid.Text(row, kPrice))));
+    prices.append({grid.RowData(row), Money::FromDouble(Val(grid.Text(row, kPrice)))});
+  return prices;
+}
+
+void EmptyPrices(Grid& grid) {
+  for (int row = 0; row < grid.RowCount(); ++row)
+    for (const Column column : {kPrice, kStored}) grid.SetText(row, column, QString());
 }
 
 }  // namespace
@@ -44,14 +62,8 @@ frmRepack::frmRepack() : ui_(std::make_unique<Ui::frmRepack>()) {
   ui_->setupUi(this);
   SetUpGrid(*ui_->Grid1, u"Rig Type"_s);
   SetUpGrid(*ui_->Grid2, u"Container Model"_s);
-  connect(ui_->cmdEditRigTypes, &QPushButton::clicked, this, [this] {
-    ShowRigTypes();
-    ReloadForm();
-  });
-  connect(ui_->cmdEditContainers, &QPushButton::clicked, this, [this] {
-    ShowModels({.type = kContainer});
-    ReloadForm();
-  });
+  connect(ui_->cmdEditRigTypes, &QPushButton::clicked, this, [] { ShowRigTypes(); });
+  connect(ui_->cmdEditContainers, &QPushButton::clicked, this, [] { ShowModels({.type = kContainer}); });
   connect(ui_->cmdClearAllTypePrices, &QPushButton::clicked, this, [this] { ClearAll(true); });
   connect(ui_->cmdClearAllContainerPrices, &QPushButton::clicked, this, [this] { ClearAll(false); });
   connect(ui_->cmdHelp, &QPushButton::clicked, this, [] {
@@ -75,9 +87,10 @@ QStringList frmRepack::ShowsTables() const {
 void frmRepack::SetUpGrid(Grid& grid, const QString& heading) {
   grid.SetColumns({{.heading = u"ID"_s, .width = 0},
                    {.heading = heading, .width = FromTwips(3000)},
-                   {.heading = u"Price"_s, .width = FromTwips(1000), .alignment = Qt::AlignRight}});
+                   {.heading = u"Price"_s, .width = FromTwips(1000), .alignment = Qt::AlignRight},
+                   {.heading = QString(), .width = 0, .name = u"Stored"_s}});
   grid.SetSortable(false);
-  grid.SetStretchColumn(1);
+  grid.SetStretchColumn(kName);
   grid.SetMemory(u"repack-prices-"_s + grid.objectName());
   connect(&grid, &Grid::CellChange, this, [&grid](int row) {
     if (row >= 0) grid.EditInCell(row, kPrice);
@@ -88,13 +101,10 @@ void frmRepack::SetUpGrid(Grid& grid, const QString& heading) {
 }
 
 void frmRepack::ReloadForm() {
-  ui_->txtIR->setText(Format(TaskLibFlatRate(RepackTaskLibID), u"#######0.00"_s));
-  LoadTypes();
-  LoadModels();
+  if (!ui_->txtIR->isModified()) ui_->txtIR->setText(Format(TaskLibFlatRate(RepackTaskLibID), u"#######0.00"_s));
+  FillPrices(*ui_->Grid1, LoadRigTypesById(), GetPriceByType);
+  FillPrices(*ui_->Grid2, LoadModelsOfType(kContainer), GetPriceByModel);
 }
-
-void frmRepack::LoadTypes() { FillPrices(*ui_->Grid1, LoadRigTypesById(), GetPriceByType); }
-void frmRepack::LoadModels() { FillPrices(*ui_->Grid2, LoadModelsOfType(kContainer), GetPriceByModel); }
 
 void frmRepack::HandleKey(Grid& grid, int key, bool& handled) {
   if (key == Qt::Key_Escape) {
@@ -110,23 +120,28 @@ void frmRepack::HandleKey(Grid& grid, int key, bool& handled) {
 }
 
 void frmRepack::Save() {
-  CheckIR(Money::FromDouble(Val(ui_->txtIR->text())));
-  SavePrices(*ui_->Grid1, SaveByType);
-  SavePrices(*ui_->Grid2, SaveByModel);
-  if (!setUp_) MsgBox(u"Saved"_s);
-  Leave();
+  Trap(u"Sub cmdSave_Click"_s, [this] {
+    const RepackPrices prices{.usual = Money::FromDouble(Val(ui_->txtIR->text())),
+                              .byType = Prices(*ui_->Grid1),
+                              .byModel = Prices(*ui_->Grid2)};
+    if (!SaveRepackPrices(prices)) return;
+    if (!setUp_) MsgBox(u"Saved"_s);
+    Leave();
+  });
 }
 
 void frmRepack::ClearAll(bool byType) {
   if (!AskYes(byType ? u"Clear all prices by rig type?"_s : u"Clear all prices by container model?"_s,
               u"Are you sure?"_s))
     return;
-  (byType ? ui_->Grid1 : ui_->Grid2)->AbandonEditor();
-  DeleteAllRecords(byType ? u"tblRepackByType"_s : u"tblRepackByModel"_s, false);
-  byType ? LoadTypes() : LoadModels();
+  Grid& grid = byType ? *ui_->Grid1 : *ui_->Grid2;
+  grid.AbandonEditor();
+  EmptyPrices(grid);
+  byType ? ClearPricesByType() : ClearPricesByModel();
 }
 
 void ShowRepackPrices() {
+  if (ComesForward<frmRepack>()) return;
   auto& form = SharedForm<frmRepack>();
   form.ShowModal();
   form.UnloadForm();

@@ -19,13 +19,12 @@ class frmRepack : public Form {
 
   /// Used while the program is being set up: saving shows no box.
   void SetSetUpMode(bool setUp) { setUp_ = setUp; }
+  /// Reads the prices anew; what was typed and is not saved yet stays.
   void ReloadForm() override;
   QStringList ShowsTables() const override;
 
  private:
   void SetUpGrid(Grid& grid, const QString& heading);
-  void LoadTypes();
-  void LoadModels();
   void HandleKey(Grid& grid, int key, bool& handled);
   void Save();
   void ClearAll(bool byType);

@@ -4,6 +4,7 @@
 #include "core/store/access.h"
 #include "gear/components.h"
 #include "jobs/screens.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmSelectComponentThisTask.h"
 
 using namespace Qt::StringLiterals;
@@ -19,13 +20,22 @@ frmSelectComponentThisTask::frmSelectComponentThisTask() : ui_(std::make_unique<
 
 frmSelectComponentThisTask::~frmSelectComponentThisTask() = default;
 
+QStringList frmSelectComponentThisTask::ShowsTables() const {
+  return {u"tblTaskComponents"_s, u"tblComponents"_s, u"tblModels"_s};
+}
+
 void frmSelectComponentThisTask::SetTask(int taskID) {
+  taskID_ = taskID;
+  ReloadForm();
+}
+
+void frmSelectComponentThisTask::ReloadForm() {
   QList<int> ids;
-  GetRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID, u"CompID"_s, ids);
+  GetRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID_, u"CompID"_s, ids);
   ids.removeAll(0);
   IdList components;
   for (int component : ids) components.Add(ComponentDescription(component), component);
-  ui_->lst->Fill(components);
+  RefillList(*ui_->lst, components);
 }
 
 int frmSelectComponentThisTask::Component() const { return ui_->lst->ItemData(ui_->lst->ListIndex()); }
@@ -40,6 +50,7 @@ void frmSelectComponentThisTask::Accept() {
 }
 
 int SelectComponentOfTask(int taskID) {
+  if (ComesForward<frmSelectComponentThisTask>()) return 0;
   auto& form = SharedForm<frmSelectComponentThisTask>();
   form.SetTask(taskID);
   form.ShowModal();

@@ -15,10 +15,13 @@ class frmSelectComponentThisTask : public Form {
   ~frmSelectComponentThisTask() override;
 
   void SetTask(int taskID);
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
   int Component() const;
 
  private:
   void Accept();
 
   std::unique_ptr<Ui::frmSelectComponentThisTask> ui_;
+  int taskID_ = 0;
 };

@@ -9,6 +9,7 @@
 #include "gear/models.h"
 #include "jobs/library_delete.h"
 #include "jobs/library_entry.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmSelectTask.h"
 
 using namespace Qt::StringLiterals;
@@ -36,8 +37,7 @@ frmSelectTask::frmSelectTask() : ui_(std::make_unique<Ui::frmSelectTask>()) {
 frmSelectTask::~frmSelectTask() = default;
 
 QStringList frmSelectTask::ShowsTables() const {
-  return {u"tblTaskLib"_s, u"tblTaskLibComponentTypes"_s, u"tblTaskLibRigType"_s, u"tblComponentTypes"_s,
-          u"tblRigTypes"_s};
+  return {u"tblTaskLib"_s, u"tblTaskLibComponentTypes"_s, u"tblComponentTypes"_s};
 }
 
 void frmSelectTask::Browse(bool events) { SetUp({.events = events}, false); }
@@ -66,9 +66,9 @@ QString frmSelectTask::Noun() const { return events_ ? u"an event"_s : u"a task"
 int frmSelectTask::Entry() const { return ui_->lstTasks->ItemData(ui_->lstTasks->ListIndex()); }
 
 void frmSelectTask::ReloadForm() {
-  const int shown = Entry();
-  ShowList();
-  HighlightTaskType(shown);
+  RefillList(*ui_->lstCompTypes, LoadComponentTypes());
+  LoadEntries();
+  RefillList(*ui_->lstTasks, EntriesOfText());
 }
 
 void frmSelectTask::ShowList() {
@@ -78,11 +78,15 @@ void frmSelectTask::ShowList() {
     const QSignalBlocker quiet(ui_->lstCompTypes);
     ui_->lstCompTypes->SetListIndex(0);
   }
-  if (byType)
+  LoadEntries();
+  LoadListBoxFromArray();
+}
+
+void frmSelectTask::LoadEntries() {
+  if (ui_->chkComp->isChecked())
     ListTasksByComponent();
   else
     LoadArrayAll();
-  LoadListBoxFromArray();
 }
 
 void frmSelectTask::LoadArrayAll() {
@@ -96,14 +100,19 @@ void frmSelectTask::ListTasksByComponent() {
   ui_->lblTasks->setText((events_ ? u"Events (%1)"_s : u"Tasks (%1)"_s).arg(ComponentTypeName(type)));
 }
 
-/// The entries whose name holds the typed text; the first one is proposed.
-void frmSelectTask::LoadListBoxFromArray() {
+/// The entries whose name holds the typed text.
+IdList frmSelectTask::EntriesOfText() const {
   const QString wanted = ui_->txt->text().trimmed().toUpper();
   IdList shown;
   for (qsizetype i = 0; i < entries_.Size(); ++i)
     if (entries_.texts[i].toUpper().contains(wanted)) shown.Add(entries_.texts[i], entries_.ids[i]);
-  ui_->lstTasks->Fill(shown);
-  if (!wanted.isEmpty()) ui_->lstTasks->SetListIndex(0);
+  return shown;
+}
+
+/// The first one is proposed to who typed.
+void frmSelectTask::LoadListBoxFromArray() {
+  ui_->lstTasks->Fill(EntriesOfText());
+  if (!ui_->txt->text().trimmed().isEmpty()) ui_->lstTasks->SetListIndex(0);
 }
 
 void frmSelectTask::HighlightTaskType(int taskLibID) {
@@ -135,9 +144,7 @@ void frmSelectTask::Select() {
 
 void frmSelectTask::Create(const QString& name) {
   const int added = events_ ? EditEventType(0, name) : EditTaskType({.name = name});
-  if (added == 0) return;
-  ShowList();
-  HighlightTaskType(added);
+  if (added != 0) HighlightTaskType(added);
 }
 
 void frmSelectTask::Edit() {
@@ -153,12 +160,9 @@ void frmSelectTask::Edit() {
     return;
   }
   EditLibraryEntry(Entry());
-  ReloadForm();
 }
 
-void frmSelectTask::Delete() {
-  if (DeleteTaskTypeFromList(Entry(), events_)) ShowList();
-}
+void frmSelectTask::Delete() { DeleteTaskTypeFromList(Entry(), events_); }
 
 bool frmSelectTask::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {
@@ -171,12 +175,15 @@ bool frmSelectTask::eventFilter(QObject* watched, QEvent* event) {
 
 void OpenTaskLibrary(bool events) {
   auto& form = SharedForm<frmSelectTask>();
-  form.Browse(events);
+  if (!form.IsPicking()) form.Browse(events);
   form.Show();
 }
 
 LibraryChoice SelectTask(const LibraryQuestion& question) {
-  if (auto* browsing = FormIfLoaded<frmSelectTask>()) browsing->UnloadForm();
+  if (auto* shown = FormIfLoaded<frmSelectTask>()) {
+    if (shown->IsPicking() && ComesForward<frmSelectTask>()) return {};
+    shown->UnloadForm();
+  }
   auto& form = SharedForm<frmSelectTask>();
   form.Pick(question);
   form.ShowModal();

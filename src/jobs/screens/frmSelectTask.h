@@ -19,6 +19,8 @@ class frmSelectTask : public Form {
   void Browse(bool events);
   void Pick(const LibraryQuestion& question);
   LibraryChoice Choice() const;
+  /// True while a routine waits for the choice.
+  bool IsPicking() const { return picking_; }
   void ReloadForm() override;
   QStringList ShowsTables() const override;
 
@@ -30,6 +32,8 @@ class frmSelectTask : public Form {
   QString Noun() const;  ///< "a task" or "an event"
   int Entry() const;
   void ShowList();
+  void LoadEntries();
+  IdList EntriesOfText() const;
   void LoadArrayAll();
   void ListTasksByComponent();
   void LoadListBoxFromArray();

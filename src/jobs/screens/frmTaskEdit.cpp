@@ -5,6 +5,7 @@
 #include "core/widgets/screen_routines.h"
 #include "jobs/lines.h"
 #include "jobs/screens.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmTaskEdit.h"
 
 using namespace Qt::StringLiterals;
@@ -18,8 +19,7 @@ frmTaskEdit::frmTaskEdit() : ui_(std::make_unique<Ui::frmTaskEdit>()) {
   connect(ui_->cmdTodayComplete, &QPushButton::clicked, this, [this, today] { ui_->txtDateCompleted->setText(today); });
   for (QRadioButton* option : {ui_->optComplete, ui_->optIncomplete, ui_->optWaiting})
     connect(option, &QRadioButton::clicked, this, &frmTaskEdit::ChooseStatus);
-  connect(ui_->txtName, &QLineEdit::textChanged, this,
-          [this](const QString& name) { ui_->cmdRestoreName->setEnabled(!original_.isEmpty() && name != original_); });
+  connect(ui_->txtName, &QLineEdit::textChanged, this, &frmTaskEdit::OfferOriginalName);
   connect(ui_->cmdRestoreName, &QPushButton::clicked, this, [this] { ui_->txtName->setText(original_); });
   connect(ui_->cmdOK, &QPushButton::clicked, this, &frmTaskEdit::Save);
   connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmTaskEdit::Cancel);
@@ -27,15 +27,33 @@ frmTaskEdit::frmTaskEdit() : ui_(std::make_unique<Ui::frmTaskEdit>()) {
 
 frmTaskEdit::~frmTaskEdit() = default;
 
+QStringList frmTaskEdit::ShowsTables() const { return {u"tblTasks"_s, u"tblTaskLib"_s}; }
+
+void frmTaskEdit::ReloadForm() {
+  TaskEntry entry;
+  if (LoadTaskEntry(taskID_, entry))
+    ShowOriginal();
+  else
+    Cancel();
+}
+
+void frmTaskEdit::ShowOriginal() {
+  ui_->lblTaskName->setText(OriginalTaskName(taskID_));
+  original_ = TaskLibIDOf(taskID_) == 0 ? QString() : OriginalTaskName(taskID_);
+  OfferOriginalName();
+}
+
+void frmTaskEdit::OfferOriginalName() {
+  ui_->cmdRestoreName->setEnabled(!original_.isEmpty() && ui_->txtName->text() != original_);
+}
+
 bool frmTaskEdit::SetTask(int taskID) {
   taskID_ = taskID;
   TaskEntry entry;
   if (!LoadTaskEntry(taskID, entry)) return false;
-  ui_->lblTaskName->setText(OriginalTaskName(taskID));
-  original_ = TaskLibIDOf(taskID) == 0 ? QString() : OriginalTaskName(taskID);
   ui_->chkRiggerLog->setVisible(!LineIsPart(taskID));
   ShowEntry(entry);
-  ui_->cmdRestoreName->setEnabled(!original_.isEmpty() && entry.name != original_);
+  ShowOriginal();
   SelectAllInBox(ui_->txtName);
   return true;
 }
@@ -75,6 +93,7 @@ void frmTaskEdit::Save() {
 }
 
 bool EditTask(int taskID) {
+  if (ComesForward<frmTaskEdit>()) return false;
   auto& form = SharedForm<frmTaskEdit>();
   if (form.SetTask(taskID)) form.ShowModal();
   const bool saved = form.Tag() == "ok"_L1;

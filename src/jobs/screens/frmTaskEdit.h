@@ -17,10 +17,15 @@ class frmTaskEdit : public Form {
 
   /// False when the line has gone.
   bool SetTask(int taskID);
+  /// Leaves what is being entered; a line that has gone can't be edited any more.
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
   TaskEntry Entry() const;
   void ShowEntry(const TaskEntry& entry);
+  void ShowOriginal();
+  void OfferOriginalName();
   void ChooseStatus();
   void Save();
 

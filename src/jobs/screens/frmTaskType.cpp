@@ -5,6 +5,7 @@
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/operation.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/catalogue.h"
 #include "gear/models.h"
@@ -12,6 +13,7 @@
 #include "jobs/library_delete.h"
 #include "jobs/library_parts.h"
 #include "jobs/screens/frmMiscTask.h"
+#include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmTaskType.h"
 
 using namespace Qt::StringLiterals;
@@ -68,6 +70,32 @@ frmTaskType::frmTaskType() : ui_(std::make_unique<Ui::frmTaskType>()) {
 
 frmTaskType::~frmTaskType() = default;
 
+QStringList frmTaskType::ShowsTables() const {
+  return {u"tblTaskLib"_s, u"tblComponentTypes"_s, u"tblRigTypes"_s, u"tblModels"_s};
+}
+
+void frmTaskType::ReloadForm() {
+  if (taskLibID_ != 0 && !TaskLibExists(taskLibID_)) {
+    Cancel();
+    return;
+  }
+  RefillList(*ui_->lstRigTypes, LoadRigTypes());
+  LetGoOfLostModel();
+  if (modelID_ != 0)
+    FillComponents({});
+  else
+    RefillList(*ui_->lstComps, LoadComponentTypes());
+  CreateTheArray();
+}
+
+/// A task whose model has gone is tied to component types again.
+void frmTaskType::LetGoOfLostModel() {
+  if (modelID_ == 0 || ModelExists(modelID_)) return;
+  modelID_ = 0;
+  ui_->chkModelSpecific->setChecked(false);
+  FillComponents(componentsBefore_);
+}
+
 void frmTaskType::SetStart(const TaskTypeStart& start) {
   openedForModel_ = start.modelID != 0;
   modelID_ = start.modelID;
@@ -120,6 +148,7 @@ void frmTaskType::ShowEntry(const TaskTypeEntry& entry) {
   componentsBefore_ = entry.componentTypes;
   ui_->chkModelSpecific->setChecked(modelID_ != 0);
   FillComponents(entry.componentTypes);
+  LetGoOfLostModel();
   ui_->lstRigTypes->TickData(entry.rigTypes);
   ui_->chkRigSpecific->setChecked(entry.rigTypeSpecific);
   ShowRigSpecific(entry.rigTypeSpecific);
@@ -209,7 +238,7 @@ void frmTaskType::LoadParts() {
   IdList shown;
   for (qsizetype i = 0; i < parts_.Size(); ++i)
     if (parts_.texts[i].contains(wanted, Qt::CaseInsensitive)) shown.Add(parts_.texts[i], parts_.ids[i]);
-  ui_->lstParts->Fill(shown);
+  RefillList(*ui_->lstParts, shown);
   ui_->lstParts->TickData({checkedParts_.cbegin(), checkedParts_.cend()});
 }
 
@@ -227,9 +256,7 @@ void frmTaskType::NewPart() {
   MiscItem part;
   if (!EnterMiscItem(part)) return;
   const int added = AddLibraryPart(part.name, part.price);
-  if (added == 0) return;
-  CreateTheArray();
-  ui_->lstParts->SelectData(added);
+  if (added != 0) ui_->lstParts->SelectData(added);
 }
 
 void frmTaskType::EditPart() {
@@ -240,14 +267,10 @@ void frmTaskType::EditPart() {
   }
   MiscItem part{ModelName(id), ModelPrice(id)};
   if (!EnterMiscItem(part, {.caption = u"Edit Part"_s})) return;
-  SavePart(id, part.name, part.price);
-  CreateTheArray();
-  ui_->lstParts->SelectData(id);
+  Operation(u"Sub EditPart"_s, [&] { SavePart(id, part.name, part.price); });
 }
 
-void frmTaskType::DeletePart() {
-  if (DeleteLibraryPart(Part())) CreateTheArray();
-}
+void frmTaskType::DeletePart() { DeleteLibraryPart(Part()); }
 
 void frmTaskType::Save() {
   int id = taskLibID_;
@@ -274,6 +297,7 @@ void frmTaskType::DeleteThis() {
 }
 
 int EditTaskType(const TaskTypeStart& start) {
+  if (ComesForward<frmTaskType>()) return 0;
   auto& form = SharedForm<frmTaskType>();
   form.SetStart(start);
   form.ShowModal();

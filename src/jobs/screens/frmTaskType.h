@@ -23,6 +23,9 @@ class frmTaskType : public Form {
   /// Takes over what was entered as a custom task; its form is still loaded.
   void GetDataFromFormMiscTask();
   int TaskLibID() const { return taskLibID_; }
+  /// Reads what is offered anew; what is entered and ticked stays. An entry that has gone can't be edited any more.
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
   void Load(int taskLibID);
@@ -34,6 +37,7 @@ class frmTaskType : public Form {
   void ShowUnit();
   void ChooseModel(bool specific);
   void FillComponents(const QList<int>& ticked);
+  void LetGoOfLostModel();
   void ShowRigSpecific(bool specific);
   void TickAllOrNone();
 

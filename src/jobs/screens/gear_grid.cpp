@@ -32,5 +32,5 @@ void FillGearGrid(Grid& grid, int jobID, int rigID) {
                      dom.IsNone() ? QString() : Format(dom, u"mm/dd/yyyy"_s), QString::number(id)},
                     id});
   }
-  grid.Fill(std::move(rows));
+  grid.Refill(std::move(rows));
 }

@@ -37,14 +37,16 @@ void JobGearCommands::InstallComponent() {
 }
 
 void JobGearCommands::InstallComponentGuts(int type) {
-  const ChosenComponent chosen = ChooseComponentForJob(screen_.job->jobID, type);
-  if (chosen.id != 0 && InstallOnJob(*screen_.job, chosen, screen_.date())) screen_.reloadGear();
+  const int job = screen_.job->jobID;
+  const ChosenComponent chosen = ChooseComponentForJob(job, type);
+  if (chosen.id != 0 && StillShows(job)) InstallOnJob(*screen_.job, chosen, screen_.date());
 }
 
 void JobGearCommands::InstallComponentNoRig() {
   TellNoInstallation();
-  const ChosenComponent chosen = ChooseComponentForJob(screen_.job->jobID, 0);
-  if (chosen.id != 0 && AddToJobWithoutRig(screen_.job->jobID, chosen)) screen_.reloadGear();
+  const int job = screen_.job->jobID;
+  const ChosenComponent chosen = ChooseComponentForJob(job, 0);
+  if (chosen.id != 0 && StillShows(job)) AddToJobWithoutRig(job, chosen);
 }
 
 void JobGearCommands::RemoveComponent() {
@@ -52,7 +54,7 @@ void JobGearCommands::RemoveComponent() {
   if (grid.RowCount() == 1) grid.SelectRow(0);
   const int row = grid.CurrentRow();
   if (!PlaceIsFilled(grid.RowCount(), ComponentType(row), Component(row))) return;
-  if (RemoveFromJob(*screen_.job, Component(row), screen_.date())) screen_.reloadGear();
+  RemoveFromJob(*screen_.job, Component(row), screen_.date());
 }
 
 void JobGearCommands::EditSelectedComponent() {
@@ -61,25 +63,19 @@ void JobGearCommands::EditSelectedComponent() {
     MsgBox(u"You must select a component from the above grid"_s, u"Edit selected component"_s);
     return;
   }
-  if (EditComponent(component) != 0) screen_.reloadGear();
+  EditComponent(component);
 }
 
 void JobGearCommands::UpdateRig() {
-  if (!UpdateRigFromJob(screen_.job->jobID, screen_.job->rigID)) return;
-  screen_.reloadGear();
-  MsgBox(u"Rig updated"_s);
+  if (UpdateRigFromJob(screen_.job->jobID, screen_.job->rigID)) MsgBox(u"Rig updated"_s);
 }
 
 void JobGearCommands::ClickCell(int row, int column) {
   const int component = Component(row);
-  bool changed = false;
   if (!ComponentExists(component))
     TellEmptyPlace(ComponentType(row), screen_.job->rigID);
   else if (column == kGearSerial)
-    changed = EditGearSerial(component);
+    EditGearSerial(component);
   else if (column == kGearDom)
-    changed = EditGearDom(component);
-  if (!changed) return;
-  screen_.reloadGear();
-  screen_.grid->SelectCell(row, column);
+    EditGearDom(component);
 }

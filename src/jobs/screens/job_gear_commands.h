@@ -12,11 +12,9 @@ class JobGearCommands {
  public:
   /// What the commands need of the screen.
   struct Screen {
-    Grid* grid = nullptr;              ///< the job's gear
-    const JobContext* job = nullptr;   ///< the job that is shown
-    std::function<Date()> date;        ///< the working date
-    std::function<void()> reloadGear;  ///< shows the gear and the lines anew
-    std::function<void()> reloadJob;   ///< shows the whole job anew, its rig being another
+    Grid* grid = nullptr;             ///< the job's gear
+    const JobContext* job = nullptr;  ///< the job that is shown; read it again after the person was asked
+    std::function<Date()> date;       ///< the working date
   };
   explicit JobGearCommands(Screen screen) : screen_(std::move(screen)) {}
 
@@ -32,6 +30,7 @@ class JobGearCommands {
   void ImportRig();
 
  private:
+  bool StillShows(int jobID) const { return jobID != 0 && jobID == screen_.job->jobID; }
   int Component(int row) const;
   int ComponentType(int row) const;
   void InstallComponentGuts(int type);

@@ -4,6 +4,7 @@
 #include "core/screens.h"
 #include "core/store/operation.h"
 #include "gear/components.h"
+#include "gear/people.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "jobs/job_components.h"
@@ -36,7 +37,7 @@ void JobGearCommands::MakeArig() {
     return;
   }
   MsgBox(u"no components, continue"_s);
-  if (AddNewRig(job) != 0) screen_.reloadJob();
+  AddNewRig(job);
 }
 
 void JobGearCommands::CheckComponentsForNewRig() {
@@ -46,22 +47,18 @@ void JobGearCommands::CheckComponentsForNewRig() {
   if (choice == RigOfOnlyComponent::Cancel) return;
   if (choice == RigOfOnlyComponent::TakeRig) {
     TakeRig(job.jobID, ComponentRig(ComponentsOfJob(job.jobID).value(0)));
-    screen_.reloadJob();
     return;
   }
   if (RefuseDoubledTypes(job.jobID)) return;
   const int type = ChooseTypeOfNewRig();
   if (type == 0 || !GearFitsRigType(job.jobID, type)) return;
-  const int rig = BuildRigFromJob(job, type, screen_.date());
-  if (rig == 0) return;
-  screen_.reloadJob();
-  TellRigCreated(rig);
+  if (const int rig = BuildRigFromJob(job, type, screen_.date()); rig != 0) TellRigCreated(rig);
 }
 
 int JobGearCommands::AddNewRig(const JobContext& job) {
   const QString name = AskNameOfNewRig(job.customerID);
   const int type = name.isEmpty() ? 0 : ChooseTypeOfNewRig();
-  if (type == 0) return 0;
+  if (type == 0 || !JobExists(job.jobID) || !PersonExists(job.customerID)) return 0;
   int rig = 0;
   const bool written = Operation(u"Sub AddNewRig"_s, [&] {
     rig = CreateRig(job.customerID, type, name);
@@ -78,7 +75,6 @@ void JobGearCommands::CreateNewJobNewRig() {
   if (jobID == 0 || !IsUntouched(jobID)) return;
   const int rig = AddNewRig(JobContextOf(jobID));
   if (rig == 0) return;
-  screen_.reloadJob();
   MsgBox(Lines({u"Rig called '%1' has been created."_s.arg(RigName(rig)),
                 u"To add components to this rig, select INSTALL COMPONENT"_s, u"from the task menu on the left."_s}),
          u"Ready to install components"_s);
@@ -89,7 +85,5 @@ void JobGearCommands::ImportRig() {
   if (!MayImportRig(job)) return;
   int rig = 0;
   int customer = job.customerID;
-  if (!PickRig(rig, customer) || rig == 0) return;
-  TakeRig(job.jobID, rig);
-  screen_.reloadJob();
+  if (PickRig(rig, customer) && rig != 0 && StillShows(job.jobID)) TakeRig(job.jobID, rig);
 }

@@ -315,6 +315,74 @@ class TestGrid : public QObject {
     QCOMPARE(saved.size(), 0);
   }
 
+  void RefillingKeepsTheCellAndTheOpenEditorByTheirIds() {
+    Grid grid;
+    grid.SetColumns({{.heading = u"Rig"_s}, {.heading = u"Price"_s}});
+    const auto row = [](const QString& name, int id) { return GridRow{{name, u"1"_s}, id}; };
+    const auto refill = [&grid](auto... rows) {
+      std::vector<GridRow> content;
+      (content.push_back(std::move(rows)), ...);
+      grid.Refill(std::move(content));
+    };
+    refill(row(u"Blue"_s, 5), row(u"Red"_s, 7), row(u"White"_s, 9));
+    grid.show();
+    QCOMPARE(grid.CurrentRow(), -1);
+    QSignalSpy saved(&grid, &Grid::CellSaved);
+    QSignalSpy changed(&grid, &Grid::CellChange);
+    QVERIFY(grid.EditInCell(1, 0));
+    QVERIFY(!grid.EditorIsChanged());
+    QTest::keyClicks(grid.Editor(), u"Half"_s);
+    QVERIFY(grid.EditorIsChanged());
+    changed.clear();
+    refill(row(u"New"_s, 3), row(u"Blue"_s, 5), row(u"Green"_s, 7));
+    QVERIFY(grid.IsEditing() && grid.Editor()->isVisible() && grid.Editor()->hasFocus());
+    QCOMPARE(grid.Editor()->text(), u"Half"_s);
+    QCOMPARE(grid.CurrentRow(), 2);
+    QCOMPARE(grid.CurrentColumn(), 0);
+    QCOMPARE(grid.Editor()->geometry().topLeft(), grid.visualRect(grid.model()->index(2, 0)).topLeft());
+    QCOMPARE(saved.size() + changed.size(), 0);
+    PressKey(*grid.Editor(), Qt::Key_Return);
+    QCOMPARE(saved, (QList<QVariantList>{{2, 0, u"Half"_s, false}}));
+    QVERIFY(!grid.IsEditing());
+
+    grid.SelectCell(1, 1);
+    grid.EditInCell(1, 1);
+    refill(row(u"New"_s, 3), row(u"Green"_s, 7));
+    QVERIFY(!grid.IsEditing() && !grid.Editor()->isVisible());
+    QVERIFY(grid.hasFocus());
+    QCOMPARE(grid.CurrentRow(), 1);
+    QCOMPARE(grid.CurrentColumn(), 1);
+    refill(row(u"New"_s, 3));
+    QCOMPARE(grid.CurrentRow(), 0);
+    refill();
+    QCOMPARE(grid.CurrentRow(), -1);
+  }
+
+  void ARefillBySavingLeavesNoEditorBehind() {
+    Grid grid;
+    grid.SetColumns({{.heading = u"Rig"_s}});
+    const auto refill = [&grid](const QString& name) {
+      std::vector<GridRow> rows;
+      rows.push_back({{name}, 5});
+      grid.Refill(std::move(rows));
+    };
+    refill(u"Blue"_s);
+    grid.show();
+    bool refuses = true;
+    connect(&grid, &Grid::CellSaved, this, [&](int, int, const QString& text, bool& keepOpen) {
+      refill(text);
+      keepOpen = refuses;
+    });
+    grid.EditInCell(0, 0);
+    QTest::keyClicks(grid.Editor(), u"Red"_s);
+    QVERIFY(!grid.SaveEditor());
+    QVERIFY(grid.IsEditing());
+    refuses = false;
+    QVERIFY(grid.SaveEditor());
+    QVERIFY(!grid.IsEditing());
+    QCOMPARE(grid.Text(0, 0), u"Red"_s);
+  }
+
   void TheSelectedCellIsYellowAndDueCellsKeepTheirColour_data() {
     QTest::addColumn<bool>("dark");
     QTest::newRow("light") << false;
