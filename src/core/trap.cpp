@@ -10,3 +10,8 @@ QString FailureText(const std::exception& error) {
 bool EndsTheOperation(const std::exception& error) {
   return dynamic_cast<const StorageFailure*>(&error) != nullptr && OperationScope::Stands();
 }
+
+void TellFailure(const QString& text, const QString& routine, Icon icon) {
+  if (AllOrNothing::Stands()) throw Failure(text);
+  MsgBox(text, routine, icon);
+}

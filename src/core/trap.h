@@ -7,11 +7,28 @@
 #include "core/failure.h"
 #include "core/prompts.h"
 
+/// For a reading that is worth nothing in part: while one stands, the routines within show no box of their own, and
+/// their failure goes on to whoever holds it. Nothing may be shown meanwhile.
+class AllOrNothing {
+ public:
+  AllOrNothing() { ++standing_; }
+  ~AllOrNothing() { --standing_; }
+  AllOrNothing(const AllOrNothing&) = delete;
+  AllOrNothing& operator=(const AllOrNothing&) = delete;
+  static bool Stands() { return standing_ > 0; }
+
+ private:
+  static inline int standing_ = 0;
+};
+
 /// The text of an error as its box shows it.
 QString FailureText(const std::exception& error);
 
 /// True for a failure of the file itself while an operation stands: it ends the outermost one, so no trap keeps it.
 bool EndsTheOperation(const std::exception& error);
+
+/// Shows the box of a routine that failed, or throws Failure with its text while an AllOrNothing stands.
+void TellFailure(const QString& text, const QString& routine, Icon icon = Icon::Exclamation);
 
 /// Runs a routine's body. An error ends the body, shows a box with the error's text, titled with the routine's own
 /// name, and lets the caller go on. True when the body ran to its end.
@@ -22,7 +39,7 @@ bool Trap(const QString& routine, Body&& body, Icon icon = Icon::Exclamation) {
     return true;
   } catch (const std::exception& error) {
     if (EndsTheOperation(error)) throw;
-    MsgBox(FailureText(error), routine, icon);
+    TellFailure(FailureText(error), routine, icon);
     return false;
   }
 }
@@ -35,7 +52,7 @@ bool TrapWith(const QString& routine, Body&& body, More&& more, Icon icon = Icon
     return true;
   } catch (const std::exception& error) {
     if (EndsTheOperation(error)) throw;
-    MsgBox(FailureText(error) + u'\n' + more(), routine, icon);
+    TellFailure(FailureText(error) + u'\n' + more(), routine, icon);
     return false;
   }
 }

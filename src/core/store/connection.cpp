@@ -103,10 +103,11 @@ void HoldConnection(bool holds) {
 Changes TakeCommittedChanges() { return std::exchange(committed, Changes()); }
 
 Bracket::Bracket() {
+  if (!ConnectionIsOpen) {
+    ConnectionStart();
+    opened_ = true;
+  }
   ++standing_;
-  if (ConnectionIsOpen) return;
-  ConnectionStart();
-  opened_ = true;
 }
 
 void Bracket::Close() {

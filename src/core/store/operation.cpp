@@ -102,7 +102,7 @@ void OperationScope::TakeBack(const QString& error) {
   if (IsOutermost()) RollBackConnection();
   Leave();
   bracket_.Close();
-  MsgBox(wrote ? Lines({error, u"Nothing was changed."_s}) : error, name_.routine, Icon::Exclamation);
+  TellFailure(wrote ? Lines({error, u"Nothing was changed."_s}) : error, name_.routine);
 }
 
 void OperationScope::EndFailed(const QString& more, OnFailure onFailure) {
@@ -123,6 +123,6 @@ void OperationScope::EndFailed(const QString& more, OnFailure onFailure) {
     else
       bracket_.Close();
     TellChanges();
-    MsgBox(more.isEmpty() ? text : text + u'\n' + more, name_.routine, Icon::Exclamation);
+    TellFailure(more.isEmpty() ? text : text + u'\n' + more, name_.routine);
   }
 }
