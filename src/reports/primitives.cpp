@@ -1,5 +1,7 @@
 #include "reports/primitives.h"
 
+#include <numeric>
+
 #include "core/format.h"
 #include "core/prompts.h"
 
@@ -45,12 +47,18 @@ QString FitToWidth(const Canvas& canvas, const QString& text, double fraction) {
   return FitToUnits(canvas, text, fraction * canvas.Width());
 }
 
-QString FitToUnits(const Canvas& canvas, QString text, double units) {
-  while (!text.isEmpty() && canvas.TextWidth(text) > units) {
-    text.chop(1);
-    if (!text.isEmpty() && text.back().isHighSurrogate()) text.chop(1);  // never half a character
+QString FitToUnits(const Canvas& canvas, const QString& text, double units) {
+  const auto fits = [&](qsizetype length) { return canvas.TextWidth(text.left(length)) <= units; };
+  if (fits(text.size())) return text;
+  qsizetype fitting = 0;
+  qsizetype tooLong = text.size();
+  while (tooLong - fitting > 1) {
+    const qsizetype middle = std::midpoint(fitting, tooLong);
+    (fits(middle) ? fitting : tooLong) = middle;
   }
-  return text;
+  QString cut = text.left(fitting);
+  if (!cut.isEmpty() && cut.back().isHighSurrogate()) cut.chop(1);  // never half a character
+  return cut;
 }
 
 void PrintRule(Canvas& canvas, double from, double to) {

@@ -32,9 +32,10 @@ void PrintJustified(Canvas& canvas, double fraction, const QString& text, bool s
 void PrintMoney(Canvas& canvas, double fraction, Money amount);
 /// The part of an amount that stands left of its decimal point.
 QString MoneyBeforePoint(Money amount);
-/// The text cut, character by character, to a fraction of the width or to a width in twips. Cells are never wrapped.
+/// The text cut behind the last character that fits into a fraction of the width, or into a width in twips. Cells are
+/// never wrapped.
 QString FitToWidth(const Canvas& canvas, const QString& text, double fraction);
-QString FitToUnits(const Canvas& canvas, QString text, double units);
+QString FitToUnits(const Canvas& canvas, const QString& text, double units);
 
 /// A line across the page, from one fraction to another.
 void PrintRule(Canvas& canvas, double from, double to);

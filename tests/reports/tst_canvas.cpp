@@ -181,6 +181,16 @@ class TestCanvas : public QObject {
     QCOMPARE(FitToWidth(canvas, {}, 0), QString());
   }
 
+  void ALongTextIsCutAsQuicklyAsAShortOne() {
+    const Canvas canvas = Portrait();
+    const QString text = QString(10000, u'x');
+    QElapsedTimer timer;
+    timer.start();
+    const QString cut = FitToUnits(canvas, text, 10.5 * canvas.TextWidth(u"x"_s));
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(cut.size(), 10);
+  }
+
   void NoCharacterIsCutInHalf() {
     const Canvas canvas = Portrait();
     const QString text = u"a\U0001F600\U0001F600"_s;
