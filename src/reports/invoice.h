@@ -1,9 +1,9 @@
 #pragma once
-#include "reports/canvas.h"
+#include "reports/report.h"
 
-/// The HTML form of the invoice drawn last, in the support folder.
+/// The HTML form of the invoice shown last, in the support folder.
 inline const QString kInvoiceHtmlFile = QStringLiteral("HTMLinvoice.txt");
 
-/// Draws the invoice of a job and writes the same lines as HTML, the body of an e-mailed invoice. A missing customer or
-/// rig leaves its texts empty. Without a business address a box says so, and the invoice goes without.
-void Invoice(int jobID, Canvas& canvas);
+/// The invoice of a job, on paper and as the body of a mail. Without a business address a box says so, and the invoice
+/// goes without. Nothing, after a box, when it can't be read.
+std::optional<Report> InvoiceReport(int jobID);

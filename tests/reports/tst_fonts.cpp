@@ -2,7 +2,6 @@
 
 #include "reports/business_address.h"
 #include "reports/fonts.h"
-#include "reports/reports.h"
 #include "support/data_folder_here.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
@@ -105,33 +104,6 @@ class TestFonts : public QObject {
     font.size = 8;
     LimitLogbookFont(font);
     QCOMPARE(font.size, 8.0);
-  }
-
-  void ABigFontIsToldBeforeTheNarrowLogbookIsBuilt() {
-    FontChoice font = {u"Georgia"_s, 12, false, false};
-    prompts_->ExpectBox(u"Font size = 12"_s, u"Logbook cannot have font size > 10\n\nFont size changed to 10"_s);
-    prompts_->ExpectBox(kProgramTitle, u"don't know LogBook2"_s);
-    QVERIFY(!BuildReport(u"LogBook2"_s, 1, font));
-    QCOMPARE(font.size, 10.0);
-    font.size = 12;
-    prompts_->ExpectBox(kProgramTitle, u"don't know LogBook"_s);
-    QVERIFY(!BuildReport(u"LogBook"_s, 1, font));
-    QCOMPARE(font.size, 12.0);
-  }
-
-  void TheLogbookLiesAcrossThePage() {
-    QCOMPARE(OrientationOf(u"LogBook"_s), PageOrientation::Landscape);
-    QCOMPARE(OrientationOf(u"logbook2"_s), PageOrientation::Landscape);
-    QCOMPARE(OrientationOf(u"Invoice"_s), PageOrientation::Portrait);
-    QCOMPARE(OrientationOf(u"anything"_s), PageOrientation::Portrait);
-  }
-
-  void UnknownKeysAreTold() {
-    FontChoice font = newFont_;
-    prompts_->ExpectBox(kProgramTitle, u"don't know LogBook"_s);
-    QVERIFY(!BuildReport(u"LogBook"_s, 1, font));
-    prompts_->ExpectBox(kProgramTitle, u"don't know "_s);
-    QVERIFY(!BuildReport(QString(), 1, font));
   }
 
   void NoAddressFileGivesAnEmptyHeader() { QCOMPARE(GetBusinessAddress(), QString()); }

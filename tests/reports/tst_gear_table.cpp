@@ -1,6 +1,8 @@
 #include <QtTest>
 
 #include "reports/gear_table.h"
+#include "reports/gear_table_html.h"
+#include "reports/gear_table_page.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"
@@ -52,27 +54,40 @@ class TestGearTable : public QObject {
   }
 
   void TheTableGoesToTheNextPageRowByRow() {
-    QStringList html;
     const QList<GearRow> rows = {{u"AAD"_s, u"Cypres 2"_s, u"7"_s, {}}};
     Canvas full = PageAt(kLowest + 1);
-    DoGearTable(full, html, rows);
+    PaintGearTable(rows, full);
     QCOMPARE(TextsOf(full, 0), QStringList());
     QCOMPARE(TextsOf(full, 1).first(), u" Component"_s);
     Canvas last = PageAt(kLowest);
-    DoGearTable(last, html, rows);
+    PaintGearTable(rows, last);
     QCOMPARE(TextsOf(last, 0), QStringList({u" Component"_s, u" Model"_s, u" S/N"_s, u" DOM"_s}));
     QCOMPARE(TextsOf(last, 1).first(), u" AAD"_s);
   }
 
   void TheCaptionOfARigGoesToTheNextPage() {
+    Canvas full = PageAt(kLowest + 1);
+    PaintRigTable({u"Sport Rig  (Rig name: Blue)"_s, {}}, full);
+    QCOMPARE(TextsOf(full, 0), QStringList());
+    QCOMPARE(TextsOf(full, 1).first(), u"Sport Rig  (Rig name: Blue)"_s);
+  }
+
+  void ARigIsReadUnderItsCaption() {
     ScriptedPrompts prompts;
     const ThrowAwayLoft loft;
     const int rig = loft.Add(u"tblRig"_s, {{u"rigAlias"_s, "Blue"}, {u"TypeID"_s, 1}});
-    QStringList html;
-    Canvas full = PageAt(kLowest + 1);
-    DoHTMLRigTable(full, html, rig);
-    QCOMPARE(TextsOf(full, 0), QStringList());
-    QCOMPARE(TextsOf(full, 1).first(), u"Sport Rig  (Rig name: Blue)"_s);
+    QCOMPARE(LoadRigTable(rig).caption, u"Sport Rig  (Rig name: Blue)"_s);
+  }
+
+  void TheMailHasARowToEachPiece() {
+    QCOMPARE(
+        RigTableHtml({u"<Blue>"_s, {{u"AAD"_s, u"Cypres & Co"_s, u"7"_s, {}}}}),
+        QStringList(
+            {u"&lt;Blue&gt;<br>"_s,
+             u"<table style=\"text-align: left; width: 500px;\" border=\"1\" cellpadding=\"2\" "
+             u"cellspacing=\"0\">"_s,
+             u"<tr><td><b> Component</b></td><td><b> Model</b></td><td><b> S/N</b></td><td><b> DOM</b></td></tr>"_s,
+             u"<tr><td>AAD</td><td>Cypres &amp; Co</td><td>7</td><td></td></tr>"_s, u"</table>"_s}));
   }
 };
 

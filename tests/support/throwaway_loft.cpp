@@ -109,6 +109,12 @@ void ThrowAwayLoft::Run(const QString& statement) const {
   bracket.Close();
 }
 
+void ThrowAwayLoft::ChangeSchema(const QByteArray& sql) const {
+  Bracket bracket;
+  OpenDatabase().ChangeSchema(sql);
+  bracket.Close();
+}
+
 QStringList ThrowAwayLoft::Rows(const QString& sql) const { return PlainConnection(DatabaseFile()).Rows(sql); }
 
 QStringList ThrowAwayLoft::Snapshot() const {

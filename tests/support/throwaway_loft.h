@@ -35,6 +35,8 @@ class ThrowAwayLoft {
   int Add(const QString& table, const std::vector<std::pair<QString, Value>>& fields) const;
   /// Runs an action statement in the program's own dialect.
   void Run(const QString& statement) const;
+  /// Damages the file on purpose, in SQLite's own dialect: "drop table tblRig".
+  void ChangeSchema(const QByteArray& sql) const;
 
   /// What a second connection reads from the file, one text to a row, its fields between bars: dates as their days,
   /// money as ten-thousandths, true as -1, null as "null". The statement is in SQLite's own dialect.

@@ -52,16 +52,15 @@ void frmPrintPreview::MakeMenus() {
   bar.addAction(u"E&xit"_s, this, &frmPrintPreview::Cancel);
 }
 
-void frmPrintPreview::SetReport(const Pages& pages, const FontChoice& font, Rebuild rebuild) {
-  pages_ = pages;
-  font_ = font;
-  rebuild_ = std::move(rebuild);
-  ShowPage(1);
+void frmPrintPreview::SetReport(const Report& report, const FontChoice& font) {
+  report_ = report;
+  Draw(font);
   FitWindow();
 }
 
-void frmPrintPreview::ReloadForm() {
-  if (const std::optional<Pages> pages = rebuild_(font_)) pages_ = *pages;
+void frmPrintPreview::Draw(const FontChoice& font) {
+  font_ = font;
+  pages_ = DrawReport(report_, font_);
   ShowPage(1);
 }
 
@@ -85,9 +84,8 @@ void frmPrintPreview::ShowPage(int number) {
 void frmPrintPreview::ChooseFont() {
   const std::optional<FontChoice> chosen = FontDialog(font_);
   if (!chosen) return;
-  font_ = *chosen;
-  WriteFonts(font_);
-  ReloadForm();
+  WriteFonts(*chosen);
+  Draw(*chosen);
 }
 
 void frmPrintPreview::ShrinkWindow() {

@@ -1,10 +1,8 @@
 #pragma once
-#include <functional>
 #include <memory>
-#include <optional>
 
 #include "core/widgets/form.h"
-#include "reports/canvas.h"
+#include "reports/report.h"
 
 class PagePicture;
 class QAction;
@@ -17,21 +15,18 @@ class frmPrintPreview;
 class frmPrintPreview : public Form {
   Q_OBJECT
  public:
-  /// Draws the report in another font; nothing when it can't.
-  using Rebuild = std::function<std::optional<Pages>(FontChoice& font)>;
-
   frmPrintPreview();
   ~frmPrintPreview() override;
 
-  /// The report as it was drawn in a font, and how to draw it again.
-  void SetReport(const Pages& pages, const FontChoice& font, Rebuild rebuild);
-  void ReloadForm() override;
+  /// Shows the first page of a report in a font. Another font draws it anew, from the data that it was made of.
+  void SetReport(const Report& report, const FontChoice& font);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void MakeMenus();
+  void Draw(const FontChoice& font);
   void FitWindow();
   void ShowPage(int number);
   void ChooseFont();
@@ -42,8 +37,8 @@ class frmPrintPreview : public Form {
   PagePicture* pic_;
   QAction* mnuPrev_ = nullptr;
   QAction* mnuNext_ = nullptr;
-  Pages pages_;
+  Report report_;
   FontChoice font_;
-  Rebuild rebuild_;
+  Pages pages_;
   int page_ = 1;
 };

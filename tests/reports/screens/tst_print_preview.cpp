@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include "reports/fonts.h"
+#include "reports/report.h"
 #include "reports/screens.h"
 #include "reports/screens/frmPrintPreview.h"
 #include "reports/screens/print_pages.h"
@@ -275,22 +276,74 @@ class TestPrintPreview : public QObject {
     DoReport(u"invoice"_s, Job(80));
   }
 
-  void AnotherFontRebuildsTheReportAndIsKept() {
+  void AnotherFontDrawsTheSameReportAndIsKept() {
     const FontChoice courier = {u"Courier New"_s, 16, false, true};
     prompts_->ExpectFont(courier);
     prompts_->ExpectFont(std::nullopt);
     screens_->WhenShown(u"frmPrintPreview"_s, [this, courier](Form& form) {
       QCOMPARE(TextOf(form, u"lblPage"_s), u"Page 1 of 1"_s);
       loft_->Run(u"update tblJobs set JobTitle = 'Changed'"_s);
+      loft_->ChangeSchema("drop table tblTasks");
+      loft_->Folder().Write(u"support/HTMLinvoice.txt"_s, "left alone");
       ChooseMenu(form, {u"Font"_s});
       QCOMPARE(TextOf(form, u"lblPage"_s), u"Page 1 of 2"_s);
-      QVERIFY(ShownText(form).contains(u"Job Title: Changed"_s));
+      QVERIFY(ShownText(form).contains(u"Job Title: Spring service"_s));
+      QVERIFY(ShownText(form).contains(u"Service no. 1 "_s));
+      QCOMPARE(loft_->Folder().Read(u"support/HTMLinvoice.txt"_s), "left alone");
       QCOMPARE(ReadFonts(), courier);
       ChooseMenu(form, {u"Font"_s});
       QCOMPARE(ReadFonts(), courier);
       form.close();
     });
     DoReport(u"invoice"_s, Job(40));
+  }
+
+  void WhatAReportTellsIsToldOnce() {
+    QVERIFY(QFile::remove(loft_->Folder() / u"support/address.txt"_s));
+    prompts_->ExpectBox(u"No business address"_s,
+                        u"You haven't entered a business address yet.\nYou can do this from the main screen.\n"
+                        u"(See the SETUP menu)"_s);
+    prompts_->ExpectFont(FontChoice{u"Courier New"_s, 16, false, true});
+    screens_->WhenShown(u"frmPrintPreview"_s, [](Form& form) {
+      ChooseMenu(form, {u"Font"_s});
+      ChooseMenu(form, {u"Print"_s});
+      form.close();
+    });
+    DoReport(u"invoice"_s, Job(1));
+    QCOMPARE(asked_, 1);
+  }
+
+  void AReportThatCannotBeReadShowsItsBoxAndNoPreview() {
+    const int job = Job(1);
+    loft_->ChangeSchema("drop table tblTasks");
+    prompts_->AnswerRestWith([](const ShownPrompt&) { return Answer::Ok; });
+    DoReport(u"invoice"_s, job);
+    QCOMPARE(prompts_->Transcript().size(), 1);
+    QCOMPARE(prompts_->Transcript().first().title, u"Sub Invoice"_s);
+  }
+
+  void AReportOfAnyMakingIsShown() {
+    screens_->WhenShown(u"frmPrintPreview"_s, [](Form& form) {
+      QCOMPARE(ShownText(form), u"Jumps of Ann"_s);
+      QVERIFY(Control<QWidget>(form, u"pic"_s).width() > Control<QWidget>(form, u"pic"_s).height());
+      form.close();
+    });
+    ShowReport(Report{.orientation = PageOrientation::Landscape,
+                      .paint = [](Canvas& page) { page.Print(u"Jumps of Ann"_s); }});
+    ShowReport(std::nullopt);
+  }
+
+  void AFontTooGreatForAReportIsToldWheneverItIsChosen() {
+    WriteFonts({u"Arial"_s, 14, false, false});
+    prompts_->ExpectBox(u"Font size = 14"_s, u"Logbook cannot have font size > 10\n\nFont size changed to 10"_s);
+    prompts_->ExpectFont(FontChoice{u"Arial"_s, 12, true, false});
+    prompts_->ExpectBox(u"Font size = 12"_s, u"Logbook cannot have font size > 10\n\nFont size changed to 10"_s);
+    screens_->WhenShown(u"frmPrintPreview"_s, [](Form& form) {
+      ChooseMenu(form, {u"Font"_s});
+      form.close();
+    });
+    ShowReport(Report{.paint = [](Canvas& page) { page.Print(u"x"_s); }, .limitFont = LimitLogbookFont});
+    QCOMPARE(ReadFonts(), (FontChoice{u"Arial"_s, 10, true, false}));
   }
 
   void TheWindowShrinksByHalf() {
