@@ -1,6 +1,7 @@
 #include <QFile>
 #include <QtTest>
 
+#include "core/store/connection.h"
 #include "core/store/undo.h"
 #include "jobs/job_list.h"
 #include "jobs/sample_job.h"
