@@ -5,6 +5,7 @@
 #include "reports/invoice_data.h"
 #include "reports/invoice_loft.h"
 #include "support/refusing_disk.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -125,5 +126,4 @@ class TestInvoiceData : public QObject {
 };
 
 LOFT_TEST_MAIN(TestInvoiceData)
-#include "support/test_program.h"
 #include "tst_invoice_data.moc"

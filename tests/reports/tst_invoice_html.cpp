@@ -2,6 +2,7 @@
 
 #include "reports/invoice_html.h"
 #include "reports/invoice_sample.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -71,5 +72,4 @@ class TestInvoiceHtml : public QObject {
 };
 
 LOFT_TEST_MAIN(TestInvoiceHtml)
-#include "support/test_program.h"
 #include "tst_invoice_html.moc"

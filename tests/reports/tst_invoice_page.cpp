@@ -3,6 +3,7 @@
 #include "reports/invoice_page.h"
 #include "reports/invoice_sample.h"
 #include "reports/paint_page.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,5 +52,4 @@ class TestInvoicePage : public QObject {
 };
 
 LOFT_TEST_MAIN(TestInvoicePage)
-#include "support/test_program.h"
 #include "tst_invoice_page.moc"

@@ -8,6 +8,7 @@
 #include "support/data_folder_here.h"
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
+#include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -107,5 +108,4 @@ class TestReport : public QObject {
 };
 
 LOFT_TEST_MAIN(TestReport)
-#include "support/test_program.h"
 #include "tst_report.moc"
