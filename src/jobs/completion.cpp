@@ -22,13 +22,28 @@ struct LineState {
   bool IsDone() const { return isEvent || isComplete; }
 };
 
+LineState StateOf(const Recordset& line) {
+  return {line[u"IsEvent"].ToBool(), line[u"Status"].ToInt() == kComplete, line[u"DateTaskCompleted"].ToDate()};
+}
+
 /// False, after a box, when they could not be read.
 bool ReadLines(int jobID, QList<LineState>& lines) {
   return Operation(u"Sub LoadTasksGrid"_s, [&] {
     for (const Recordset& line : Rows(u"Select * from tblTasks where Jobid = %1"_s.arg(jobID)))
-      lines.append(
-          {line[u"IsEvent"].ToBool(), line[u"Status"].ToInt() == kComplete, line[u"DateTaskCompleted"].ToDate()});
+      lines.append(StateOf(line));
   });
+}
+
+QString LineByID(int taskID) { return u"Select * from tblTasks where ID = %1"_s.arg(taskID); }
+
+/// Writes the status of the line that a recordset stands on, and of its ties to components.
+void WriteStatus(Recordset& line, bool complete, Date date) {
+  line.Set(u"status", static_cast<int>(complete ? kComplete : kIncomplete));
+  line.Set(u"DateTaskCompleted", complete ? date : Date());
+  line.Update();
+  UpdateTableBySQL(
+      u"update tblTaskComponents set Complete = %1 where TaskID = %2"_s.arg(complete ? u"true"_s : u"false"_s)
+          .arg(line[u"ID"].ToInt()));
 }
 
 /// The completion date of a job whose lines are all complete. A line whose status and date disagree is told; what
@@ -47,12 +62,8 @@ Date CompletionOf(const QList<LineState>& lines, bool& complete) {
 
 void SetTaskStatus(int taskID, bool complete, Date date) {
   Operation(u"Sub SetTaskStatus"_s, [&] {
-    for (Recordset& task : Rows(u"Select * from tblTasks where ID = %1"_s.arg(taskID))) {
-      task.Set(u"status", static_cast<int>(complete ? kComplete : kIncomplete));
-      task.Set(u"DateTaskCompleted", complete ? date : Date());
-      task.Update();
-    }
-    UpdateTable(u"tblTaskComponents"_s, u"Complete"_s, complete, u"TaskID"_s, taskID);
+    Recordset line(LineByID(taskID));
+    if (RecordsetHasRows(line)) WriteStatus(line, complete, date);
   });
 }
 
@@ -75,11 +86,12 @@ bool AllChecked(int jobID) {
 bool ToggleComplete(int taskID, Date date, bool rigComponentsCurrent) {
   bool flipped = false;
   const bool written = Operation(u"Sub ToggleComplete"_s, [&] {
-    const int jobID = LineField(taskID, u"JobID"_s).ToInt();
-    if (jobID == 0 || TaskIsEvent(taskID)) return;
-    SetTaskStatus(taskID, !LineIsDone(taskID), date);
-    if (const ScheduleKey key = KeyOfLine(taskID); ShouldAdd2Schedule(key.rigID, rigComponentsCurrent))
-      UpdateSchedule(key);
+    Recordset line(LineByID(taskID));
+    if (!RecordsetHasRows(line) || StateOf(line).isEvent) return;
+    const int jobID = line[u"JobID"].ToInt();
+    const ScheduleKey key = KeyOfLine(taskID, jobID, line[u"TaskLibID"].ToInt());
+    WriteStatus(line, !StateOf(line).isComplete, date);
+    if (ShouldAdd2Schedule(key.rigID, rigComponentsCurrent)) UpdateSchedule(key);
     CheckJobStatus(jobID, date);
     flipped = true;
   });

@@ -109,12 +109,12 @@ void SetJobStatus(int jobID, bool complete, Date date) {
   Operation(u"Sub SetJobStatus"_s, [&] {
     const int status = complete ? -1 : 0;
     const Date completed = complete ? date : Date();
-    for (Recordset& job : Rows(JobByID(jobID))) {
-      if (job[u"JobStatus"].ToInt() == status && job[u"DateCompleted"].ToDate() == completed) continue;
-      job.Set(u"JobStatus", status);
-      job.Set(u"DateCompleted", completed);
-      job.Update();
-    }
+    Recordset job(JobByID(jobID));
+    if (!RecordsetHasRows(job)) return;
+    if (job[u"JobStatus"].ToInt() == status && job[u"DateCompleted"].ToDate() == completed) return;
+    job.Set(u"JobStatus", status);
+    job.Set(u"DateCompleted", completed);
+    job.Update();
   });
 }
 

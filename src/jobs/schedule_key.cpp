@@ -8,9 +8,11 @@
 using namespace Qt::StringLiterals;
 
 ScheduleKey KeyOfLine(int taskID) {
-  return {.taskLibID = TaskLibIDOf(taskID),
-          .rigID = JobSystemID(LineField(taskID, u"JobID"_s).ToInt()),
-          .componentID = GetThisComponentID(taskID)};
+  return KeyOfLine(taskID, LineField(taskID, u"JobID"_s).ToInt(), TaskLibIDOf(taskID));
+}
+
+ScheduleKey KeyOfLine(int taskID, int jobID, int taskLibID) {
+  return {.taskLibID = taskLibID, .rigID = JobSystemID(jobID), .componentID = GetThisComponentID(taskID)};
 }
 
 void UpdateSchedule(const ScheduleKey& key) { UpdateSchedule(key.taskLibID, key.rigID, key.componentID); }

@@ -9,6 +9,8 @@ struct ScheduleKey {
 
 /// The key of a line: its entry, the rig of its job, and the one component that it touched (0 for several or none).
 ScheduleKey KeyOfLine(int taskID);
+/// The same for who has read the line.
+ScheduleKey KeyOfLine(int taskID, int jobID, int taskLibID);
 
 /// Brings that row up to date.
 void UpdateSchedule(const ScheduleKey& key);

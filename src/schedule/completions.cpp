@@ -12,10 +12,9 @@ namespace {
 
 /// A line never touched the component that an empty place lacks.
 bool TaskTouched(int taskID, int componentID) {
-  return componentID != 0 &&
-         GetNumberRecordsComplex(
-             u"Select * from tblTaskComponents where TaskID = %1 and CompID = %2"_s.arg(taskID).arg(componentID))
-                 .ToInt() > 0;
+  const QString tie =
+      u"Select * from tblTaskComponents where TaskID = %1 and CompID = %2"_s.arg(taskID).arg(componentID);
+  return componentID != 0 && !GetValueFromTableBySQL(tie, u"CompID"_s).IsEmpty();
 }
 
 /// When a line is a completed repack; no date otherwise.

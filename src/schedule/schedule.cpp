@@ -32,8 +32,8 @@ struct ScheduleRow {
   int componentID;
 };
 
-ScheduleRow RollRow(int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
-  const Date due = GetNextDueDate(IntervalNumber(taskLibID), IntervalType(taskLibID), dateDone);
+ScheduleRow RollRow(int number, int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
+  const Date due = GetNextDueDate(number, IntervalType(taskLibID), dateDone);
   return {rigID, taskLibID, dateDone, due, taskID, componentID};
 }
 
@@ -45,6 +45,20 @@ void Write(Recordset& rows, const ScheduleRow& row) {
   rows.Set(u"TaskID", row.taskID);
   rows.Set(u"ComponentID", row.componentID);
   rows.Update();
+}
+
+void ReplaceRow(int number, int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
+  Operation(u"Sub ReplaceSchedule"_s, [&] {
+    DeleteSchedule(rigID, taskLibID, componentID);
+    {
+      Recordset rows(rigID != 0 ? RowsOfRig(rigID, taskLibID) : RowsOfComponent(componentID, taskLibID));
+      const bool reused = RecordsetHasRows(rows);
+      if (reused) MsgBox(u"shouldn't this be empty?"_s);
+      const ScheduleRow row = RollRow(number, rigID, taskLibID, dateDone, taskID, componentID);
+      if (!reused) rows.AddNew();
+      Write(rows, row);
+    }
+  });
 }
 
 }  // namespace
@@ -66,12 +80,12 @@ Date GetNextDueDate(int number, int intervalType, Date startDate) {
 void UpdateSchedule(int taskLibID, int rigID, int componentID) {
   if (taskLibID == 0) return;
   Operation(u"Sub UpdateSchedule"_s, [&] {
-    if (IntervalNumber(taskLibID) != 0) {
+    if (const int number = IntervalNumber(taskLibID); number != 0) {
       int taskID = 0;
       const Date done = rigID == 0 ? LastCompletionForComponent(componentID, taskLibID, taskID)
                                    : LastCompletionForRig(rigID, taskLibID, taskID);
       if (!done.IsNone())
-        ReplaceSchedule(rigID, taskLibID, done, taskID, componentID);
+        ReplaceRow(number, rigID, taskLibID, done, taskID, componentID);
       else
         DeleteSchedule(rigID, taskLibID, componentID);
     }
@@ -79,18 +93,8 @@ void UpdateSchedule(int taskLibID, int rigID, int componentID) {
 }
 
 void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
-  if (IntervalNumber(taskLibID) == 0) return;
-  Operation(u"Sub ReplaceSchedule"_s, [&] {
-    DeleteSchedule(rigID, taskLibID, componentID);
-    {
-      Recordset rows(rigID != 0 ? RowsOfRig(rigID, taskLibID) : RowsOfComponent(componentID, taskLibID));
-      const bool reused = RecordsetHasRows(rows);
-      if (reused) MsgBox(u"shouldn't this be empty?"_s);
-      const ScheduleRow row = RollRow(rigID, taskLibID, dateDone, taskID, componentID);
-      if (!reused) rows.AddNew();
-      Write(rows, row);
-    }
-  });
+  if (const int number = IntervalNumber(taskLibID); number != 0)
+    ReplaceRow(number, rigID, taskLibID, dateDone, taskID, componentID);
 }
 
 void DeleteSchedule(int rigID, int taskLibID, int componentID) {
@@ -101,9 +105,10 @@ void DeleteSchedule(int rigID, int taskLibID, int componentID) {
 
 void AddSchedule(int rigID, int taskLibID, int taskID, Date dateDone, int componentID, int& scheduleID) {
   scheduleID = 0;
-  if (IntervalNumber(taskLibID) == 0) return;
+  const int number = IntervalNumber(taskLibID);
+  if (number == 0) return;
   Operation(u"Sub AddSchedule"_s, [&] {
-    const ScheduleRow row = RollRow(rigID, taskLibID, dateDone, taskID, componentID);
+    const ScheduleRow row = RollRow(number, rigID, taskLibID, dateDone, taskID, componentID);
     {
       Recordset rows(u"tblSchedules"_s);
       rows.AddNew();

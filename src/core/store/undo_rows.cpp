@@ -23,7 +23,12 @@ struct Stored {
   double real = 0;
   QByteArray bytes;
 
+  bool IsNumber() const { return type == SQLITE_INTEGER || type == SQLITE_FLOAT; }
+  double Number() const { return type == SQLITE_INTEGER ? static_cast<double>(whole) : real; }
+
+  /// A whole number in a column of real ones is an integer to the hook that notes it, a real one to a query.
   friend bool operator==(const Stored& a, const Stored& b) {
+    if (a.type != b.type && a.IsNumber() && b.IsNumber()) return a.Number() == b.Number();
     return a.type == b.type && a.whole == b.whole && a.real == b.real && a.bytes == b.bytes;
   }
 };

@@ -105,8 +105,9 @@ bool frmJob::LoadJob(int jobID) {
     hide();
     return false;
   }
+  job_.jobID = shown;
+  LoadWorkingDate();  // before the job's status follows its lines
   ShowJobOf(shown);
-  LoadWorkingDate();
   Upkeep(u"Sub LoadJob"_s, [this] { RememberShown(job_, componentID_); });
   return true;
 }
@@ -130,7 +131,7 @@ void frmJob::ReloadForm() {
     return;
   }
   ShowJobOf(job_.jobID);
-  if (!IsValidDate(ui_->txtDate->text().trimmed()) && !ui_->txtDate->hasFocus()) LoadWorkingDate();
+  if (!IsValidDate(ui_->txtDate->text().trimmed()) && focusWidget() != ui_->txtDate) LoadWorkingDate();
 }
 
 void frmJob::Cancel() {

@@ -74,6 +74,7 @@ class frmJob : public Form {
   // frmJob_lines.cpp
   void SetUpLines();
   void LoadTasksGrid();
+  void ShowLines();
   void ShowTotal();
   void ShowJobStatus(bool complete, const QString& date);
   int SelectedTask() const;  ///< the line of the selected row, 0 for none

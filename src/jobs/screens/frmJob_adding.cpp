@@ -1,3 +1,5 @@
+#include <QScopedValueRollback>
+
 #include <algorithm>
 
 #include "core/default_rows.h"
@@ -93,11 +95,14 @@ void frmJob::EnterCustom(bool isEvent) {
 
 /// Until the next load a job that is complete by it is complete on the working date.
 void frmJob::AddOneOff(const CustomEntry& entry, Date date) {
+  const QScopedValueRollback<bool> busy(busy_, true);
   bool complete = false;
-  Operation(u"Sub AddOneOffLine"_s, [&] {
+  const bool written = Operation(u"Sub AddOneOffLine"_s, [&] {
     AddOneOffLine(job_, entry, date);
     complete = CheckJobStatus(job_.jobID, WorkDate());
   });
+  if (!written) return;
+  ShowLines();
   ShowJobStatus(complete, complete ? HeaderDate(WorkDate()) : u"(n/a)"_s);
 }
 

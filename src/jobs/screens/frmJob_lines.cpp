@@ -61,6 +61,13 @@ void frmJob::SetUpLines() {
 }
 
 void frmJob::LoadTasksGrid() {
+  ShowLines();
+  const Date completed = RecomputeJobStatus(job_.jobID);
+  LoadHeader();
+  ShowJobStatus(!completed.IsNone(), HeaderDate(completed));
+}
+
+void frmJob::ShowLines() {
   std::vector<GridRow> rows;
   for (const JobLine& line : LoadJobLines(job_.jobID)) rows.push_back(RowOf(line));
   rows.push_back({});
@@ -70,9 +77,6 @@ void frmJob::LoadTasksGrid() {
   const int last = ui_->Grid2->RowCount() - 1;
   for (int column = kTask; column <= kStatus; ++column) ui_->Grid2->SetCellColour(last, column, kTotalsBack);
   ShowTotal();
-  const Date completed = RecomputeJobStatus(job_.jobID);
-  LoadHeader();
-  ShowJobStatus(!completed.IsNone(), HeaderDate(completed));
   CheckTaskComments();
 }
 
@@ -136,20 +140,17 @@ void frmJob::SaveCell(int row, int column, const QString& text, bool& keepOpen) 
 void frmJob::ToggleLine(int row) {
   const int task = ui_->Grid2->RowData(row);
   if (task == 0) return;
-  bool toggled = false;
-  bool complete = false;
-  JobLine line;
   {
     const QScopedValueRollback<bool> busy(busy_, true);
-    const bool written = Operation(u"Sub ToggleComplete"_s, [&] {
-      toggled = ToggleComplete(task, WorkDate(), rigComponentsCurrent_);
-      line = LoadJobLine(task);
-      complete = AllChecked(job_.jobID);
-    });
-    if (!written || !toggled) return;
+    if (!ToggleComplete(task, WorkDate(), rigComponentsCurrent_)) return;
   }
-  ui_->Grid2->SetText(row, kStatus, line.status);
-  ui_->Grid2->SetText(row, kDate, line.date);
+  const bool done = ui_->Grid2->Text(row, kStatus).isEmpty();
+  const bool isPart = ui_->Grid2->Text(row, kPartID).toInt() != 0;
+  ui_->Grid2->SetText(row, kStatus, done ? (isPart ? u"Installed"_s : u"Completed"_s) : QString());
+  ui_->Grid2->SetText(row, kDate, done ? HeaderDate(WorkDate()) : QString());
+  bool complete = true;
+  for (int line = 0; line < ui_->Grid2->RowCount() - kRowsBelow; ++line)
+    complete = complete && !ui_->Grid2->Text(line, kStatus).isEmpty();
   ShowJobStatus(complete, complete ? HeaderDate(WorkDate()) : u"(n/a)"_s);
 }
 

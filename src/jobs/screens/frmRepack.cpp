@@ -1,7 +1,5 @@
 #include "jobs/screens/frmRepack.h"
 
-#include <optional>
-
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/lists.h"
@@ -20,25 +18,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Column { kID, kName, kPrice, kStored };
+enum Column { kID, kName, kPrice };
 
 constexpr int kMostRows = 11;
 
-/// What was typed into the row of an id; nothing where its price stands as it was read.
-std::optional<QString> TypedPrice(const Grid& grid, int id) {
-  const int row = grid.FindRow(id);
-  if (row < 0 || grid.Text(row, kPrice) == grid.Text(row, kStored)) return std::nullopt;
-  return grid.Text(row, kPrice);
-}
-
-void FillPrices(Grid& grid, const IdList& names, Money (*priceOf)(int id, int taskLibID)) {
+/// Rows whose price was `typed` keep it.
+void FillPrices(Grid& grid, const QSet<int>& typed, const IdList& names, Money (*priceOf)(int id, int taskLibID)) {
   std::vector<GridRow> rows;
   for (qsizetype i = 0; i < names.Size(); ++i) {
     const int id = names.ids.at(i);
     const Money price = priceOf(id, RepackTaskLibID);
     const QString stored = price.IsZero() ? QString() : Format(price, u"######0.00"_s);
-    rows.push_back(
-        {.cells = {QString::number(id), names.texts.at(i), TypedPrice(grid, id).value_or(stored), stored}, .data = id});
+    rows.push_back({.cells = {QString::number(id), names.texts.at(i),
+                              typed.contains(id) ? grid.Text(grid.FindRow(id), kPrice) : stored},
+                    .data = id});
   }
   grid.Refill(std::move(rows));
   grid.FitHeight(kMostRows);
@@ -51,19 +44,20 @@ QList<std::pair<int, Money>> Prices(const Grid& grid) {
   return prices;
 }
 
-void EmptyPrices(Grid& grid) {
-  for (int row = 0; row < grid.RowCount(); ++row)
-    for (const Column column : {kPrice, kStored}) grid.SetText(row, column, QString());
-}
-
 }  // namespace
 
 frmRepack::frmRepack() : ui_(std::make_unique<Ui::frmRepack>()) {
   ui_->setupUi(this);
   SetUpGrid(*ui_->Grid1, u"Rig Type"_s);
   SetUpGrid(*ui_->Grid2, u"Container Model"_s);
-  connect(ui_->cmdEditRigTypes, &QPushButton::clicked, this, [] { ShowRigTypes(); });
-  connect(ui_->cmdEditContainers, &QPushButton::clicked, this, [] { ShowModels({.type = kContainer}); });
+  connect(ui_->cmdEditRigTypes, &QPushButton::clicked, this, [this] {
+    ShowRigTypes();
+    LoadAnew();
+  });
+  connect(ui_->cmdEditContainers, &QPushButton::clicked, this, [this] {
+    ShowModels({.type = kContainer});
+    LoadAnew();
+  });
   connect(ui_->cmdClearAllTypePrices, &QPushButton::clicked, this, [this] { ClearAll(true); });
   connect(ui_->cmdClearAllContainerPrices, &QPushButton::clicked, this, [this] { ClearAll(false); });
   connect(ui_->cmdHelp, &QPushButton::clicked, this, [] {
@@ -87,23 +81,32 @@ QStringList frmRepack::ShowsTables() const {
 void frmRepack::SetUpGrid(Grid& grid, const QString& heading) {
   grid.SetColumns({{.heading = u"ID"_s, .width = 0},
                    {.heading = heading, .width = FromTwips(3000)},
-                   {.heading = u"Price"_s, .width = FromTwips(1000), .alignment = Qt::AlignRight},
-                   {.heading = QString(), .width = 0, .name = u"Stored"_s}});
+                   {.heading = u"Price"_s, .width = FromTwips(1000), .alignment = Qt::AlignRight}});
   grid.SetSortable(false);
   grid.SetStretchColumn(kName);
   grid.SetMemory(u"repack-prices-"_s + grid.objectName());
   connect(&grid, &Grid::CellChange, this, [&grid](int row) {
     if (row >= 0) grid.EditInCell(row, kPrice);
   });
-  connect(&grid, &Grid::CellTyped, this,
-          [&grid](int row, int column, const QString& text) { grid.SetText(row, column, text); });
+  connect(&grid, &Grid::CellTyped, this, [this, &grid](int row, int column, const QString& text) {
+    typed_[&grid].insert(grid.RowData(row));
+    grid.SetText(row, column, text);
+  });
   connect(&grid, &Grid::EditorKey, this, [this, &grid](int key, bool& handled) { HandleKey(grid, key, handled); });
 }
 
 void frmRepack::ReloadForm() {
   if (!ui_->txtIR->isModified()) ui_->txtIR->setText(Format(TaskLibFlatRate(RepackTaskLibID), u"#######0.00"_s));
-  FillPrices(*ui_->Grid1, LoadRigTypesById(), GetPriceByType);
-  FillPrices(*ui_->Grid2, LoadModelsOfType(kContainer), GetPriceByModel);
+  FillPrices(*ui_->Grid1, typed_[ui_->Grid1], LoadRigTypesById(), GetPriceByType);
+  FillPrices(*ui_->Grid2, typed_[ui_->Grid2], LoadModelsOfType(kContainer), GetPriceByModel);
+}
+
+void frmRepack::LoadAnew() {
+  typed_.clear();
+  ui_->txtIR->setModified(false);
+  ui_->Grid1->AbandonEditor();
+  ui_->Grid2->AbandonEditor();
+  ReloadForm();
 }
 
 void frmRepack::HandleKey(Grid& grid, int key, bool& handled) {
@@ -136,7 +139,8 @@ void frmRepack::ClearAll(bool byType) {
     return;
   Grid& grid = byType ? *ui_->Grid1 : *ui_->Grid2;
   grid.AbandonEditor();
-  EmptyPrices(grid);
+  typed_.remove(&grid);
+  for (int row = 0; row < grid.RowCount(); ++row) grid.SetText(row, kPrice, QString());
   byType ? ClearPricesByType() : ClearPricesByModel();
 }
 

@@ -1,4 +1,7 @@
 #pragma once
+#include <QHash>
+#include <QSet>
+
 #include <memory>
 
 #include "core/money.h"
@@ -25,10 +28,12 @@ class frmRepack : public Form {
 
  private:
   void SetUpGrid(Grid& grid, const QString& heading);
+  void LoadAnew();  ///< what was typed and is not saved is lost
   void HandleKey(Grid& grid, int key, bool& handled);
   void Save();
   void ClearAll(bool byType);
 
   std::unique_ptr<Ui::frmRepack> ui_;
+  QHash<const Grid*, QSet<int>> typed_;  ///< the rows whose price was typed and is not saved yet
   bool setUp_ = false;
 };

@@ -13,6 +13,7 @@
 #include "jobs/screens.h"
 #include "jobs/screens/frmJobTypeSelect.h"
 #include "jobs/screens/frmNewJob.h"
+#include "jobs/screens/keep_shown.h"
 
 using namespace Qt::StringLiterals;
 
@@ -93,6 +94,9 @@ bool ChooseGear(int customerID, const Gear& gear, int& rigID, int& componentID) 
   return PickRig(rigID, owner);
 }
 
+/// One job is started at a time.
+bool IsBeingStarted() { return ComesForward<frmJobTypeSelect>() || ComesForward<frmNewJob>(); }
+
 /// Lets the person name the job that was just made; `jobID` is then the job to go to: this one, another one that was
 /// chosen in its place, or 0. A job that is not wanted is deleted.
 void NameNewJob(const QString& proposal, int customerID, int& jobID) {
@@ -116,6 +120,7 @@ void NameNewJob(const QString& proposal, int customerID, int& jobID) {
 }  // namespace
 
 bool StartNewJob(int customerID, int rigID, int componentID, Date date) {
+  if (IsBeingStarted()) return false;
   if (customerID == 0) {
     MsgBox(Lines({u"This rig is not assigned to a customer.  You must assign this"_s,
                   u"rig to a customer before starting a new job."_s}),
@@ -142,6 +147,7 @@ bool StartNewJob(int customerID, int rigID, int componentID, Date date) {
 
 void StartJobDialog(int customerID, int rigID, int componentID, int& jobID, int riggerID, int locationID, Date date) {
   jobID = 0;
+  if (IsBeingStarted()) return;
   const QString seed = TitleSeed(rigID);
   if (locationID == 0) locationID = ChooseLocation();
   if (riggerID == 0) riggerID = ChooseRigger();

@@ -46,6 +46,7 @@ class TestJobHeader : public QObject {
     OpenJob shop;
     const int first = shop.AddTask(RepackTaskLibID);
     const int second = shop.AddTask(shop.aadCheck);
+    Click(shop.Screen(), u"cmdExit"_s);
     ToggleComplete(first, Day(3, 4, 2026), true);
     ToggleComplete(second, Day(3, 9, 2026), true);
     QCOMPARE(shop.JobState(), SampleJob::State(-1, Day(3, 9, 2026)));

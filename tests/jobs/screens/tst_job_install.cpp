@@ -166,6 +166,8 @@ class TestJobInstall : public QObject {
       for (const QString& entry : {u"AAD check"_s, u"Remove component"_s}) LibraryShop::Tick(form, "lstTasks", entry);
       Click(form, u"cmdOK"_s);
     });
+    QCOMPARE(shop.Gear().CurrentRow(), static_cast<int>(OpenGear::kAadRow));
+    shop.Gear().SelectNone();
     shop.prompts.ExpectBox(u"Remove component from rig"_s, u"You must select a component from the above grid"_s);
     shop.Choose(u"Tasks"_s, u"Add multiple tasks to this job"_s);
     QCOMPARE(shop.Row(1), u"AAD check|Rigger|20.00||"_s);

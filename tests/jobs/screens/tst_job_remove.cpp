@@ -123,14 +123,11 @@ class TestJobRemove : public QObject {
     QCOMPARE(shop.Changes(before), QStringList());
   }
 
-  void AComponentThatGoesMeanwhileIsNotEdited() {
+  void AComponentThatGoesMeanwhileLeavesTheJob() {
     OpenGear shop;
     const int loose = shop.AddJob("Loose", 0, shop.container);
     GotoJob(loose);
     shop.loft.Run(u"delete from tblComponents where ID = %1"_s.arg(shop.container));
-    shop.prompts.ExpectBox(u"No component"_s, u"This rig doesn't have a Container"_s);
-    ClickCell(shop.Gear(), 0, 3);
-    shop.Choose(u"Tools"_s, u"Refresh"_s);
     QCOMPARE(shop.Gear().RowCount(), 0);
     QCOMPARE(shop.loft.Rows(u"select * from tblJobComponents where JobID = %1"_s.arg(loose)), QStringList());
   }

@@ -105,7 +105,7 @@ class TestJobStays : public QObject {
     ThreeLines shop;
     shop.StartTyping(1, kPrice, u"33.50"_s);
     DeleteLine(shop.repack, true);
-    QVERIFY(shop.Lines().IsEditing() && shop.Lines().Editor()->hasFocus());
+    QVERIFY(shop.Lines().IsEditing() && shop.Screen().focusWidget() == shop.Lines().Editor());
     QCOMPARE(shop.Lines().Editor()->text(), u"33.50"_s);
     QTest::keyClick(&shop.Screen(), Qt::Key_F5);
     QCOMPARE(shop.Lines().Editor()->text(), u"33.50"_s);
@@ -190,7 +190,7 @@ class TestJobStays : public QObject {
     shop.StartLabel("lblJob", u"Season sta"_s);
     DeleteLine(shop.repack, true);
     QTest::keyClick(&shop.Screen(), Qt::Key_F5);
-    QVERIFY(shop.Any().isVisible() && shop.Any().hasFocus());
+    QVERIFY(shop.Any().isVisible() && shop.Screen().focusWidget() == &shop.Any());
     QTest::keyClicks(&shop.Any(), u"rt"_s);
     PressKey(shop.Any(), Qt::Key_Return);
     QCOMPARE(JobTitle(shop.job), u"Season start"_s);

@@ -1,3 +1,5 @@
+#include <QAbstractButton>
+#include <QLineEdit>
 #include <QtTest>
 
 #include "core/store/undo.h"
@@ -178,7 +180,9 @@ class TestWorkStays : public QObject {
     shop.screens.WhenShown(u"frmRepack"_s, [&](Form& form) {
       auto& grid = Control<Grid>(form, u"Grid2"_s);
       TypeInto(form, u"txtIR"_s, u"81"_s);
-      grid.SetText(grid.FindRow(javelin), 2, u"75"_s);
+      ClickCell(grid, grid.FindRow(javelin), 1);  // the price takes the cursor
+      QTest::keyClicks(grid.Editor(), u"75"_s);
+      QCOMPARE(grid.Text(grid.FindRow(javelin), 2), u"75"_s);
       const int vector = AddModel(u"A Vector"_s, kContainer);
       SaveByModel(vector, Money::Whole(60));
       QCOMPARE(grid.Text(grid.FindRow(javelin), 2), u"75"_s);
@@ -200,7 +204,9 @@ class TestWorkStays : public QObject {
     const QStringList before = shop.loft.Snapshot();
     shop.screens.WhenShown(u"frmRepack"_s, [&](Form& form) {
       TypeInto(form, u"txtIR"_s, u"81"_s);
-      Control<Grid>(form, u"Grid1"_s).SetText(0, 2, u"1e15"_s);
+      auto& grid = Control<Grid>(form, u"Grid1"_s);
+      ClickCell(grid, 0, 2);
+      QTest::keyClicks(grid.Editor(), u"1e15"_s);
       shop.prompts.ExpectBox(u"Sub cmdSave_Click"_s, u"Overflow"_s);
       Click(form, u"cmdSave"_s);
       QVERIFY(form.isVisible());
