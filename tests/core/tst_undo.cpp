@@ -93,6 +93,18 @@ class TestUndo : public QObject {
     QCOMPARE(shop.loft.Rows(u"select ComponentID from tblJobComponents"_s), QStringList(u"8"_s));
   }
 
+  void WholeNumbersInColumnsOfFractionsComeBack() {
+    const Shop shop;
+    Operation(u"Sub AddLocation"_s, [] {
+      Recordset locations(u"tblLocation"_s);
+      locations.AddNew();
+      locations.Set(u"TaxRate", 7.0);
+      locations.Update();
+    });
+    QVERIFY(UndoOperation());
+    QCOMPARE(shop.loft.Snapshot(), shop.start);
+  }
+
   void ItIsRememberedAcrossRuns() {
     const Shop shop;
     shop.AddRig(u"Blue"_s);

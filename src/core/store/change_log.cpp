@@ -35,8 +35,10 @@ void PutValue(QByteArray& bytes, sqlite3_value* value) {
 }
 
 bool SameValue(sqlite3_value* a, sqlite3_value* b) {
+  const auto isNumber = [](int type) { return type == SQLITE_INTEGER || type == SQLITE_FLOAT; };
   const int type = sqlite3_value_type(a);
-  if (type != sqlite3_value_type(b)) return false;
+  if (const int other = sqlite3_value_type(b); type != other)
+    return isNumber(type) && isNumber(other) && sqlite3_value_double(a) == sqlite3_value_double(b);
   switch (type) {
     case SQLITE_INTEGER:
       return sqlite3_value_int64(a) == sqlite3_value_int64(b);
