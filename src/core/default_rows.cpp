@@ -134,6 +134,8 @@ void CreateDefaultRows() {
   });
 }
 
+bool HasMiscRow() { return GetNumberRecordsInTable(u"tblMisc"_s) > 0; }
+
 void CheckMiscRow() {
   UnrecordedOperation(u"Sub CheckMiscRow"_s, [] {
     const int count = GetNumberRecordsInTable(u"tblMisc"_s);

@@ -28,6 +28,7 @@ void CreateDefaultRigTypes();
 void CreateDefaultTasks();
 /// Keeps tblMisc at one row: more than one are told and replaced by one of defaults, none gets it.
 void CheckMiscRow();
+bool HasMiscRow();
 /// All that a new loft begins with: the settings row, the component types, the rig types and the fixed tasks.
 void CreateDefaultRows();
 /// Adds the settings row with its defaults and the given repack cycle in days.

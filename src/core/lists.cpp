@@ -40,6 +40,15 @@ QString PersonText(const Recordset& row) {
 
 }  // namespace
 
+int NeighbourOf(int gone, const QList<int>& before, const QList<int>& now) {
+  const qsizetype place = before.indexOf(gone);
+  for (qsizetype i = place + 1; place >= 0 && i < before.size(); ++i)
+    if (now.contains(before.at(i))) return before.at(i);
+  for (qsizetype i = place - 1; i >= 0; --i)
+    if (now.contains(before.at(i))) return before.at(i);
+  return now.value(0);
+}
+
 IdList LoadModelsOfType(int typeId) {
   return Load(u"Sub LoadModelsOfType"_s,
               u"Select * from tblModels where typeID = "_s + QString::number(typeId) + u" order by name"_s, Name);

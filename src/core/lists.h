@@ -16,6 +16,10 @@ struct IdList {
   qsizetype Size() const { return ids.size(); }
 };
 
+/// Where a list goes on when one of its records has gone: at the one that stood behind it, else before it. 0 when none
+/// of them is left.
+int NeighbourOf(int gone, const QList<int>& before, const QList<int>& now);
+
 IdList LoadModelsOfType(int typeId);
 IdList LoadTaskList();
 IdList LoadTaskOrEventList(bool isEvent);

@@ -4,17 +4,17 @@
 
 namespace {
 
-std::map<int, PickerOwner>& Owners() {
-  static std::map<int, PickerOwner> owners;
-  return owners;
+std::map<int, PickerKind>& Kinds() {
+  static std::map<int, PickerKind> kinds;
+  return kinds;
 }
 
 }  // namespace
 
-void RegisterPickerOwner(PickerType type, PickerOwner owner) { Owners()[type] = std::move(owner); }
+void RegisterPicker(PickerType type, PickerKind kind) { Kinds()[type] = std::move(kind); }
 
-const PickerOwner& OwnerOf(int pickerType) {
-  static const PickerOwner none;
-  const auto found = Owners().find(pickerType);
-  return found == Owners().end() ? none : found->second;
+const PickerKind& PickerKindOf(int pickerType) {
+  static const PickerKind none;
+  const auto found = Kinds().find(pickerType);
+  return found == Kinds().end() ? none : found->second;
 }

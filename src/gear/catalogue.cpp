@@ -21,6 +21,8 @@ bool SameName(const QString& a, const QString& b) { return a.trimmed().toLower()
 
 QString ModelsOfType(int type) { return u"Select * from tblModels where Typeid = "_s + QString::number(type); }
 
+void TellTooLong() { MsgBox(u"Name is too long"_s, u"50 characters max"_s); }
+
 /// Asks until the name fits.
 QString AskModelName(int type, int manufacturer) {
   const QString typeName = ComponentTypeName(type);
@@ -30,7 +32,7 @@ QString AskModelName(int type, int manufacturer) {
   for (;;) {
     QString name = InputBox(Lines(text), u"Add new "_s + typeName.toLower() + u" model"_s).trimmed();
     if (name.size() <= kLongestModelName) return name;
-    MsgBox(u"Name is too long"_s, u"50 characters max"_s);
+    TellTooLong();
   }
 }
 
@@ -63,7 +65,7 @@ int FindModelByName(const QString& name, int type) {
 int RepairModelManufacturer(int model) {
   const int manufacturer = ModelManufacturer(model);
   if (manufacturer == 0 || !ManufacturerName(manufacturer).trimmed().isEmpty()) return manufacturer;
-  UpdateTable(u"tblModels"_s, u"ManfID"_s, 0, u"ID"_s, model);
+  Upkeep(u"Function RepairModelManufacturer"_s, [&] { UpdateTable(u"tblModels"_s, u"ManfID"_s, 0, u"ID"_s, model); });
   return 0;
 }
 
@@ -90,17 +92,31 @@ NewModel AddModelByAsking(int type, int manufacturer, const QString& buttonCapti
   return {AddModelOfManufacturer(name, type, qMax(manufacturer, 0)), true};
 }
 
+int AddModelByName(const QString& name, int type) {
+  if (name.trimmed().size() > kLongestModelName) {
+    TellTooLong();
+    return 0;
+  }
+  int existing = 0;
+  return RefuseDuplicateModel(name, type, existing) ? existing : AddModelOfManufacturer(name, type, 0);
+}
+
 NewModel AddPart(const QString& name, Money price, int manufacturer) {
   int existing = 0;
   if (RefuseDuplicateModel(name, kMisc, existing)) return {existing, false};
-  const int id = AddModelOfManufacturer(name, kMisc, qMax(manufacturer, 0));
-  UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
-  return {id, true};
+  int id = 0;
+  const bool written = Operation(u"Sub AddPart"_s, [&] {
+    id = AddModelOfManufacturer(name, kMisc, qMax(manufacturer, 0));
+    UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
+  });
+  return {written ? id : 0, true};
 }
 
 void SavePart(int id, const QString& name, Money price) {
-  UpdateTable(u"tblModels"_s, u"Name"_s, name, u"ID"_s, id);
-  UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
+  Operation(u"Sub SavePart"_s, [&] {
+    UpdateTable(u"tblModels"_s, u"Name"_s, name, u"ID"_s, id);
+    UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
+  });
 }
 
 int AddModelFromPicker(int type) {
@@ -122,8 +138,7 @@ bool RenameModel(int id) {
   const QString current = ModelName(id);
   const QString name = AskOtherName(current, u"Rename "_s + current);
   if (name.isEmpty()) return false;
-  UpdateTable(u"tblModels"_s, u"Name"_s, name, u"id"_s, id);
-  return true;
+  return Operation(u"Sub RenameModel"_s, [&] { UpdateTable(u"tblModels"_s, u"Name"_s, name, u"id"_s, id); });
 }
 
 ModelDeletion DeleteModel(int id) {
@@ -141,11 +156,11 @@ ModelDeletion DeleteModel(int id) {
     if (AskYes(text, u"Deleting model "_s + name)) return ModelDeletion::ShowList;
   }
   if (!AskYes(u"Are you sure you wish to delete "_s + name, u"Delete "_s + name)) return ModelDeletion::Kept;
-  Operation(u"Sub DeleteModel"_s, [&] {
+  const bool deleted = Operation(u"Sub DeleteModel"_s, [&] {
     DeleteRecordsFromTableBySQL(u"Delete * from tblModels where id = "_s + QString::number(id));
     DeleteRecordsFromTableBySQL(u"Delete * from tblComponents where Modelid = "_s + QString::number(id));
   });
-  return ModelDeletion::Deleted;
+  return deleted ? ModelDeletion::Deleted : ModelDeletion::Kept;
 }
 
 bool LinkModelToManufacturer(int model, int manufacturer) {
@@ -162,15 +177,16 @@ bool LinkModelToManufacturer(int model, int manufacturer) {
                      u"     "_s + ComponentTypeName(ModelType(model)) + u": "_s + ModelName(model)}),
               u"Link?"_s))
     return false;
-  UpdateTableBySQL(u"Update tblModels set manfid = %1 where ID = %2"_s.arg(manufacturer).arg(model));
-  return true;
+  return Operation(u"Sub LinkModelToManufacturer"_s, [&] {
+    UpdateTableBySQL(u"Update tblModels set manfid = %1 where ID = %2"_s.arg(manufacturer).arg(model));
+  });
 }
 
 int AddManufacturer() {
   const QString name = InputBox(u"Enter name of new manufacturer"_s, u"New Manufacturer"_s);
   if (name.trimmed().isEmpty()) return 0;
   int id = 0;
-  Operation(u"Function AddManufacturer"_s, [&] {
+  const bool written = Operation(u"Function AddManufacturer"_s, [&] {
     int next = 1;
     bool taken = false;
     Recordset manufacturers(u"Select * from tblManufacturers order by ID"_s);
@@ -191,7 +207,7 @@ int AddManufacturer() {
     }
     manufacturers.Close();
   });
-  return id;
+  return written ? id : 0;
 }
 
 bool RenameManufacturer(int id) {
@@ -209,9 +225,8 @@ bool RenameManufacturer(int id) {
 bool DeleteManufacturer(int id) {
   if (!AskYes(u"Are you you want to delete manufacturer "_s + ManufacturerName(id) + u'?', u"Delete Manufacturer?"_s))
     return false;
-  Operation(u"Sub DeleteManufacturer"_s, [&] {
+  return Operation(u"Sub DeleteManufacturer"_s, [&] {
     DeleteRecordsFromTableBySQL(u"delete * from tblManufacturers where id = "_s + QString::number(id));
     UpdateTableBySQL(u"update tblModels set manfID = 0 where Manfid = "_s + QString::number(id));
   });
-  return true;
 }

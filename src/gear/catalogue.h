@@ -31,6 +31,9 @@ NewModel AddModelByAsking(int type, int manufacturer, const QString& buttonCapti
 NewModel AddPart(const QString& name, Money price, int manufacturer);
 /// Writes the name and the price of a part; duplicates are not looked for.
 void SavePart(int id, const QString& name, Money price);
+/// Adds a model by the name that was typed in a pick list: a name that is too long or in use is told. The new model, or
+/// the one that has the name; 0 when nothing was added.
+int AddModelByName(const QString& name, int type);
 /// Tells that a model has this name already; true when it does. `existing` is that model.
 bool RefuseDuplicateModel(const QString& name, int type, int& existing);
 /// Asks for the name of a model that a pick list lacks and adds it; 0 when nothing came of it.

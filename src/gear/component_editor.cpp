@@ -114,7 +114,7 @@ SerialCheck CheckSerial(int model, const QString& serial, int component) {
 int SaveComponentEntry(const ComponentEntry& entry) {
   if (entry.model == 0) MsgBox(u"ModelID = 0"_s);
   int id = 0;
-  Operation(u"Function SaveComponentEntry"_s, [&] {
+  const bool written = Operation(u"Function SaveComponentEntry"_s, [&] {
     Recordset row(entry.id == 0 ? u"tblComponents"_s : RowStatement(entry.id));
     if (entry.id == 0) {
       row.AddNew();
@@ -125,16 +125,14 @@ int SaveComponentEntry(const ComponentEntry& entry) {
       WriteFields(row, entry);
       id = entry.id;
     }
+    if (id != 0) CheckComponentType(id);
   });
-  if (id != 0)
-    CheckComponentType(id);
-  else if (entry.id != 0)
-    MsgBox(u"you shouldn't be here - updating record but no record"_s, u"Darn!"_s);
-  return id;
+  if (written && id == 0) MsgBox(u"you shouldn't be here - updating record but no record"_s, u"Darn!"_s);
+  return written ? id : 0;
 }
 
-void SaveShortEntry(int component, int model, const QString& serial, Date dom, const QString& subType) {
-  Operation(u"Sub SaveShortEntry"_s, [&] {
+bool SaveShortEntry(int component, int model, const QString& serial, Date dom, const QString& subType) {
+  return Operation(u"Sub SaveShortEntry"_s, [&] {
     {
       Recordset row(RowStatement(component));
       if (RecordsetHasRows(row)) {

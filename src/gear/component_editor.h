@@ -51,4 +51,4 @@ SerialCheck CheckSerial(int model, const QString& serial, int component);
 int SaveComponentEntry(const ComponentEntry& entry);
 
 /// What the short editor writes; the model's type wins.
-void SaveShortEntry(int component, int model, const QString& serial, Date dom, const QString& subType);
+bool SaveShortEntry(int component, int model, const QString& serial, Date dom, const QString& subType);

@@ -76,11 +76,10 @@ bool AskAddToRig(int type, int rig, int component) {
                      u"Do you want to add this "_s + typeName + u" to this rig?"_s}),
               u"Add "_s + typeName + u'?'))
     return false;
-  Operation(u"Sub AskAddToRig"_s, [&] {
+  return Operation(u"Sub AskAddToRig"_s, [&] {
     FreePlace(rig, type);
     InstallComponent(rig, component, ComponentOwner(component));
   });
-  return true;
 }
 
 bool AgreesWithComponentList(int component) {
@@ -105,8 +104,7 @@ bool ChangeComponentOwner(int component, int newOwner) {
                  u"Are you sure you want to change the component's owner to "_s + PersonDisplayName(newOwner) + u'?'}),
           u"Change component owner?"_s))
     return false;
-  SetComponentOwner(component, newOwner);
-  return true;
+  return Operation(u"Sub ChangeComponentOwner"_s, [&] { SetComponentOwner(component, newOwner); });
 }
 
 bool RemoveFromItsRig(int component) {
@@ -115,17 +113,17 @@ bool RemoveFromItsRig(int component) {
   if (!AskYes(u"Remove "_s + ComponentDescription(component) + u" from "_s + RigName(rig) + u'?',
               u"Remove "_s + ComponentTypeName(type) + u'?'))
     return false;
-  Operation(u"Sub RemoveFromItsRig"_s, [&] {
+  return Operation(u"Sub RemoveFromItsRig"_s, [&] {
     DetachComponent(rig, component, type);
     InstallComponent(0, component, ComponentOwner(component));
     UpdateTable(u"tblPhotos"_s, u"rigid"_s, 0, u"componentid"_s, component);
   });
-  return true;
 }
 
 void RepairComponentOwner(int component) {
   const int rigOwner = LivingOwner(RigOwner(ComponentRig(component)));
-  if (rigOwner != 0 && LivingOwner(ComponentOwner(component)) == 0) SetComponentOwner(component, rigOwner);
+  if (rigOwner == 0 || LivingOwner(ComponentOwner(component)) != 0) return;
+  Upkeep(u"Sub RepairComponentOwner"_s, [&] { SetComponentOwner(component, rigOwner); });
 }
 
 void TellLostComponentType(int component) {
@@ -143,8 +141,7 @@ bool SetLostComponentType(int component, int type) {
           Lines({ComponentDescription(component) + u" = "_s + ComponentTypeName(type) + u'?', u"Is this correct?"_s}),
           kProgramTitle))
     return false;
-  SetComponentType(component, type);
-  return true;
+  return Operation(u"Sub SetLostComponentType"_s, [&] { SetComponentType(component, type); });
 }
 
 bool DeleteComponent(int component) {
@@ -165,11 +162,10 @@ bool DeleteComponent(int component) {
                      u"Deleting NOT recommended"_s)) {
     return false;
   }
-  Operation(u"Sub DeleteComponent"_s, [&] {
+  return Operation(u"Sub DeleteComponent"_s, [&] {
     DeleteRecordsFromTable(u"tblComponents"_s, u"ID"_s, component);
     DeleteRecordsFromTable(u"tblJobComponents"_s, u"ComponentID"_s, component);
     DeleteRecordsFromTable(u"tblSchedules"_s, u"ComponentID"_s, component);
     DeleteRecordsFromTable(u"tblTaskComponents"_s, u"CompID"_s, component);
   });
-  return true;
 }

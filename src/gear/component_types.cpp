@@ -42,14 +42,12 @@ int AddNewComponentType() {
   const int id = NextTypeId();
   const QString name = InputBox(u"Enter name of new component"_s);
   if (name.isEmpty()) return 0;
-  bool added = false;
-  Operation(u"Function AddNewComponentType"_s, [&] {
+  const bool added = Operation(u"Function AddNewComponentType"_s, [&] {
     Recordset types(u"tblComponentTypes"_s);
     types.AddNew();
     types.Set(u"Name", name);
     types.Set(u"ID", id);
     types.Update();
-    added = true;
   });
   return added ? id : 0;
 }
@@ -87,8 +85,7 @@ bool DeleteComponentType(int id) {
     return false;
   }
   if (!AskYes(u"Delete "_s + ComponentTypeName(id) + u'?', u"Are you sure?"_s)) return false;
-  DeleteRecordsFromTable(u"tblComponentTypes"_s, u"ID"_s, id);
-  return true;
+  return Operation(u"Sub DeleteComponentType"_s, [&] { DeleteRecordsFromTable(u"tblComponentTypes"_s, u"ID"_s, id); });
 }
 
 void ShowComponentTypeHelp() {

@@ -53,7 +53,10 @@ bool ComponentExists(int id) { return id != 0 && ComponentField(id, u"ID"_s).ToI
 void SetComponentOwner(int id, int owner) { UpdateTable(u"tblComponents"_s, u"ownerid"_s, owner, u"id"_s, id); }
 void SetComponentType(int id, int type) { UpdateTable(u"tblComponents"_s, u"TypeID"_s, type, u"id"_s, id); }
 void SetComponentRig(int id, int rig) { UpdateTable(u"tblComponents"_s, u"RigID"_s, rig, u"id"_s, id); }
-void SetComponentModel(int id, int model) { UpdateTable(u"tblComponents"_s, u"ModelID"_s, model, u"ID"_s, id); }
+void SetComponentModel(int id, int model) {
+  Operation({u"Sub SetComponentModel"_s, u"Change component model"_s},
+            [&] { UpdateTable(u"tblComponents"_s, u"ModelID"_s, model, u"ID"_s, id); });
+}
 
 void SetLastComponentID(int id) { UpdateTableBySQL(u"update tblMisc set LastComponentID = "_s + QString::number(id)); }
 
@@ -70,7 +73,7 @@ Date ComponentExpiry(int id) {
 
 int NewComponent(int model, int type, int rig, const QString& serial) {
   int id = 0;
-  Operation(u"Sub NewComponent"_s, [&] {
+  const bool written = Operation(u"Sub NewComponent"_s, [&] {
     int owner = 0;
     if (rig != 0) {
       owner = RigOwner(rig);
@@ -94,7 +97,7 @@ int NewComponent(int model, int type, int rig, const QString& serial) {
       id = components[u"ID"].ToInt();
     }
   });
-  return id;
+  return written ? id : 0;
 }
 
 void InstallComponent(int rig, int component, int owner) {
@@ -113,7 +116,7 @@ void FreePlace(int rig, int type) {
 }
 
 void CheckComponentType(int id) {
-  Operation(u"Sub CheckComponentType"_s, [&] {
+  Upkeep(u"Sub CheckComponentType"_s, [&] {
     Recordset component(u"select * from tblComponents where ID = "_s + QString::number(id));
     if (RecordsetHasRows(component)) {
       const int type = ModelType(component[u"ModelID"].ToInt());

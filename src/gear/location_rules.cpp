@@ -110,6 +110,5 @@ bool DeleteLocation(int id) {
   if (jobs > 1) lines << u"There are "_s + QString::number(jobs) + u" jobs for that location"_s << QString();
   lines << u"Are you sure you want to delete this location?"_s;
   if (!AskYes(Lines(lines), u"Delete "_s + LocationText(id) + u'?')) return false;
-  DeleteRecordsFromTable(u"tblLocation"_s, u"ID"_s, id);
-  return true;
+  return Operation(u"Sub DeleteLocation"_s, [&] { DeleteRecordsFromTable(u"tblLocation"_s, u"ID"_s, id); });
 }

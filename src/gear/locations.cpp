@@ -38,6 +38,10 @@ void SetDefault(int id) {
   });
 }
 
+void ClearDefault() {
+  Operation({u"Sub ClearDefault"_s, u"Clear default location"_s}, [] { TurnOffAllLocationDefaults(); });
+}
+
 QString LocationText(int id) {
   QString text;
   Operation(u"Function LocationText"_s, [&] {

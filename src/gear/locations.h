@@ -9,6 +9,7 @@ double GetTaxRate(const QString& state);
 int DefaultLocation();
 /// Marks this location as the default and no other.
 void SetDefault(int id);
+void ClearDefault();
 /// "City, State", or the city alone where the state is blank.
 QString LocationText(int id);
 int NumberOfJobsAtLocation(int id);

@@ -12,7 +12,7 @@ Value ModelField(int id, const QString& field) { return GetValueFromTable(u"tblM
 int InsertModel(const QString& name, int type, int manufacturer) {
   int id = 0;
   if (name.isEmpty()) return id;
-  Operation(u"Function AddModel"_s, [&] {
+  const bool written = Operation(u"Function AddModel"_s, [&] {
     Recordset models(u"tblModels"_s);
     models.AddNew();
     models.Set(u"ManfID", manufacturer);
@@ -23,7 +23,7 @@ int InsertModel(const QString& name, int type, int manufacturer) {
     models.Update();
     id = models[u"ID"].ToInt();
   });
-  return id;
+  return written ? id : 0;
 }
 
 }  // namespace

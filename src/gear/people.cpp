@@ -112,7 +112,7 @@ int NumberOfRiggers() { return GetNumberRecordsComplex(u"Select * from tblPeople
 
 int DefaultRigger() {
   const int id = GetValueFromTableBySQL(u"Select DefaultRiggerID from TblMisc"_s, u"DefaultRiggerID"_s).ToInt();
-  if (id != 0 && !PersonExists(id)) SetDefaultRigger(0);
+  if (id != 0 && !PersonExists(id)) Upkeep(u"Function DefaultRigger"_s, [] { SetDefaultRigger(0); });
   return id;
 }
 
@@ -123,6 +123,6 @@ int EffectiveRigger() {
   if (riggers == 0) return 0;
   if (riggers > 1) return DefaultRigger();
   const int id = GetValueFromTableBySQL(u"Select * from tblPeople where rigger = true"_s, u"ID"_s).ToInt();
-  SetDefaultRigger(id);
+  if (id != DefaultRigger()) Upkeep(u"Function EffectiveRigger"_s, [&] { SetDefaultRigger(id); });
   return id;
 }

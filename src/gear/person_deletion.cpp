@@ -57,24 +57,31 @@ int NeighbourAfterDeletion(int id) {
   return neighbour;
 }
 
-void DeletePerson(int id) {
-  Operation(u"Sub DeletePerson"_s, [&] {
+bool DeletePerson(int id) {
+  return Operation(u"Sub DeletePerson"_s, [&] {
     DeleteRecordsFromTable(u"tblPeople"_s, u"ID"_s, id);
     for (const Tie& tie : Ties()) UpdateTable(tie.table, tie.field, 0, tie.field, id);
   });
 }
 
+namespace {
+
+bool DeleteTellingNeighbour(int id, int& neighbour) {
+  neighbour = NeighbourAfterDeletion(id);
+  if (neighbour == id) neighbour = 0;
+  return DeletePerson(id);
+}
+
+}  // namespace
+
 bool DeleteCustomer(int id, int& neighbour) {
   if (RefuseProgramOwner(id)) return false;
   if (!AskYes(u"Are you sure you want to delete this customer?"_s, u"Delete "_s + PersonDisplayName(id))) return false;
   if (ReportPersonDeletion(id) == DeletionReport::Stop) return false;
-  neighbour = NeighbourAfterDeletion(id);
-  if (neighbour == id) neighbour = 0;
-  DeletePerson(id);
-  return true;
+  return DeleteTellingNeighbour(id, neighbour);
 }
 
-bool DeleteCustomerFromRigScreen(int id) {
+bool DeleteCustomerFromRigScreen(int id, int& neighbour) {
   if (RefuseProgramOwner(id)) return false;
   switch (ReportPersonDeletion(id)) {
     case DeletionReport::Stop:
@@ -85,7 +92,5 @@ bool DeleteCustomerFromRigScreen(int id) {
     case DeletionReport::GoOn:
       break;
   }
-  NeighbourAfterDeletion(id);
-  DeletePerson(id);
-  return true;
+  return DeleteTellingNeighbour(id, neighbour);
 }

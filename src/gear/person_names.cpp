@@ -54,6 +54,24 @@ bool DuplicateNameCheck(const QString& name, int& id) {
                 kProgramTitle);
 }
 
+int FindPersonByTypedName(const QString& typed) {
+  QString last;
+  QString first;
+  SplitName(typed, last, first);
+  int found = 0;
+  Operation(u"Function FindPersonByTypedName"_s, [&] {
+    for (const Recordset& person : Rows(u"Select * from tblPeople order by Lastname"_s)) {
+      const auto matches = [&](QStringView field, const QString& name) {
+        return person[field].ToText().trimmed().compare(name, Qt::CaseInsensitive) == 0;
+      };
+      if (!matches(u"LastName", last) || !(first.isEmpty() || matches(u"FirstName", first))) continue;
+      found = person[u"ID"].ToInt();
+      break;
+    }
+  });
+  return found;
+}
+
 void AddPersonByName(const QString& name, int& id) {
   Person person;
   SplitTypedName(name, person.lastName, person.firstName);

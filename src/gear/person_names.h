@@ -11,6 +11,9 @@ void SplitTypedName(const QString& name, QString& last, QString& first);
 /// or 0 when the person recognised the name in the list of equal last names that was shown.
 bool DuplicateNameCheck(const QString& name, int& id);
 
+/// The person whose last name, and first name if one was typed, is this; 0 for none.
+int FindPersonByTypedName(const QString& typed);
+
 /// Adds a person with nothing but a name.
 void AddPersonByName(const QString& name, int& id);
 

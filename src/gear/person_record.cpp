@@ -66,7 +66,7 @@ bool LoadPerson(int id, Person& person) {
 
 int InsertPerson(const Person& person) {
   int id = 0;
-  Operation(u"Function InsertPerson"_s, [&] {
+  const bool written = Operation(u"Function InsertPerson"_s, [&] {
     Recordset row(u"tblPeople"_s);
     row.AddNew();
     WriteFields(row, person);
@@ -74,7 +74,7 @@ int InsertPerson(const Person& person) {
     row.Update();
     id = row[u"ID"].ToInt();
   });
-  return id;
+  return written ? id : 0;
 }
 
 int SaveNewOwner(const Person& person, bool isProgramOwner) {

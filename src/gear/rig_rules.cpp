@@ -94,12 +94,14 @@ int FirstRigOf(int owner) { return LoadRigs(owner, 0).ids.value(0); }
 bool PhotosAreHidden() { return GetValueFromTableBySQL(u"tblMisc"_s, u"HidePhotos"_s).ToBool(); }
 
 void SetPhotosHidden(bool hidden) {
-  UpdateTableBySQL(u"update tblMisc set HidePhotos = "_s + (hidden ? u"true"_s : u"false"_s));
+  UnrecordedOperation(u"Sub SetPhotosHidden"_s, [&] {
+    UpdateTableBySQL(u"update tblMisc set HidePhotos = "_s + (hidden ? u"true"_s : u"false"_s));
+  });
 }
 
 QList<RigComponentRow> LoadRigComponents(int rig) {
   QList<RigComponentRow> rows;
-  Operation(u"Sub LoadRigComponents"_s, [&] {
+  Upkeep(u"Sub LoadRigComponents"_s, [&] {
     SetLastSystemID(rig);
     TellDoubledTypes(rig);
     for (int type : ComponentTypesOfRigType(RigType(rig))) rows << ReadRow(rig, type);
@@ -119,8 +121,7 @@ bool RenameRig(int rig) {
   // The rig's own name in other capitals is no other rig's.
   if (name.trimmed().toLower() != current.trimmed().toLower() && !NameIsFree(name, RigOwner(rig), Icon::None))
     return false;
-  SetRigName(rig, name);
-  return true;
+  return Operation(u"Sub RenameRig"_s, [&] { SetRigName(rig, name); });
 }
 
 bool ChangeRigOwner(int rig, int newOwner) {
@@ -131,15 +132,13 @@ bool ChangeRigOwner(int rig, int newOwner) {
                            ? u"Change rig owner from "_s + PersonDisplayName(owner) + u" to "_s + newName + u'?'
                            : u"Assign rig to "_s + newName + u'?';
   if (!AskYes(text, RigName(rig))) return false;
-  SetRigOwner(rig, newOwner);
-  return true;
+  return Operation(u"Sub ChangeRigOwner"_s, [&] { SetRigOwner(rig, newOwner); });
 }
 
 bool AssignRig(int rig, int owner) {
   if (!AskYes(u"Assign rig "_s + RigName(rig) + u" to "_s + PersonDisplayName(owner) + u'?', u"Assign Rig?"_s))
     return false;
-  SetRigOwner(rig, owner);
-  return true;
+  return Operation(u"Sub AssignRig"_s, [&] { SetRigOwner(rig, owner); });
 }
 
 bool ChangeRigType(int rig, int newType) {
@@ -150,8 +149,7 @@ bool ChangeRigType(int rig, int newType) {
                            ? u"Change rig type from "_s + RigTypeName(type) + u" to "_s + RigTypeName(newType) + u'?'
                            : QString();
   if (!AskYes(text, RigName(rig))) return false;
-  SetRigType(rig, newType);
-  return true;
+  return Operation(u"Sub ChangeRigType"_s, [&] { SetRigType(rig, newType); });
 }
 
 bool RemoveComponentFromRig(int rig, int component) {
@@ -160,15 +158,14 @@ bool RemoveComponentFromRig(int rig, int component) {
                      u"(component will still be in the database)"_s}),
               u"Remove "_s + ComponentTypeName(type) + u'?'))
     return false;
-  Operation(u"Sub RemoveComponentFromRig"_s, [&] {
+  return Operation(u"Sub RemoveComponentFromRig"_s, [&] {
     DetachComponent(rig, component, type);
     SetComponentRig(component, 0);
   });
-  return true;
 }
 
-void DeleteRig(int rig) {
-  Operation(u"Sub DeleteRig"_s, [&] {
+bool DeleteRig(int rig) {
+  return Operation(u"Sub DeleteRig"_s, [&] {
     DeleteRepackEntries(rig);
     DeleteRigRow(rig);
   });
@@ -177,21 +174,24 @@ void DeleteRig(int rig) {
 QString RigComment(int rig) { return GetValueFromTable(u"tblRig"_s, u"id"_s, rig, u"comment"_s).ToText(); }
 
 void SetRigComment(int rig, const QString& comment) {
-  UpdateTable(u"tblRig"_s, u"comment"_s, comment.trimmed().isEmpty() ? u" "_s : comment, u"id"_s, rig);
+  Operation({u"Sub SetRigComment"_s, u"Edit rig comment"_s}, [&] {
+    UpdateTable(u"tblRig"_s, u"comment"_s, comment.trimmed().isEmpty() ? u" "_s : comment, u"id"_s, rig);
+  });
 }
 
 bool InstallChosenComponent(int rig, int component, Date today) {
-  SetLastComponentID(component);
-  const int type = ComponentTypeOf(component);
-  if (!CheckMove(type, rig, component, false, today)) return false;
-  if (!CheckOwner(rig, component)) return false;
-  Operation(u"Sub InstallChosenComponent"_s, [&] {
+  bool installed = false;
+  const bool written = Operation(u"Sub InstallChosenComponent"_s, [&] {
+    SetLastComponentID(component);
+    const int type = ComponentTypeOf(component);
+    if (!CheckMove(type, rig, component, false, today) || !CheckOwner(rig, component)) return;
     if (ComponentRig(component) != rig) FreePlace(rig, type);
     SetComponentRig(component, rig);
     UpdateTable(u"tblPhotos"_s, u"rigid"_s, rig, u"componentid"_s, component);
+    CheckComponentType(component);
+    installed = true;
   });
-  CheckComponentType(component);
-  return true;
+  return written && installed;
 }
 
 int RepackPartnerInRig(int rig, int component) {

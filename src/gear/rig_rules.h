@@ -44,8 +44,8 @@ bool AssignRig(int rig, int owner);
 bool ChangeRigType(int rig, int newType);
 /// Takes a component out of a rig after a question; it stays in the database. True when it was taken out.
 bool RemoveComponentFromRig(int rig, int component);
-/// Deletes the rig and its repack entries. Its components keep pointing at it.
-void DeleteRig(int rig);
+/// Deletes the rig and its repack entries. Its components keep pointing at it. True when it is gone.
+bool DeleteRig(int rig);
 
 QString RigComment(int rig);
 void SetRigComment(int rig, const QString& comment);

@@ -48,7 +48,7 @@ int AddRigType() {
     return 0;
   }
   int id = 0;
-  Operation(u"Function AddRigType"_s, [&] {
+  const bool written = Operation(u"Function AddRigType"_s, [&] {
     Recordset types(u"tblRigTypes"_s);
     types.AddNew();
     types.Set(u"Name", name);
@@ -56,7 +56,7 @@ int AddRigType() {
     types.Update();
     id = types[u"ID"].ToInt();
   });
-  return id;
+  return written ? id : 0;
 }
 
 bool RenameRigType(int id) {
@@ -82,11 +82,11 @@ RigTypeDeletion DeleteRigType(int id) {
     return AskYes(text, u"Rig Type:  "_s + RigTypeName(id)) ? RigTypeDeletion::ShowRigs : RigTypeDeletion::Kept;
   }
   if (!AskYes(u"Delete "_s + RigTypeName(id) + u'?', u"Are you sure?"_s)) return RigTypeDeletion::Kept;
-  Operation(u"Sub DeleteRigType"_s, [&] {
+  const bool deleted = Operation(u"Sub DeleteRigType"_s, [&] {
     DeleteRecordsFromTable(u"tblRepackByType"_s, u"TypeID"_s, id);
     DeleteRecordsFromTable(u"tblRigTypes"_s, u"id"_s, id);
   });
-  return RigTypeDeletion::Deleted;
+  return deleted ? RigTypeDeletion::Deleted : RigTypeDeletion::Kept;
 }
 
 bool SetComponentTypesOfRigType(int id, const QList<int>& types, bool listIsEmpty) {

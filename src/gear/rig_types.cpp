@@ -6,6 +6,9 @@
 using namespace Qt::StringLiterals;
 
 QString RigTypeName(int id) { return GetValueFromTable(u"tblrigTypes"_s, u"ID"_s, id, u"name"_s).ToText(); }
+bool RigTypeExists(int id) {
+  return id != 0 && GetValueFromTable(u"tblRigTypes"_s, u"ID"_s, id, u"ID"_s).ToInt() == id;
+}
 
 int ReserveLocation(int id) {
   return GetValueFromTableBySQL(u"Select * from tblRigTypes where id = "_s + QString::number(id), u"ReserveLocation"_s)

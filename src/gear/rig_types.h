@@ -5,6 +5,7 @@
 /// A rig type says which component types a rig is built from, and where its reserve sits.
 
 QString RigTypeName(int id);
+bool RigTypeExists(int id);
 /// 1 back, 2 seat, 3 chest, 4 other; 0 as long as none was chosen.
 int ReserveLocation(int id);
 bool RigTypeHasComponentType(int rigType, int componentType);

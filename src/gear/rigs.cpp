@@ -49,7 +49,7 @@ bool RigNameIsTaken(const QString& name, int owner, QString* list) {
 
 int CreateRig(int owner, int type, const QString& name) {
   int id = 0;
-  Operation(u"Function CreateRig"_s, [&] {
+  const bool written = Operation(u"Function CreateRig"_s, [&] {
     Recordset rigs(u"tblRig"_s);
     rigs.AddNew();
     rigs.Set(u"OwnerID", owner);
@@ -59,7 +59,7 @@ int CreateRig(int owner, int type, const QString& name) {
     rigs.Update();
     id = rigs[u"ID"].ToInt();
   });
-  return id;
+  return written ? id : 0;
 }
 
 void DeleteRigRow(int id) { DeleteRecordsFromTableBySQL(u"Delete * from tblRig where id = "_s + QString::number(id)); }

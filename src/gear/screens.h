@@ -74,7 +74,7 @@ int PickComponentBySerial(int componentType = 0, const QString& serial = {});
 /// was chosen.
 int PickComponent(int componentType, int owner = 0);
 
-/// Tells the picker how people, rigs and gear are added and deleted.
+/// Tells the picker how people, places, rigs and gear are listed, added and deleted.
 void RegisterGearPickers();
 
 /// Shows the places of the shop; the one that was chosen, 0 for none. `location` is selected when the screen opens.

@@ -3,6 +3,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;
@@ -17,7 +18,8 @@ ServiceLifeEntry ServiceLifeOfModel(int model) {
 int ServiceLifeMonths(const QString& number, bool inYears) { return Value(Val(number) * (inYears ? 12 : 1)).ToInt(); }
 
 void SaveServiceLife(int model, int months) {
-  UpdateTableBySQL(u"update tblModels set ServiceLife = %1 where id = %2"_s.arg(months).arg(model));
+  Operation(u"Sub SaveServiceLife"_s,
+            [&] { UpdateTableBySQL(u"update tblModels set ServiceLife = %1 where id = %2"_s.arg(months).arg(model)); });
 }
 
 void ShowServiceLifeHelp() {

@@ -60,6 +60,12 @@ bool ComponentFits(const HistoryView& view, int taskLibID) {
   return false;
 }
 
+/// Of a rig or a component that has gone the history can only be read.
+bool StillThere(const HistoryView& view) {
+  if (view.mode == HistoryMode::Component) return ComponentExists(view.componentID);
+  return view.rigID == 0 || RigExists(view.rigID);
+}
+
 bool MayBeAdded(const HistoryView& view, int taskLibID) {
   if (view.mode != HistoryMode::Rig) return ComponentFits(view, taskLibID);
   return view.rigID == 0 || RigHasWhatItRequires(view.rigID, taskLibID);
@@ -92,7 +98,7 @@ HistoryView HistoryViewOfComponent(int componentID) {
 }
 
 bool AddHistoryEntry(const HistoryView& view, int taskLibID, const QString& dateText) {
-  if (taskLibID < 1) return false;
+  if (taskLibID < 1 || !StillThere(view)) return false;
   if (taskLibID == InstallTaskLibID || taskLibID == RemoveTaskLibID) {
     MsgBox(Lines({u"The task '%1' cannot be added to a rig's history. "_s.arg(TaskLibName(taskLibID)), QString(),
                   u"This task can only be added during a job"_s}));

@@ -26,7 +26,7 @@ HistoryView HistoryViewOfComponent(int componentID);
 /// Adds a library entry that was done on a day, as a completed line without a job, on the gear that it requires: that
 /// of the rig, or the one component that is viewed. The schedule follows. Each refusal shows its box: gear is only
 /// installed and removed during a job, the rig must have what the entry requires, and a single component can't take
-/// an entry of another type or model. False when nothing was written.
+/// an entry of another type or model. False when nothing was written, as to a rig or component that has gone.
 bool AddHistoryEntry(const HistoryView& view, int taskLibID, const QString& dateText);
 
 /// Asks, then deletes an entry that belongs to no job. The schedule goes back to the entry before it. True when it was

@@ -29,6 +29,8 @@ QString JobTitle(int jobID) { return JobField(jobID, u"JobTitle"_s).ToText(); }
 QString JobComments(int jobID) { return JobField(jobID, u"Comments"_s).ToText(); }
 bool JobExists(int jobID) { return JobField(jobID, u"ID"_s).ToInt() != 0; }
 
+bool JobsExist() { return GetNumberRecordsInTable(u"tblJobs"_s) > 0; }
+
 void SetJobDateStarted(int jobID, Date date) { SetJobField(jobID, u"DateStarted"_s, date); }
 void SetJobDatePromised(int jobID, Date date) { SetJobField(jobID, u"DatePromised"_s, date); }
 void SetJobDateCompleted(int jobID, Date date) { SetJobField(jobID, u"DateCompleted"_s, date); }

@@ -17,6 +17,7 @@ Date JobDateCompleted(int jobID);
 QString JobTitle(int jobID);
 QString JobComments(int jobID);
 bool JobExists(int jobID);
+bool JobsExist();  ///< any at all
 
 void SetJobDateStarted(int jobID, Date date);
 void SetJobDatePromised(int jobID, Date date);

@@ -87,5 +87,5 @@ QList<int> SelectMultipleTasks();
 /// Lets a person choose one of the components that a line touched; 0 when none was chosen.
 int SelectComponentOfTask(int taskID);
 
-/// Tells the picker how tasks are added and deleted.
-void RegisterLibraryPicker();
+/// Tells the picker how jobs, invoices and the library are listed, added to and deleted from.
+void RegisterJobPickers();

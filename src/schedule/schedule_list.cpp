@@ -120,7 +120,7 @@ void OfferToDeleteLostRows() {
 
 QList<ScheduleEntry> LoadSchedule(const ScheduleFilter& filter) {
   QList<ScheduleEntry> list;
-  Operation(u"Sub LoadSchedule"_s, [&] {
+  Upkeep(u"Sub LoadSchedule"_s, [&] {
     OfferToDeleteLostRows();
     list = Loader(filter).Load();
   });
@@ -135,6 +135,5 @@ QString LoadComponent(int componentID) {
 
 bool DeleteScheduleEntry(int id, const QString& rigName) {
   if (id == kServiceLifeRow || !AskYes(u"Delete this item from the schedule?"_s, rigName)) return false;
-  DeleteRecordsFromTable(u"tblSchedules"_s, u"ID"_s, id);
-  return true;
+  return Operation(u"Sub DeleteScheduleEntry"_s, [&] { DeleteRecordsFromTable(u"tblSchedules"_s, u"ID"_s, id); });
 }

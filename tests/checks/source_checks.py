@@ -69,6 +69,28 @@ def include_faults(path, text):
             yield f"{path}:{number}: {found.group(1)} is closed here: go through the doors in its screens.h"
 
 
+def shown_tables(text):
+    """The places of the text that say which tables a screen shows."""
+    for start in re.finditer(r"\bShowsTables\(\)[^;{]*\{|\.tables = \{", text):
+        depth, end = 1, start.end()
+        while depth and end < len(text):
+            depth += {"{": 1, "}": -1}.get(text[end], 0)
+            end += 1
+        yield range(start.start(), end)
+
+
+def store_faults(path, text):
+    """Screens ask rules for values: they neither read nor write the store, and name a table only to say what they show.
+    (The screens of jobs are on their way there.)"""
+    if not re.search(r"^src/.*/(screens|shell)/.*\.(cpp|h)$", path) or path.startswith("src/jobs/screens/"):
+        return
+    shown = list(shown_tables(text))
+    for found in re.finditer(r'#\s*include\s*"core/store/(access|recordset)\.h"|"[^"\n]*\btbl\w+', text, re.IGNORECASE):
+        if not any(found.start() in place for place in shown):
+            number = text.count("\n", 0, found.start()) + 1
+            yield f"{path}:{number}: {found.group()}: screens leave the tables to the rules"
+
+
 def property_of(widget, name):
     value = widget.find(f"property[@name='{name}']")
     return "".join(value.itertext()).strip() if value is not None else ""
@@ -110,6 +132,7 @@ def faults_of(root, clang_format):
         paths.append(path)
         yield from line_faults(path, text)
         yield from include_faults(path, text)
+        yield from store_faults(path, text)
         yield from form_faults(path, text)
     yield from format_faults(root, paths, clang_format)
 

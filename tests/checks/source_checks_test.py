@@ -22,6 +22,11 @@ BAD = [
     ("src/gear/screens/a.cpp", '#include "jobs/screens/frmJob.h"\n', "doors in its screens.h"),
     ("src/gear/screens/a.cpp", '#include "core/shell/frmMenu.h"\n', "the shell stands above everything"),
     ("src/gear/a.cpp", '#include "gear/screens/frmRig.h"\n', "doors in its screens.h"),
+    ("src/gear/screens/a.cpp", '#include "core/store/access.h"\n', "leave the tables to the rules"),
+    ("src/core/shell/a.cpp", '#include "core/store/recordset.h"\n', "leave the tables to the rules"),
+    ("src/gear/screens/rigs/a.cpp", 'int a = Count(u"select * from tblRig"_s);\n', "leave the tables to the rules"),
+    ("src/gear/screens/a.cpp", 'QStringList A::ShowsTables() const { return {u"tblRig"_s}; }\nint b = Count(u"TblMisc"_s);\n',
+     ":2: "),
     ("src/gear/a.cpp", "int a = SIG" "NAL(clicked());\n", "pointers to members"),
     ("tests/gear/a.cpp", "int a = SL" "OT(close());\n", "pointers to members"),
     ("tests/gear/tst_a.cpp", "int a = QSK" "IP;\n", "a test tests"),
@@ -41,6 +46,9 @@ BAD = [
     ("src/gear/screens/a.ui", UI % ('<widget class="QToolButton" name="b"/>', ""), "a button has"),
 ]
 GOOD = [
+    ("src/gear/screens/a.cpp", 'QStringList A::ShowsTables() const { return B() + QStringList{u"tblRig"_s}; }\n'),
+    ("src/gear/screens/a.cpp", 'PickerKind Rigs() { return {.tables = {u"tblRig"_s}}; }\n'),
+    ("src/gear/a.cpp", 'int a = Count(u"select * from tblRig"_s);\n'),
     ("src/core/widgets/qt_prompts.cpp", "QMessageBox box;\n"),
     ("src/main.cpp", "#include <QApplication>\n"),
     ("src/gear/screens/a.cpp", '#include "gear/screens/frmRig.h"\n#include "jobs/screens.h"\n'),

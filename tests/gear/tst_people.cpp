@@ -1,6 +1,8 @@
 #include <QtTest>
 
+#include "core/store/undo.h"
 #include "gear/people.h"
+#include "gear/person_record.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"
@@ -188,6 +190,17 @@ class TestPeople : public QObject {
     loft.Run(u"update tblPeople set rigger = true"_s);
     QCOMPARE(NumberOfRiggers(), 2);
     QCOMPARE(EffectiveRigger(), bob);
+  }
+
+  void WhatIsPutRightWhileReadingIsTakenBackWithTheOperationBeforeIt() {
+    ThrowAwayLoft loft;
+    const int ann = Person(loft, "Ann", "Jones");
+    const QStringList before = loft.Snapshot();
+    SetRiggerFlag(ann, true);
+    for (int times = 0; times < 2; ++times) QCOMPARE(EffectiveRigger(), ann);
+    QCOMPARE(RecentOperations().size(), 1);
+    QVERIFY(UndoOperation());
+    QCOMPARE(loft.ChangesSince(before), QStringList());
   }
 };
 

@@ -245,7 +245,7 @@ class TestPersonRules : public QObject {
     QVERIFY(!DeleteCustomer(id, neighbour));
     prompts.ExpectBox(u"Can't delete program owner"_s,
                       u"Ann Jones is the Loftkeep program owner.\n\nYou cannot delete the program owner."_s);
-    QVERIFY(!DeleteCustomerFromRigScreen(id));
+    QVERIFY(!DeleteCustomerFromRigScreen(id, neighbour));
     QCOMPARE(loft.ChangesSince(before), QStringList());
   }
 
@@ -309,13 +309,15 @@ class TestPersonRules : public QObject {
   void TheRigScreenAsksOnlyWhenNothingIsTied() {
     ThrowAwayLoft loft;
     const int ann = Named(u"Ann Jones"_s);
-    Named(u"Bob Smith"_s);
+    const int bob = Named(u"Bob Smith"_s);
+    int neighbour = 0;
     ScriptedPrompts prompts;
     prompts.Expect(u"Delete customer?"_s, u"Are you sure you want to delete Ann Jones"_s, Answer::No);
-    QVERIFY(!DeleteCustomerFromRigScreen(ann));
+    QVERIFY(!DeleteCustomerFromRigScreen(ann, neighbour));
     QVERIFY(PersonExists(ann));
     prompts.Expect(u"Delete customer?"_s, u"Are you sure you want to delete Ann Jones"_s, Answer::Yes);
-    QVERIFY(DeleteCustomerFromRigScreen(ann));
+    QVERIFY(DeleteCustomerFromRigScreen(ann, neighbour));
+    QCOMPARE(neighbour, bob);
     QVERIFY(!PersonExists(ann));
   }
 
@@ -328,13 +330,14 @@ class TestPersonRules : public QObject {
         "It is recommended that you NOT delete this\ncustomer.\n\n"
         "Do you want to delete this customer anyway?\n(rigs, components, jobs, and tasks will not be deleted)"_s;
     const QStringList before = loft.Snapshot();
+    int neighbour = 0;
     ScriptedPrompts prompts;
     prompts.Expect(u"Deletion NOT recommended"_s, text, Answer::No);
-    QVERIFY(!DeleteCustomerFromRigScreen(ann));
+    QVERIFY(!DeleteCustomerFromRigScreen(ann, neighbour));
     QCOMPARE(loft.ChangesSince(before), QStringList());
     prompts.Expect(u"Deletion NOT recommended"_s, text, Answer::Yes);
     prompts.ExpectBox(u"Customer database will be empty"_s, u"This is the only customer in the database"_s);
-    QVERIFY(DeleteCustomerFromRigScreen(ann));
+    QVERIFY(DeleteCustomerFromRigScreen(ann, neighbour));
     QCOMPARE(loft.TouchedSince(before), QStringList({u"+tblRig|1"_s, u"-tblPeople|1"_s, u"-tblRig|1"_s}));
     QCOMPARE(loft.Rows(u"select OwnerID from tblRig"_s), QStringList(u"0"_s));
   }

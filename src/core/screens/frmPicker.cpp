@@ -2,14 +2,8 @@
 
 #include <QKeyEvent>
 
-#include "core/default_rows.h"
-#include "core/picker.h"
 #include "core/prompts.h"
-#include "core/screens/picker_rows.h"
 #include "core/screens/ui_frmPicker.h"
-#include "core/store/access.h"
-#include "core/trap.h"
-#include "gear/models.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,20 +30,25 @@ void frmPicker::SetShowDefaultBox(bool show, const QString& caption) {
 
 bool frmPicker::DefaultChecked() const { return ui_->chkDefault->isChecked(); }
 
+const PickerKind& frmPicker::Kind() const { return PickerKindOf(doingComponents_ ? int{kPickMiscItem} : pickerType_); }
+
+QStringList frmPicker::ShowsTables() const { return Kind().tables; }
+
 void frmPicker::Load() {
-  if (doingComponents_) {
-    setWindowTitle(u"Select "_s + ComponentTypeName(modelTypeId_) + u" model"_s);
-    ui_->lst->Fill(PickerModelRows(modelTypeId_));
-  } else {
-    const std::optional<QString> title = PickerTitle(pickerType_);
-    if (!title) MsgBox(u"need to set form caption for this type"_s);
-    setWindowTitle(title.value_or(QString()));
-    ui_->lst->Fill(PickerRows(pickerType_));
-  }
-  const bool leaves = pickerType_ == kPickCustomer || pickerType_ == kPickRigger;
-  ui_->cmdCancel->setText(leaves ? u"E&xit"_s : u"&Cancel"_s);
-  ui_->cmdDelete->setVisible(static_cast<bool>(OwnerOf(pickerType_).remove));
+  const PickerKind& kind = Kind();
+  if (!kind.title) MsgBox(u"need to set form caption for this type"_s);
+  setWindowTitle(kind.title ? kind.title(ListedType()) : QString());
+  if (!kind.rows) MsgBox(u"see DoingComponents (above)"_s, u"didn't allow for this type"_s);
+  ui_->lst->Fill(LoadRows());
+  ui_->cmdCancel->setText(kind.cancelIsExit ? u"E&xit"_s : u"&Cancel"_s);
+  ui_->cmdDelete->setVisible(static_cast<bool>(kind.remove));
 }
+
+void frmPicker::ReloadForm() { ui_->lst->Refill(LoadRows()); }
+
+int frmPicker::ListedType() const { return doingComponents_ ? modelTypeId_ : 0; }
+
+IdList frmPicker::LoadRows() const { return Kind().rows ? Kind().rows(ListedType()) : IdList(); }
 
 void frmPicker::SelectPresent(int id) {
   if (id > 0 && ui_->lst->SelectData(id)) ShowRowText(ui_->lst->ListIndex());
@@ -73,9 +72,7 @@ void frmPicker::Select() {
   const QString typed = ui_->txt->text().trimmed();
   if (row >= 0) {
     const int id = ui_->lst->ItemData(row);
-    if (pickerType_ == kPickCustomer && id > 0) {
-      UpdateTableBySQL(u"update tblMisc set LastCustomerID = "_s + QString::number(id));
-    }
+    if (Kind().chosen && id > 0) Kind().chosen(id);
     Return(id, ui_->lst->ItemText(row));
   } else if (!typed.isEmpty()) {
     SelectUnmatched(typed);
@@ -83,83 +80,49 @@ void frmPicker::Select() {
 }
 
 void frmPicker::SelectUnmatched(const QString& text) {
-  const QString noun = PickerNoun(pickerType_, modelTypeId_);
-  switch (pickerType_) {
-    case kPickMiscItem:
-    case kPickLocation:
-      OfferToAdd(text, noun + u" database"_s);
-      break;
-    case kPickTask:
-      OfferToAdd(text, noun + u" library"_s);
-      break;
-    case kPickCustomer:
-      SelectPersonByName(text);
-      break;
-    case kPickJob:
-    case kPickInvoice:
-      Return(kPickCancelled, QString());
-      break;
-    case kPickGearReport:
-      MsgBox(u"There isn't a gear list named '"_s + text + u'\'', u"Sorry....."_s);
-      break;
-    case kPickRigger:
-      MsgBox(Lines({u"There isn't a rigger named '"_s + text + u'\'', QString(),
-                    u"You can designate a person as a rigger from the"_s, u"customers form"_s}),
-             u"Can't add new rigger here"_s);
-      break;
-    case kPickComponentType:
-      MsgBox(Lines({u"There isn't a component type called "_s + text, QString(),
-                    u"To add a new component type, access the SETUP menu"_s}),
-             u"No such component type"_s);
-      break;
-    default:
-      MsgBox(u"Type = "_s + QString::number(pickerType_), u"didn't allow for this type"_s);
+  const PickerKind& kind = Kind();
+  if (const int id = kind.find ? kind.find(text) : 0; id != 0) {
+    ui_->lst->SelectData(id);
+    Select();
+  } else if (kind.offersToAdd) {
+    OfferToAdd(text);
+  } else if (kind.endsUnmatched) {
+    Return(kPickCancelled, QString());
+  } else if (kind.tellUnmatched) {
+    kind.tellUnmatched(text);
+  } else {
+    MsgBox(u"Type = "_s + QString::number(pickerType_), u"didn't allow for this type"_s);
   }
 }
 
-void frmPicker::SelectPersonByName(const QString& text) {
-  const int id = FindPersonByTypedName(text);
-  if (id == 0) {
-    OfferToAdd(text, PickerNoun(pickerType_, modelTypeId_) + u" database"_s);
-    return;
-  }
-  ui_->lst->SelectData(id);
-  Select();
-}
-
-void frmPicker::OfferToAdd(const QString& text, const QString& database) {
-  const QString missing = u"Can't find '"_s + text + u"' anywhere in the "_s + database;
-  const auto& add = OwnerOf(pickerType_).add;
-  if (!add) {
+void frmPicker::OfferToAdd(const QString& text) {
+  const PickerKind& kind = Kind();
+  const QString noun = kind.noun(modelTypeId_);
+  const QString missing = u"Can't find '"_s + text + u"' anywhere in the "_s + noun + u' ' + kind.whole;
+  if (!kind.add) {
     MsgBox(missing);
     return;
   }
-  const QString noun = PickerNoun(pickerType_, modelTypeId_);
   if (!AskYes(Lines({missing, QString(), u"Would you like to add a new "_s + noun + u'?'}),
-              u"Add new "_s + noun + u'?')) {
+              u"Add new "_s + noun + u'?'))
     return;
-  }
-  const int id = add(text, modelTypeId_ > 0 ? modelTypeId_ : pickerType_);
+  const int id = kind.add(text, modelTypeId_);
   if (id <= 0) return;
-  Load();
+  ReloadForm();
   SelectPresent(id);
 }
 
 void frmPicker::Delete() {
+  const PickerKind& kind = Kind();
   const int row = ui_->lst->ListIndex();
   const int id = ui_->lst->ItemData(row);
-  if (row < 0 || id <= 0) return;
-  const PickerOwner& owner = OwnerOf(pickerType_);
-  if (pickerType_ == kPickTask && (id == RepackTaskLibID || id == InstallTaskLibID || id == RemoveTaskLibID)) {
-    MsgBox(u"You cannot delete this task type.  You can only edit it."_s);
-    return;
-  }
-  const QString question = pickerType_ == kPickGearReport ? u"Are you sure you want to delete this report?"_s
-                                                          : u"Delete "_s + ui_->lst->ItemText(row) + u'?';
-  if (!owner.removeAsks && !AskYes(question, kProgramTitle)) return;
-  if (!owner.remove(id)) return;
+  if (row < 0 || id <= 0 || (kind.mayRemove && !kind.mayRemove(id))) return;
+  const QString question =
+      kind.removeQuestion.isEmpty() ? u"Delete "_s + ui_->lst->ItemText(row) + u'?' : kind.removeQuestion;
+  if (!kind.removeAsks && !AskYes(question, kProgramTitle)) return;
+  if (!kind.remove(id)) return;
+  ReloadForm();
   ui_->txt->clear();
-  Load();
 }
 
 void frmPicker::Return(int id, const QString& text) {

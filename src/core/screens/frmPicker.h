@@ -1,6 +1,7 @@
 #pragma once
 #include <memory>
 
+#include "core/picker.h"
 #include "core/widgets/form.h"
 
 namespace Ui {
@@ -23,6 +24,9 @@ class frmPicker : public Form {
   void Load();                 ///< the rows and the title
   void SelectPresent(int id);  ///< the row that is selected when the list opens
 
+  void ReloadForm() override;  ///< the rows: what is typed and selected stays
+  QStringList ShowsTables() const override;
+
   int SelectedID() const { return selectedId_; }  ///< -1 when nothing was found, 0 for cancel
   QString SelectedText() const { return selectedText_; }
   bool DefaultChecked() const;
@@ -32,12 +36,14 @@ class frmPicker : public Form {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  const PickerKind& Kind() const;
+  int ListedType() const;  ///< the component type whose models are listed, 0 for none
+  IdList LoadRows() const;
   void FindTyped(const QString& typed);
   void ShowRowText(int row);
   void Select();
   void SelectUnmatched(const QString& text);
-  void SelectPersonByName(const QString& text);
-  void OfferToAdd(const QString& text, const QString& database);
+  void OfferToAdd(const QString& text);
   void Delete();
   void Return(int id, const QString& text);
 

@@ -5,39 +5,27 @@
 #include "core/screens/frmPicker.h"
 #include "core/screens/frmStandBy.h"
 #include "core/stand_by.h"
+#include "core/widgets/modal_use.h"
 #include "core/widgets/screen_routines.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString DefaultCaption(int pickerType) {
-  switch (pickerType) {
-    case kPickLocation:
-      return u"Save as default location"_s;
-    case kPickRigger:
-      return u"Save as default rigger"_s;
-    default:
-      return u"Save as default"_s;
-  }
-}
-
 Picked RunPicker(int pickerType, int modelTypeId, int presentId, bool withDefault) {
-  auto& picker = SharedForm<frmPicker>();
-  picker.SetPickerType(pickerType);
-  picker.SetModelTypeID(modelTypeId);
-  picker.SetDoingComponents(modelTypeId != 0 && modelTypeId != kPickMiscItem);
-  picker.SetShowDefaultBox(withDefault, DefaultCaption(pickerType));
-  picker.Load();
-  picker.SelectPresent(presentId);
-  picker.SetCaller(dynamic_cast<QWidget*>(Forms::Find(u"frmJob"_s)));
-  picker.ShowModal();
-  Picked picked;
-  if (picker.Tag() != "cancel"_L1) {
-    picked = {picker.SelectedID(), picker.SelectedText(), withDefault && picker.DefaultChecked()};
-  }
-  picker.UnloadForm();
-  return picked;
+  const ModalUse<frmPicker> picker;
+  if (!picker) return {};
+  const QString& caption = PickerKindOf(pickerType).defaultCaption;
+  picker->SetPickerType(pickerType);
+  picker->SetModelTypeID(modelTypeId);
+  picker->SetDoingComponents(modelTypeId != 0 && modelTypeId != kPickMiscItem);
+  picker->SetShowDefaultBox(withDefault, caption.isEmpty() ? u"Save as default"_s : caption);
+  picker->Load();
+  picker->SelectPresent(presentId);
+  picker->SetCaller(dynamic_cast<QWidget*>(Forms::Find(u"frmJob"_s)));
+  picker->ShowModal();
+  if (picker->Tag() == "cancel"_L1) return {};
+  return {picker->SelectedID(), picker->SelectedText(), withDefault && picker->DefaultChecked()};
 }
 
 }  // namespace
@@ -51,23 +39,21 @@ Picked PickItemWithDefault(int pickerType, int modelTypeId, int presentId) {
 }
 
 int ShowMessageForm(const QString& title, const QString& myText, const QStringList& captions, int buttonType) {
-  auto& form = SharedForm<frmMessage>();
-  form.SetText(title, myText);
-  if (form.SetButtons(buttonType, captions)) form.ShowModal();
-  const int pressed = form.Pressed();
-  form.UnloadForm();
-  return pressed;
+  const ModalUse<frmMessage> form;
+  if (!form) return 0;
+  form->SetText(title, myText);
+  if (form->SetButtons(buttonType, captions)) form->ShowModal();
+  return form->Pressed();
 }
 
 std::optional<QString> EditComments(const QString& heading, const QString& text, const QString& title) {
-  auto& form = SharedForm<frmComments>();
-  form.setWindowTitle(title);
-  form.SetComments(heading, text);
-  form.ShowModal();
-  std::optional<QString> saved;
-  if (form.Saved()) saved = form.Text();
-  form.UnloadForm();
-  return saved;
+  const ModalUse<frmComments> form;
+  if (!form) return std::nullopt;
+  form->setWindowTitle(title);
+  form->SetComments(heading, text);
+  form->ShowModal();
+  if (!form->Saved()) return std::nullopt;
+  return form->Text();
 }
 
 void InstallStandByNotice() {

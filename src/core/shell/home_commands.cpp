@@ -13,14 +13,16 @@
 #include "core/shell/start_up.h"
 #include "core/shell/support_listing.h"
 #include "core/shell/window_habits.h"
-#include "core/store/access.h"
+#include "core/store/connection.h"
 #include "core/store/undo.h"
 #include "core/widgets/screen_routines.h"
 #include "core/widgets/undo_keys.h"
 #include "dbcare/check_fields.h"
 #include "dbcare/screens.h"
+#include "gear/person_record.h"
 #include "gear/screens.h"
 #include "history/screens.h"
+#include "jobs/job_records.h"
 #include "jobs/repack_price.h"
 #include "jobs/screens.h"
 #include "reports/screens.h"
@@ -66,11 +68,9 @@ void ShowCustomers() { OpenPeople(); }
 
 void AddCustomer() { OpenPeople(kPeopleAddNew); }
 
-int LastCustomer() { return GetValueFromTableBySQL(u"tblMisc"_s, u"LastCustomerID"_s).ToInt(); }
+void ShowRigDatabase() { OpenRigs({.customer = LastCustomerID()}); }
 
-void ShowRigDatabase() { OpenRigs({.customer = LastCustomer()}); }
-
-void ShowRigsPlainly() { OpenRigs({.customer = LastCustomer(), .hideButtons = true}); }
+void ShowRigsPlainly() { OpenRigs({.customer = LastCustomerID(), .hideButtons = true}); }
 
 void LookUpSerialNumber() {
   if (const int component = PickComponentBySerial(); component != 0) ShowComponent(component);
@@ -83,7 +83,7 @@ void StartJobForCustomer() {
 }
 
 void ShowLastJob() {
-  if (GetNumberRecordsInTable(u"tblJobs"_s) > 0) ShowJob();
+  if (JobsExist()) ShowJob();
 }
 
 void ShowJobList() { OpenJobList(); }

@@ -16,7 +16,6 @@
 #include "core/shell/frmSplash.h"
 #include "core/shell/window_habits.h"
 #include "core/stand_by.h"
-#include "core/store/access.h"
 #include "core/store/operation.h"
 #include "core/trap.h"
 #include "core/widgets/screen_routines.h"
@@ -107,10 +106,8 @@ bool ImportOnFirstRun() {
 }
 
 void AskForOwner() {
-  int owner = 0;
   MsgBox(Lines({u"Please enter your name"_s, QString(), u"Press OK to continue"_s}), u"Your Information"_s);
-  while ((owner = ShowPeople(kPeopleAddNew, true)) < 1) MsgBox(u"You must enter a user name"_s);
-  UpdateTableBySQL(u"update tblMisc set UserID = "_s + QString::number(owner));
+  while (ShowPeople(kPeopleAddNew, true) < 1) MsgBox(u"You must enter a user name"_s);
 }
 
 frmMain2& ShowHomePage() {
@@ -144,7 +141,7 @@ void LeaveDataFolder() { folderLock.reset(); }
 
 bool SubMain() {
   RegisterGearPickers();
-  RegisterLibraryPicker();
+  RegisterJobPickers();
   ConnectionCount = 0;
   DiagnosticMode = ExistFile(u"diag.txt"_s);
   if (DiagnosticMode) MsgBox(u"Diagnostic mode is on!"_s, u"diag.txt file found"_s);
@@ -236,7 +233,7 @@ void FirstRunSetup(bool forNewDatabase) {
 
 void CheckDatabaseOnStart() {
   UnrecordedOperation(u"Sub CheckDatabaseOnStart"_s, [] {
-    if (GetNumberRecordsInTable(u"tblMisc"_s) == 0) {
+    if (!HasMiscRow()) {
       const int answer = static_cast<int>(
           Val(InputBox(u"How many days for reserve repack cycle?"_s, u"Enter reserve repack cycle"_s, u"180"_s)));
       constexpr int kHighest = 32767;

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QScrollBar>
 
 int List::Model::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows.Size());
@@ -59,6 +60,21 @@ void List::Fill(const IdList& rows) {
   filling_ = true;
   model_.Fill(rows);
   filling_ = false;
+}
+
+bool List::Refill(const IdList& rows) {
+  if (rows.ids == model_.rows.ids && rows.texts == model_.rows.texts) return true;
+  const QSignalBlocker quiet(this);
+  const bool selected = ListIndex() >= 0;
+  const int id = ItemData(ListIndex());
+  const QList<int> ticked = TickedData();
+  const int top = verticalScrollBar()->value();
+  Fill(rows);
+  TickData(ticked);
+  const int row = selected ? FindData(id) : -1;
+  if (row >= 0) selectionModel()->setCurrentIndex(model_.index(row), QItemSelectionModel::ClearAndSelect);
+  verticalScrollBar()->setValue(top);
+  return row >= 0 || !selected;
 }
 
 void List::AddItem(const QString& text, int id) { model_.Add(text, id); }

@@ -16,12 +16,16 @@ class List : public QListView {
   ~List() override;
 
   void Fill(const IdList& rows);  ///< nothing is selected afterwards
+  /// Fills anew below a person's hands, without telling: what was selected, ticked and in view stays so, by its id.
+  /// False when the selected row has gone; nothing is selected then.
+  bool Refill(const IdList& rows);
   void Clear() { Fill({}); }
   void AddItem(const QString& text, int id = 0);
   int Count() const { return model_.rowCount(); }
   QString ItemText(int row) const;  ///< empty where there is no such row
   int ItemData(int row) const;      ///< the row's id, 0 where there is no such row
-  int FindData(int id) const;       ///< -1 when no row stands for it
+  QList<int> Ids() const { return model_.rows.ids; }
+  int FindData(int id) const;  ///< -1 when no row stands for it
 
   int ListIndex() const;  ///< the selected row, -1 for none
   void SetListIndex(int row, ScrollHint hint = EnsureVisible);

@@ -27,8 +27,14 @@ void ScheduleGrid::SetUp(Grid& grid) {
   grid.SetMemory(u"scheduled-tasks"_s);
 }
 
+QStringList ScheduleGrid::ShowsTables() {
+  return {u"tblSchedules"_s, u"tblTaskLib"_s,    u"tblTaskLibComponentTypes"_s, u"tblTaskLibRigType"_s, u"tblTasks"_s,
+          u"tblRig"_s,       u"tblComponents"_s, u"tblTaskComponents"_s,        u"tblModels"_s};
+}
+
 void ScheduleGrid::Fill(Grid& grid, const QList<RigAuditRow>& audit) {
   const QString selected = grid.Text(grid.CurrentRow(), 0);
+  const int entry = grid.RowData(grid.CurrentRow());
   std::vector<GridRow> rows;
   for (const RigAuditRow& row : audit) {
     GridRow shown{.cells = {row.name, row.dateDone, row.dateDue, row.timeLeft, QString::number(row.taskLibID)},
@@ -42,7 +48,8 @@ void ScheduleGrid::Fill(Grid& grid, const QList<RigAuditRow>& audit) {
   }
   grid.Fill(std::move(rows));
   for (int row = 0; row < grid.RowCount(); ++row)
-    if (!selected.isEmpty() && grid.Text(row, 0) == selected) grid.SelectCell(row, 0);
+    if (!selected.isEmpty() && grid.RowData(row) == entry && (entry > 0 || grid.Text(row, 0) == selected))
+      grid.SelectCell(row, 0);
 }
 
 int ScheduleGrid::EntryToUpdate(Grid& grid) {

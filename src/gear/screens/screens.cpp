@@ -1,6 +1,7 @@
 #include "gear/screens.h"
 
 #include "core/prompts.h"
+#include "core/widgets/modal_use.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/screens/catalogue/frmModel.h"
@@ -21,12 +22,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 EnteredComponent EditEntry(const ComponentEntry& entry) {
-  auto& form = SharedForm<frmComponentEdit>();
-  form.SetEntry(entry);
-  form.ShowModal();
-  const EnteredComponent result{form.Result(), form.Tag() == "save"_L1};
-  form.UnloadForm();
-  return result;
+  const ModalUse<frmComponentEdit> form;
+  if (!form) return {};
+  form->SetEntry(entry);
+  form->ShowModal();
+  return {form->Result(), form->Tag() == "save"_L1};
 }
 
 }  // namespace
@@ -35,20 +35,22 @@ int ShowPeople(int start, bool ownerSetup) {
   auto& form = SharedForm<frmPeople>();
   if (form.FormIsShown()) {
     form.Show();
-    return form.CurrentPerson();
+    return form.GoTo(start);
   }
   form.SetStart(start);
   form.SetOwnerSetup(ownerSetup);
   form.ShowModal();
-  const int person = qMax(form.CurrentPerson(), 0);
+  const int person = ownerSetup ? form.SavedOwner() : qMax(form.CurrentPerson(), 0);
   form.UnloadForm();
   return person;
 }
 
 void OpenPeople(int start) {
   auto& form = SharedForm<frmPeople>();
-  if (!form.FormIsShown()) form.SetStart(start);
+  const bool wasShown = form.FormIsShown();
+  if (!wasShown) form.SetStart(start);
   form.Show();
+  if (wasShown) form.GoTo(start);
 }
 
 bool ShowRigs(const RigScreenStart& start) {
@@ -65,8 +67,12 @@ bool ShowRigs(const RigScreenStart& start) {
 
 void OpenRigs(const RigScreenStart& start) {
   auto& form = SharedForm<frmGetRig>();
-  if (!form.FormIsShown()) form.SetStart(start);
+  if (!form.FormIsShown())
+    form.SetStart(start);
+  else if (!form.isModal())
+    form.GoTo(start);
   form.Show();
+  if (form.isModal() && start.rig != 0 && start.rig != form.Rig()) ConfirmRigDeletion(start.rig, true);
 }
 
 void ShowRig(int rig) {
@@ -77,20 +83,21 @@ void ShowRig(int rig) {
 }
 
 void ShowCurrentComponents(int rig) {
-  auto& form = SharedForm<frmCurrentComponents>();
-  form.SetRig(rig);
-  form.ShowModal();
-  form.UnloadForm();
+  const ModalUse<frmCurrentComponents> form;
+  if (!form) return;
+  form->SetRig(rig);
+  form->ShowModal();
 }
 
 bool PickRig(int& rig, int& customer, int rigType) {
-  auto& form = SharedForm<frmPickRig>();
-  form.SetStart(customer, rig, rigType);
-  form.ShowModal();
-  const bool chosen = form.Tag() == "select"_L1;
-  rig = chosen ? form.Rig() : 0;
-  customer = chosen ? form.Customer() : 0;
-  form.UnloadForm();
+  const ModalUse<frmPickRig> form;
+  if (form) {
+    form->SetStart(customer, rig, rigType);
+    form->ShowModal();
+  }
+  const bool chosen = form && form->Tag() == "select"_L1;
+  rig = chosen ? form->Rig() : 0;
+  customer = chosen ? form->Customer() : 0;
   return chosen;
 }
 
@@ -108,12 +115,11 @@ bool ConfirmRigDeletion(int rig, bool showOnly) {
 }
 
 QString AskNewOrOld(int componentType) {
-  auto& form = SharedForm<frmNewOrOld>();
-  form.SetComponentType(componentType);
-  form.ShowModal();
-  const QString command = form.Command();
-  form.UnloadForm();
-  return command;
+  const ModalUse<frmNewOrOld> form;
+  if (!form) return u"cancel"_s;
+  form->SetComponentType(componentType);
+  form->ShowModal();
+  return form->Command();
 }
 
 void ShowComponent(int component) {
@@ -130,12 +136,11 @@ void ShowComponent(int component) {
 
 bool EditComponentQuickly(int component) {
   if (!ComponentExists(component)) return false;
-  auto& form = SharedForm<frmModel>();
-  form.SetComponent(component);
-  form.ShowModal();
-  const bool saved = form.Tag() == "save"_L1;
-  form.UnloadForm();
-  return saved;
+  const ModalUse<frmModel> form;
+  if (!form) return false;
+  form->SetComponent(component);
+  form->ShowModal();
+  return form->Tag() == "save"_L1;
 }
 
 int EditComponent(int component) {
@@ -148,28 +153,25 @@ EnteredComponent EnterNewComponent(int model, const QString& serial) {
 }
 
 bool VerifyComponent(int component, const QString& caption, bool exitOnly) {
-  auto& form = SharedForm<frmComponentVerify>();
-  form.SetComponent(component, caption, exitOnly);
-  form.ShowModal();
-  const bool yes = form.Tag() == "yes"_L1;
-  form.UnloadForm();
-  return yes;
+  const ModalUse<frmComponentVerify> form;
+  if (!form) return false;
+  form->SetComponent(component, caption, exitOnly);
+  form->ShowModal();
+  return form->Tag() == "yes"_L1;
 }
 
 int PickComponentBySerial(int componentType, const QString& serial) {
-  auto& form = SharedForm<frmSerialNumber>();
-  form.SetSearch(componentType, serial);
-  form.ShowModal();
-  const int component = form.Tag() == "select"_L1 ? form.Component() : 0;
-  form.UnloadForm();
-  return component;
+  const ModalUse<frmSerialNumber> form;
+  if (!form) return 0;
+  form->SetSearch(componentType, serial);
+  form->ShowModal();
+  return form->Tag() == "select"_L1 ? form->Component() : 0;
 }
 
 int PickComponent(int componentType, int owner) {
-  auto& form = SharedForm<frmPickComponent>();
-  form.SetChoice(componentType, owner);
-  form.ShowModal();
-  const int component = form.Tag() == "select"_L1 ? form.Component() : 0;
-  form.UnloadForm();
-  return component;
+  const ModalUse<frmPickComponent> form;
+  if (!form) return 0;
+  form->SetChoice(componentType, owner);
+  form->ShowModal();
+  return form->Tag() == "select"_L1 ? form->Component() : 0;
 }

@@ -6,6 +6,7 @@
 #include "core/lists.h"
 #include "core/prompts.h"
 #include "core/widgets/screen_routines.h"
+#include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
@@ -73,8 +74,9 @@ frmHistoryForm::frmHistoryForm() : ui_(std::make_unique<Ui::frmHistoryForm>()) {
 frmHistoryForm::~frmHistoryForm() = default;
 
 QStringList frmHistoryForm::ShowsTables() const {
-  return {u"tblTasks"_s, u"tblTaskComponents"_s, u"tblJobs"_s,    u"tblComponents"_s, u"tblModels"_s,
-          u"tblRig"_s,   u"tblPeople"_s,         u"tblTaskLib"_s, u"tblLocation"_s};
+  return {u"tblTasks"_s,         u"tblTaskComponents"_s, u"tblJobs"_s, u"tblComponents"_s,        u"tblModels"_s,
+          u"tblManufacturers"_s, u"tblComponentTypes"_s, u"tblRig"_s,  u"tblRigTypeComponents"_s, u"tblPeople"_s,
+          u"tblTaskLib"_s,       u"tblLocation"_s};
 }
 
 void frmHistoryForm::SetUpGrid() {
@@ -120,6 +122,17 @@ void frmHistoryForm::LoadComponentTypes() {
     ui_->LstComp->TickAll(true);
 }
 
+/// What belongs to the rig or the component that is viewed may have changed, and so may the types of the rig. Of one
+/// that has gone the history goes on to be shown.
+void frmHistoryForm::ReloadView() {
+  if (view_.mode == HistoryMode::Component) {
+    if (ComponentExists(view_.componentID)) view_ = HistoryViewOfComponent(view_.componentID);
+  } else if (RigExists(view_.rigID)) {
+    view_ = HistoryViewOfRig(view_.rigID, view_.componentTypeID);
+    ui_->LstComp->Refill(LoadRigTypeComponents(RigType(view_.rigID)));
+  }
+}
+
 void frmHistoryForm::TickAll(bool ticked) {
   ui_->LstComp->TickAll(ticked);
   ReloadForm();
@@ -141,10 +154,11 @@ void frmHistoryForm::RememberDateOrder() {
 }
 
 void frmHistoryForm::ReloadForm() {
-  const HistoryLine* line = LineOf(ui_->grid->CurrentRow());
+  const auto line = LineOf(ui_->grid->CurrentRow());
   const HistoryLine selected = line ? *line : HistoryLine();
   const int column = ui_->grid->CurrentColumn();
   RememberDateOrder();
+  ReloadView();
   lines_ = LoadHx();
   std::vector<GridRow> rows;
   int again = 0;
@@ -160,25 +174,26 @@ void frmHistoryForm::ReloadForm() {
   ShowSelected();
 }
 
-const HistoryLine* frmHistoryForm::LineOf(int row) const {
+std::optional<HistoryLine> frmHistoryForm::LineOf(int row) const {
   const int number = ui_->grid->RowData(row);
-  return number > 0 && number <= lines_.size() ? &lines_[number - 1] : nullptr;
+  if (number < 1 || number > lines_.size()) return std::nullopt;
+  return lines_[number - 1];
 }
 
-const HistoryLine* frmHistoryForm::Selected() const {
-  const HistoryLine* line = LineOf(ui_->grid->CurrentRow());
+std::optional<HistoryLine> frmHistoryForm::Selected() const {
+  auto line = LineOf(ui_->grid->CurrentRow());
   if (!line) MsgBox(u"You must select an event"_s, u"Nothing selected"_s);
   return line;
 }
 
 int frmHistoryForm::ChosenComponent() const {
   if (view_.mode == HistoryMode::Component) return view_.componentID;
-  const HistoryLine* line = LineOf(ui_->grid->CurrentRow());
+  const auto line = LineOf(ui_->grid->CurrentRow());
   return line ? line->componentID : 0;
 }
 
 void frmHistoryForm::ShowSelected() {
-  const HistoryLine* line = LineOf(ui_->grid->CurrentRow());
+  const auto line = LineOf(ui_->grid->CurrentRow());
   ui_->lblCustomer->setText(PersonDisplayName(view_.personID));
   ui_->lblRig->setText(HistoryRigText(view_.rigID));
   ui_->lblRigOwner->clear();

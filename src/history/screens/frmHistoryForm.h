@@ -31,13 +31,14 @@ class frmHistoryForm : public Form {
   void BuildMenus();
   void SetUpGrid();
   void LoadComponentTypes();
+  void ReloadView();
   QList<HistoryLine> LoadHx() const;
   void TickAll(bool ticked);
   void RememberDateOrder();
 
-  const HistoryLine* LineOf(int row) const;
+  std::optional<HistoryLine> LineOf(int row) const;
   /// The selected line; none, told, when nothing is selected.
-  const HistoryLine* Selected() const;
+  std::optional<HistoryLine> Selected() const;
   int ChosenComponent() const;  ///< the one viewed, else the selected line's
   void ShowSelected();
   void DoComponentInfo(int component);
@@ -47,7 +48,6 @@ class frmHistoryForm : public Form {
   void AddTaskOrEvent(bool isEvent);
   void DeleteEvent();
   void EditEvent();
-  void EditEntry(int task);
   void ShowJob();
   void GoToJob(int job);
   void StartJob();

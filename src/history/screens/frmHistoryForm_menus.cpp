@@ -4,6 +4,7 @@
 #include "core/clock.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "gear/components.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "history/history_texts.h"
@@ -43,36 +44,31 @@ void frmHistoryForm::AddTaskOrEvent(bool isEvent) {
   const LibraryChoice choice = SelectTask({.events = isEvent,
                                            .caption = isEvent ? u"Add event to history"_s : u"Add task to history"_s,
                                            .dateCaption = isEvent ? u"Event date:"_s : u"Task date:"_s});
-  if (AddHistoryEntry(view_, choice.taskLibID, choice.date)) ReloadForm();
+  AddHistoryEntry(view_, choice.taskLibID, choice.date);
 }
 
 void frmHistoryForm::DeleteEvent() {
-  const HistoryLine* line = LineOf(ui_->grid->CurrentRow());
+  const auto line = LineOf(ui_->grid->CurrentRow());
   if (!line) return;
   if (line->jobID > 0) {
     if (AskShowJobOfEntry()) ShowJob();
-  } else if (DeleteHistoryEntry(*line)) {
-    ReloadForm();
+  } else {
+    DeleteHistoryEntry(*line);
   }
 }
 
 void frmHistoryForm::EditEvent() {
-  const HistoryLine* line = Selected();
+  const auto line = Selected();
   if (!line) return;
   if (line->jobID < 1)
-    EditEntry(line->taskID);
+    EditTask(line->taskID);
   else if (AskShowJobOfEntry())
     ShowJob();
 }
 
-void frmHistoryForm::EditEntry(int task) {
-  EditTask(task);
-  ReloadForm();
-}
-
 void frmHistoryForm::ShowJob() {
   if (lines_.isEmpty()) return;
-  const HistoryLine* line = Selected();
+  const auto line = Selected();
   if (!line) return;
   const int task = line->taskID;
   const int job = LineField(task, u"JobID"_s).ToInt();
@@ -80,18 +76,20 @@ void frmHistoryForm::ShowJob() {
     TellDifferentOwner(job, view_.personID);
     GotoJob(job);
   } else if (AskEditEntry()) {
-    EditEntry(task);
+    EditTask(task);
   }
 }
 
 void frmHistoryForm::StartJob() {
-  StartNewJob(view_.personID, view_.rigID, view_.rigID == 0 ? view_.componentID : 0, Today());
+  const int rig = RigExists(view_.rigID) ? view_.rigID : 0;
+  const int component = ComponentExists(view_.componentID) ? view_.componentID : 0;
+  StartNewJob(view_.personID, rig, rig == 0 ? component : 0, Today());
 }
 
 void frmHistoryForm::ShowRig() {
   int rig = view_.rigID;
   if (!lines_.isEmpty() || view_.mode != HistoryMode::RigByType) {
-    const HistoryLine* line = LineOf(ui_->grid->CurrentRow());
+    const auto line = LineOf(ui_->grid->CurrentRow());
     if (!line) {
       MsgBox(u"You must select a rig from the RIG column"_s, u"Nothing selected"_s);
       return;
@@ -103,7 +101,6 @@ void frmHistoryForm::ShowRig() {
     return;
   }
   ShowRigs({.customer = RigOwner(rig), .rig = rig});
-  ReloadForm();
 }
 
 void frmHistoryForm::SelectRig() {
@@ -118,14 +115,12 @@ void frmHistoryForm::SelectComponent() {
 }
 
 void frmHistoryForm::ShowLineComponent() {
-  const HistoryLine* line = LineOf(ui_->grid->CurrentRow());
-  if (!line || line->componentID == 0) return;
-  ShowComponent(line->componentID);
-  ReloadForm();
+  const auto line = LineOf(ui_->grid->CurrentRow());
+  if (line && line->componentID != 0) ShowComponent(line->componentID);
 }
 
 void frmHistoryForm::DoComments() {
-  const HistoryLine* line = Selected();
+  const auto line = Selected();
   if (!line) return;
   const int task = line->taskID;
   if (const auto text = EditComments(line->task + u" / "_s + line->component, LineComments(task)))

@@ -1,7 +1,5 @@
 #include "core/default_rows.h"
-#include "core/picker.h"
 #include "core/prompts.h"
-#include "jobs/library_delete.h"
 #include "jobs/library_entry.h"
 #include "jobs/screens.h"
 
@@ -28,14 +26,4 @@ void EditLibraryEntry(int taskLibID) {
     EditEventType(taskLibID);
   else
     EditTaskType({.taskLibID = taskLibID, .modelID = TaskLibModelID(taskLibID)});
-}
-
-void RegisterLibraryPicker() {
-  RegisterPickerOwner(kPickTask, {.add = [](const QString& name, int) { return EditTaskType({.name = name}); },
-                                  .remove =
-                                      [](int id) {
-                                        bool cancelled = false;
-                                        DeleteTaskType(id, true, cancelled);
-                                        return !cancelled;
-                                      }});
 }

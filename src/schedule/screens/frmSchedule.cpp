@@ -16,6 +16,7 @@
 #include "jobs/schedule_jobs.h"
 #include "jobs/screens.h"
 #include "schedule/screens/ui_frmSchedule.h"
+#include "schedule/task_library.h"
 
 using namespace Qt::StringLiterals;
 
@@ -80,7 +81,8 @@ frmSchedule::frmSchedule() : ui_(std::make_unique<Ui::frmSchedule>()) {
 frmSchedule::~frmSchedule() = default;
 
 QStringList frmSchedule::ShowsTables() const {
-  return {u"tblSchedules"_s, u"tblComponents"_s, u"tblRig"_s, u"tblPeople"_s, u"tblTaskLib"_s, u"tblModels"_s};
+  return {u"tblSchedules"_s, u"tblComponents"_s, u"tblRig"_s,           u"tblPeople"_s,
+          u"tblTaskLib"_s,   u"tblModels"_s,     u"tblTaskComponents"_s};
 }
 
 void frmSchedule::BuildMenus() {
@@ -107,7 +109,6 @@ void frmSchedule::SetStart(const ScheduleStart& start) {
              .customer = start.customer,
              .rig = start.rig};
   rig_ = start.rig;
-  ShowFilter();
   ReloadForm();
 }
 
@@ -122,7 +123,9 @@ void frmSchedule::ShowFilter() {
 }
 
 void frmSchedule::ReloadForm() {
-  const ScheduleEntry* selected = EntryOf(ui_->grid->CurrentRow());
+  ForgetWhatHasGone();
+  ShowFilter();
+  const auto selected = EntryOf(ui_->grid->CurrentRow());
   const int id = selected ? selected->id : 0;
   const int component = selected ? selected->componentID : 0;
   const int column = ui_->grid->CurrentColumn();
@@ -137,31 +140,42 @@ void frmSchedule::ReloadForm() {
   if (again != 0) ui_->grid->SelectCell(ui_->grid->FindRow(again), column);
 }
 
-const ScheduleEntry* frmSchedule::EntryOf(int row) const {
-  const int number = ui_->grid->RowData(row);
-  return number > 0 && number <= entries_.size() ? &entries_[number - 1] : nullptr;
+/// A filter by what is no longer there lets everything through.
+void frmSchedule::ForgetWhatHasGone() {
+  if (rig_ != 0 && !RigExists(rig_)) rig_ = 0;
+  if (chosen_.customer != 0 && !PersonExists(chosen_.customer)) chosen_.customer = 0;
+  if (chosen_.taskLibID != 0 && !TaskLibExists(chosen_.taskLibID)) chosen_.taskLibID = 0;
+  if ((chosen_.whose == Whose::Rig && !RigExists(chosen_.rig)) ||
+      (chosen_.whose == Whose::Customer && chosen_.customer == 0))
+    chosen_.whose = Whose::AllCustomers;
 }
 
-const ScheduleEntry* frmSchedule::Selected() const {
-  const ScheduleEntry* entry = EntryOf(ui_->grid->CurrentRow());
+std::optional<ScheduleEntry> frmSchedule::EntryOf(int row) const {
+  const int number = ui_->grid->RowData(row);
+  if (number < 1 || number > entries_.size()) return std::nullopt;
+  return entries_[number - 1];
+}
+
+std::optional<ScheduleEntry> frmSchedule::Selected() const {
+  std::optional<ScheduleEntry> entry = EntryOf(ui_->grid->CurrentRow());
   if (!entry) MsgBox(u"You must select an event"_s, u"Nothing selected"_s);
+  if (entry && !RigExists(entry->rigID)) entry->rigID = 0;
   return entry;
 }
 
 void frmSchedule::RememberRow(int row) {
-  if (const ScheduleEntry* entry = EntryOf(row)) rig_ = entry->rigID;
+  if (const auto entry = EntryOf(row)) rig_ = entry->rigID;
 }
 
 void frmSchedule::ChooseTask() {
   chosen_.taskLibID = 0;
   if (ui_->optTasksSelected->isChecked()) {
-    const ScheduleEntry* entry = EntryOf(ui_->grid->CurrentRow());
+    const auto entry = EntryOf(ui_->grid->CurrentRow());
     if (entry && entry->id != kServiceLifeRow && ui_->grid->CurrentColumn() == kTaskColumn)
       chosen_.taskLibID = entry->taskLibID;
     else
       MsgBox(u"Please select a task from the TASK column"_s);
   }
-  ShowFilter();
   ReloadForm();
 }
 
@@ -180,7 +194,6 @@ void frmSchedule::ChooseFilter() {
     chosen_.whose = Whose::Rig;
     chosen_.rig = rig_;
   }
-  ShowFilter();
   ReloadForm();
 }
 
@@ -190,17 +203,16 @@ void frmSchedule::ChooseCustomer() {
     chosen_.customer = picked;
     chosen_.whose = Whose::Customer;
   }
-  ShowFilter();
   ReloadForm();
 }
 
 void frmSchedule::DeleteSelection() {
-  const ScheduleEntry* entry = Selected();
-  if (entry && DeleteScheduleEntry(entry->id, RigName(entry->rigID))) ReloadForm();
+  const auto entry = Selected();
+  if (entry) DeleteScheduleEntry(entry->id, RigName(entry->rigID));
 }
 
 void frmSchedule::DisplayRig() {
-  const ScheduleEntry* entry = Selected();
+  const auto entry = Selected();
   if (!entry) return;
   if (entry->rigID != 0) {
     OpenRigs({.customer = RigOwner(entry->rigID), .rig = entry->rigID});
@@ -214,7 +226,7 @@ void frmSchedule::DisplayRig() {
 }
 
 void frmSchedule::DisplayComponent() {
-  const ScheduleEntry* entry = Selected();
+  const auto entry = Selected();
   if (!entry) return;
   if (entry->componentID == 0)
     MsgBox(u"schedule has multiple components"_s);
@@ -223,26 +235,25 @@ void frmSchedule::DisplayComponent() {
 }
 
 void frmSchedule::DisplayCustomer() {
-  if (const ScheduleEntry* entry = Selected()) OpenPeople(entry->ownerID);
+  if (const auto entry = Selected()) OpenPeople(entry->ownerID);
 }
 
 void frmSchedule::DisplayJob() {
-  const ScheduleEntry* entry = Selected();
+  const auto entry = Selected();
   if (!entry) return;
   if (const int job = JobOfScheduledTask(entry->taskID, entry->rigID); job != 0) GotoJob(job);
 }
 
 void frmSchedule::StartJob() {
-  const ScheduleEntry* selected = Selected();
-  if (!selected) return;
-  const ScheduleEntry entry = *selected;  // a job that is completed there reloads this list
+  const auto entry = Selected();
+  if (!entry) return;
   int job = 0;
-  if (AskNewJobFor(entry.ownerID, entry.rigID))
-    StartJobDialog(entry.ownerID, entry.rigID, entry.componentID, job, 0, 0, Today());
+  if (AskNewJobFor(entry->ownerID, entry->rigID))
+    StartJobDialog(entry->ownerID, entry->rigID, entry->componentID, job, 0, 0, Today());
 }
 
 void frmSchedule::StartQuickFix() {
-  const ScheduleEntry* entry = Selected();
+  const auto entry = Selected();
   if (!entry) return;
   if (entry->rigID == 0 || entry->id == kServiceLifeRow)
     MsgBox(u"Please select a rig"_s, u"No rig selected"_s);
@@ -251,7 +262,7 @@ void frmSchedule::StartQuickFix() {
 }
 
 void frmSchedule::ShowHistory() {
-  const ScheduleEntry* entry = Selected();
+  const auto entry = Selected();
   if (!entry) return;
   if (entry->rigID != 0)
     OpenRigHistory(entry->rigID);

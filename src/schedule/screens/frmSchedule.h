@@ -1,5 +1,6 @@
 #pragma once
 #include <memory>
+#include <optional>
 
 #include "core/widgets/form.h"
 #include "schedule/schedule_list.h"
@@ -23,10 +24,11 @@ class frmSchedule : public Form {
  private:
   void BuildMenus();
   void RememberRow(int row);
-  const ScheduleEntry* EntryOf(int row) const;
-  /// The entry of the selected row; none, told, when nothing is selected.
-  const ScheduleEntry* Selected() const;
+  std::optional<ScheduleEntry> EntryOf(int row) const;
+  /// The entry of the selected row, its rig 0 where that has gone; none, told, when nothing is selected.
+  std::optional<ScheduleEntry> Selected() const;
   void ShowFilter();
+  void ForgetWhatHasGone();
   void ChooseFilter();
   void ChooseTask();
   void ChooseCustomer();

@@ -6,6 +6,8 @@
 #include "core/widgets/form.h"
 #include "core/widgets/list.h"
 #include "core/widgets/theme.h"
+#include "gear/screens.h"
+#include "jobs/screens.h"
 #include "support/screens/controls.h"
 #include "support/screens/screen_script.h"
 #include "support/scripted_prompts.h"
@@ -32,6 +34,15 @@ struct People {
   int jones;
 };
 
+/// The kinds whose owners add and delete; here it is the tests that do.
+constexpr PickerType kChanging[] = {kPickCustomer, kPickTask, kPickLocation, kPickGearReport, kPickMiscItem};
+
+void Amend(PickerType type, const std::function<void(PickerKind&)>& change) {
+  PickerKind kind = PickerKindOf(type);
+  change(kind);
+  RegisterPicker(type, kind);
+}
+
 QString Numbered(const QString& name, int id) { return u"%1 (%2)"_s.arg(name).arg(id); }
 
 }  // namespace
@@ -40,12 +51,13 @@ class TestPicker : public QObject {
   Q_OBJECT
  private Q_SLOTS:
   void initTestCase() { IsolateSettings(); }
-  void cleanup() {
-    UnloadScreens();
-    for (const PickerType type : {kPickCustomer, kPickTask, kPickLocation, kPickGearReport, kPickMiscItem}) {
-      RegisterPickerOwner(type, {});
-    }
+  void init() {
+    RegisterGearPickers();
+    RegisterJobPickers();
+    for (const PickerType type : kChanging)
+      Amend(type, [](PickerKind& kind) { kind.add = nullptr, kind.remove = nullptr; });
   }
+  void cleanup() { UnloadScreens(); }
 
   void CustomersComeByLastNameWithTheirNumber() {
     const ThrowAwayLoft loft;
@@ -319,10 +331,9 @@ class TestPicker : public QObject {
          u"Name"_s}};
     for (const Case& wanted : cases) {
       int added = 0;
-      RegisterPickerOwner(wanted.type, {.add = [&](const QString& name, int) {
-                            added = loft.Add(wanted.table, {{wanted.field, name}});
-                            return added;
-                          }});
+      Amend(wanted.type, [&](PickerKind& kind) {
+        kind.add = [&](const QString& name, int) { return added = loft.Add(wanted.table, {{wanted.field, name}}); };
+      });
       ScriptedPrompts prompts;
       ScreenScript screens;
       prompts.Expect(wanted.title, wanted.text, Answer::No).WithButtons(Buttons::YesNo);
@@ -358,7 +369,7 @@ class TestPicker : public QObject {
   void ACustomerIsFoundByNameBeforeOneIsAdded() {
     const ThrowAwayLoft loft;
     const People people(loft);
-    RegisterPickerOwner(kPickCustomer, {.add = [](const QString&, int) { return 0; }});
+    Amend(kPickCustomer, [](PickerKind& kind) { kind.add = [](const QString&, int) { return 0; }; });
     ScriptedPrompts prompts;
     ScreenScript screens;
     screens.WhenShown(u"frmPicker"_s, [](Form& form) {
@@ -395,10 +406,13 @@ class TestPicker : public QObject {
         {kPickLocation, shop, u"tblLocation"_s, u"Delete Shop?"_s},
         {kPickGearReport, report, u"tblGearReports"_s, u"Are you sure you want to delete this report?"_s}};
     for (const Case& wanted : cases) {
-      RegisterPickerOwner(wanted.type, {.remove = [&](int id) {
-                            loft.Run(u"Delete * from "_s + wanted.table + u" where ID = "_s + QString::number(id));
-                            return true;
-                          }});
+      Amend(wanted.type, [&](PickerKind& kind) {
+        kind.removeAsks = false;
+        kind.remove = [&](int id) {
+          loft.Run(u"Delete * from "_s + wanted.table + u" where ID = "_s + QString::number(id));
+          return true;
+        };
+      });
       ScriptedPrompts prompts;
       ScreenScript screens;
       prompts.Expect(kProgramTitle, wanted.question, Answer::No).WithPreset(Answer::No);
@@ -419,7 +433,10 @@ class TestPicker : public QObject {
   void FixedTasksCanNotBeDeleted() {
     const ThrowAwayLoft loft;
     int removed = 0;
-    RegisterPickerOwner(kPickTask, {.remove = [&](int) { return ++removed > 0; }, .removeAsks = true});
+    Amend(kPickTask, [&](PickerKind& kind) {
+      kind.remove = [&](int) { return ++removed > 0; };
+      kind.removeAsks = true;
+    });
     const int patch = loft.Add(u"tblTaskLib"_s, {{u"Name"_s, "Patch"}});
     ScriptedPrompts prompts;
     ScreenScript screens;

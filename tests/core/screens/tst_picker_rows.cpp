@@ -1,7 +1,10 @@
 #include <QtTest>
 
 #include "core/picker.h"
-#include "core/screens/picker_rows.h"
+#include "gear/person_names.h"
+#include "gear/picker_rows.h"
+#include "gear/screens.h"
+#include "jobs/job_picker_rows.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"
@@ -32,23 +35,24 @@ class TestPickerRows : public QObject {
     Person(loft, "Adams", "Al");
     const int zoe = Person(loft, "Smith", "Zoe", true);
     const int ann = Person(loft, "Jones", "Ann", true);
-    QCOMPARE(PickerRows(kPickRigger).ids, QList<int>({ann, zoe}));
+    QCOMPARE(PickerRiggers().ids, QList<int>({ann, zoe}));
   }
 
   void InvoicesStandByTheirNumberAndGearReportsAsTheyWereMade() {
     const ThrowAwayLoft loft;
     const int late = loft.Add(u"tblJobs"_s, {{u"InvoiceNumber"_s, "B2"}});
     const int early = loft.Add(u"tblJobs"_s, {{u"InvoiceNumber"_s, "A1"}});
-    QCOMPARE(PickerRows(kPickInvoice).ids, QList<int>({early, late}));
+    QCOMPARE(PickerInvoices().ids, QList<int>({early, late}));
     const int zulu = loft.Add(u"tblGearReports"_s, {{u"Name"_s, "Zulu"}});
     const int alpha = loft.Add(u"tblGearReports"_s, {{u"Name"_s, "Alpha"}});
-    QCOMPARE(PickerRows(kPickGearReport).ids, QList<int>({zulu, alpha}));
+    QCOMPARE(PickerGearReports().ids, QList<int>({zulu, alpha}));
   }
 
   void AModelIsCalledByItsType() {
     const ThrowAwayLoft loft;
-    QCOMPARE(PickerNoun(kPickMiscItem, 2), u"Main Canopy"_s);
-    QCOMPARE(PickerNoun(kPickMiscItem, 0), u"Misc"_s);
+    RegisterGearPickers();
+    QCOMPARE(PickerKindOf(kPickMiscItem).noun(2), u"Main Canopy"_s);
+    QCOMPARE(PickerKindOf(kPickMiscItem).noun(0), u"Misc"_s);
   }
 };
 

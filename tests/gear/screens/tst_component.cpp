@@ -32,6 +32,8 @@ class ListOfComponents : public LoadedForm, public SelectsComponent {
   QString FormName() const override { return u"frmComponentList2"_s; }
   bool FormIsShown() const override { return true; }
   void ReloadForm() override { ++reloads; }
+  QStringList ShowsTables() const override { return {u"tblComponents"_s}; }
+  void TablesChanged(const Changes&) override { ReloadForm(); }
   void UnloadForm() override {}
   int SelectedComponent() const override { return selected_; }
   int reloads = 0;

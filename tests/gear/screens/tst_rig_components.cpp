@@ -311,11 +311,13 @@ class TestRigComponents : public QObject {
   void AComponentThatGoesMeanwhileLeavesItsPlaceEmpty() {
     RigShop shop;
     shop.OnRigs(shop.ann, [&](Form& form) {
-      shop.loft.Run(u"delete from tblComponents where ID = %1"_s.arg(shop.canopy));
       ClickCell(Components(form), 1, 1);
-      PressKey(Components(form), Qt::Key_F2);
-      DoubleClickCell(Components(form), 1, 1);
+      shop.loft.Run(u"delete from tblComponents where ID = %1"_s.arg(shop.canopy));
       QCOMPARE(RowsOf(Components(form)).at(1), u"2|Main Canopy||||0"_s);
+      QCOMPARE(Components(form).CurrentRow(), 1);
+      PressKey(Components(form), Qt::Key_F2);
+      shop.Leave(u"frmNewOrOld"_s);
+      DoubleClickCell(Components(form), 1, 1);
     });
   }
 

@@ -360,8 +360,9 @@ class TestHistoryCommands : public QObject {
     shop.Select(kCheck);
     shop.loft.Run(u"delete * from tblTasks where ID = %1"_s.arg(shop.check));
     shop.loft.Run(u"delete * from tblTaskComponents where TaskID = %1"_s.arg(shop.check));
-    shop.Choose(kEdit);  // the editor does not show it, and the list reads anew
     QCOMPARE(shop.Lines().RowCount(), 3);
+    shop.prompts.ExpectBox(u"Nothing selected"_s, u"You must select an event"_s);
+    shop.Choose(kEdit);
   }
 };
 

@@ -1,6 +1,7 @@
 #include <QCheckBox>
 
 #include "gear/components.h"
+#include "gear/rigs.h"
 #include "history/screens/open_history.h"
 #include "support/test_program.h"
 
@@ -223,6 +224,32 @@ class TestHistoryScreen : public QObject {
     QVERIFY(!Control<QWidget>(shop.Screen(), u"cmdPrint"_s).isEnabled());
     for (const QAction* menu : shop.Screen().MenuBar()->actions())
       if (menu->text().remove(u'&') == "Print"_L1) QVERIFY(!menu->isEnabled());
+  }
+
+  void WhatIsChangedBesideIsShownOnTheLineThatWasSelected() {
+    OpenHistory shop;
+    shop.OpenRig();
+    shop.Select(2);
+    const QString selected = shop.Lines().Text(2, kTask);
+    shop.loft.Run(u"update tblRig set OwnerID = %1 where ID = %2"_s.arg(shop.rigger).arg(shop.rig));
+    QCOMPARE(shop.Label("lblCustomer"), u"Rita Rigger"_s);
+    shop.AddWork({.onRig = shop.rig, .done = Day(1, 1, 2024), .name = "Washed"}, {shop.container});
+    QCOMPARE(shop.Lines().Text(shop.Lines().CurrentRow(), kTask), selected);
+    QVERIFY(shop.Column(kTask).join(u'|').contains(u"Washed"_s));
+  }
+
+  void ToARigThatHasGoneNothingIsAdded() {
+    OpenHistory shop;
+    shop.OpenRig();
+    DeleteRigRow(shop.rig);
+    const QStringList before = shop.loft.Snapshot();
+    shop.screens.WhenShown(u"frmSelectTask"_s, [](Form& form) {
+      TypeInto(form, u"txt"_s, u"AAD check"_s);
+      Click(form, u"cmdSelect"_s);
+    });
+    shop.Choose({u"Add"_s, u"Add task"_s});
+    QCOMPARE(shop.loft.ChangesSince(before), QStringList());
+    QCOMPARE(shop.Column(kTask).size(), 4);  // the lines stay to be read
   }
 };
 

@@ -335,7 +335,6 @@ class TestTaskLibrary : public QObject {
 
   void ThePickerAddsAndDeletesTasks() {
     TaskLibrary shop;
-    RegisterLibraryPicker();
     shop.screens.WhenShown(u"frmPicker"_s, [&](Form& picker) {
       TypeInto(picker, u"txt"_s, u"Wash"_s);
       shop.prompts.Expect(u"Add new task?"_s,

@@ -8,6 +8,8 @@
 #include <QTimer>
 
 #include "core/widgets/theme.h"
+#include "gear/screens.h"
+#include "jobs/screens.h"
 
 namespace {
 
@@ -65,6 +67,8 @@ void IsolateSettings() {
   static const QTemporaryDir folder;
   static const bool dressed = [] {
     InstallTheme(*qApp, qEnvironmentVariableIsSet("LOFTKEEP_TOUR_DARK"));
+    RegisterGearPickers();
+    RegisterJobPickers();
     return true;
   }();
   Q_UNUSED(dressed);

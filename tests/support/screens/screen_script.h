@@ -48,7 +48,7 @@ class ScreenScript : public QObject {
 };
 
 /// Keeps the settings of a test run in a folder of its own and gives the screens the program's look, the dark one when
-/// LOFTKEEP_TOUR_DARK is set. ScreenScript does so by itself.
+/// LOFTKEEP_TOUR_DARK is set, and the picker its kinds. ScreenScript does so by itself.
 void IsolateSettings();
 
 /// Unloads every screen and deletes it.

@@ -1,5 +1,6 @@
 #include "core/picker.h"
 #include "core/screens.h"
+#include "core/widgets/modal_use.h"
 #include "gear/catalogue.h"
 #include "gear/rig_types.h"
 #include "gear/screens.h"
@@ -12,34 +13,32 @@
 using namespace Qt::StringLiterals;
 
 int ShowLocations(int location) {
-  auto& form = SharedForm<frmLocation>();
-  form.SetLocation(location);
-  form.ShowModal();
-  const int chosen = form.Tag() == "select"_L1 ? form.Location() : 0;
-  form.UnloadForm();
-  return chosen;
+  const ModalUse<frmLocation> form;
+  if (!form) return 0;
+  form->SetLocation(location);
+  form->ShowModal();
+  return form->Tag() == "select"_L1 ? form->Location() : 0;
 }
 
 void OpenModels(const ModelScreenStart& start) {
   auto& form = SharedForm<frmComponentModels>();
-  form.SetStart(start);
+  if (!form.FormIsShown() || !form.isModal()) form.SetStart(start);
   form.Show();
 }
 
 void ShowModels(const ModelScreenStart& start) {
-  auto& form = SharedForm<frmComponentModels>();
-  form.SetStart(start);
-  form.ShowModal();
-  form.UnloadForm();
+  const ModalUse<frmComponentModels> form;
+  if (!form) return;
+  form->SetStart(start);
+  form->ShowModal();
 }
 
 int CreateModel(int type) {
-  auto& form = SharedForm<frmComponentModels>();
-  form.SetStart({.type = type, .create = true});
-  form.ShowModal();
-  const int created = form.CreatedModel();
-  form.UnloadForm();
-  return created;
+  const ModalUse<frmComponentModels> form;
+  if (!form) return 0;
+  form->SetStart({.type = type, .create = true});
+  form->ShowModal();
+  return form->CreatedModel();
 }
 
 int PickModel(int type, int presentModel) {
@@ -54,28 +53,22 @@ int ChooseTypeOfNewRig() {
 }
 
 bool SelectModel(int& type, int& model) {
-  auto& form = SharedForm<frmSelectModel>();
-  form.SetModel(type, model);
-  form.ShowModal();
-  const bool chosen = form.Tag() == "select"_L1;
-  if (chosen) {
-    type = form.Type();
-    model = form.Model();
-  }
-  form.UnloadForm();
-  return chosen;
+  const ModalUse<frmSelectModel> form;
+  if (!form) return false;
+  form->SetModel(type, model);
+  form->ShowModal();
+  if (form->Tag() != "select"_L1) return false;
+  type = form->Type();
+  model = form->Model();
+  return true;
 }
 
 void ShowComponentTypes() {
-  auto& form = SharedForm<frmComponentTypes>();
-  form.ShowModal();
-  form.UnloadForm();
+  if (const ModalUse<frmComponentTypes> form; form) form->ShowModal();
 }
 
 void OpenRigTypes() { SharedForm<frmRigTypes>().Show(); }
 
 void ShowRigTypes() {
-  auto& form = SharedForm<frmRigTypes>();
-  form.ShowModal();
-  form.UnloadForm();
+  if (const ModalUse<frmRigTypes> form; form) form->ShowModal();
 }

@@ -62,21 +62,13 @@ void frmComponentModels::BuildMenus() {
   add(models, u"Link model to manufacturer"_s, "mnuLink", &frmComponentModels::Link);
   models->addSeparator();
   add(models, u"Export models"_s, "mnuExportModels", [] { ExportModels(); });
-  add(models, u"Import models"_s, "mnuImportModels", [this] {
-    ImportModels(false);
-    LoadManufacturerList(0);
-    LoadModelList(0);
-  });
+  add(models, u"Import models"_s, "mnuImportModels", [this] { ImportModels(false); });
   QMenu* makers = MenuBar()->addMenu(u"Manufacturers"_s);
   add(makers, u"Add new manufacturer"_s, "mnuAddManufacturer", &frmComponentModels::AddMaker);
   add(makers, u"Rename manufacturer"_s, "mnuRenameManufacturer", &frmComponentModels::RenameMaker);
   add(makers, u"Delete manufacturer"_s, "mnuDeleteManufacturer", &frmComponentModels::DeleteMaker);
-  add(MenuBar()->addMenu(u"Component Types"_s), u"Edit component types"_s, "mnuComponentTypes", [this] {
-    const int type = Type();
-    ShowComponentTypes();
-    ui_->lstTypes->Fill(LoadMajorComponentTypes());
-    ui_->lstTypes->SelectData(type);
-  });
+  add(MenuBar()->addMenu(u"Component Types"_s), u"Edit component types"_s, "mnuComponentTypes",
+      [this] { ShowComponentTypes(); });
   MenuBar()->addAction(u"Exit"_s, this, &frmComponentModels::Cancel);
 }
 
@@ -107,6 +99,11 @@ int frmComponentModels::Manufacturer() const {
 
 void frmComponentModels::ShowType() {
   SavePendingLife();
+  ShowCaptions();
+  LoadModelList(0);
+}
+
+void frmComponentModels::ShowCaptions() {
   const int type = Type();
   const QString name = ComponentTypeName(type).isEmpty() || type == kMisc ? u"Misc Items"_s : TypeInSentence(type);
   ui_->cmdAdd->setText(u"&Add new "_s + name);
@@ -114,13 +111,43 @@ void frmComponentModels::ShowType() {
   ui_->cmdRename->setText(u"&Rename "_s + name);
   ui_->optAll->setText(type == kAad ? u"Display a&ll AAD's"_s : u"Display a&ll"_s);
   ui_->fraLife->setVisible(type != kMisc);
-  LoadModelList(0);
+}
+
+QStringList frmComponentModels::ShowsTables() const {
+  return {u"tblModels"_s, u"tblManufacturers"_s, u"tblComponentTypes"_s};
+}
+
+void frmComponentModels::ReloadForm() {
+  const QList<int> modelsBefore = ui_->lstModels->Ids();
+  const int model = Model();
+  const bool keepsType = ui_->lstTypes->Refill(LoadMajorComponentTypes());
+  const bool keepsMaker = ui_->lstManufacturers->Refill(WithIds(LoadManufacturers()));
+  if (!keepsType) {
+    lifeChanged_ = false;
+    ui_->lstTypes->SetListIndex(0);
+    return;
+  }
+  ShowCaptions();
+  if (!ModelExists(lifeOf_)) lifeChanged_ = false;
+  if (!ui_->lstModels->Refill(ModelsToList())) {
+    const QSignalBlocker quiet(ui_->lstModels);
+    ui_->lstModels->SelectData(NeighbourOf(model, modelsBefore, ui_->lstModels->Ids()));
+    ShowModel();
+    return;
+  }
+  if (!keepsMaker) ShowMaker();
+  if (!lifeChanged_) ShowServiceLife();
+}
+
+IdList frmComponentModels::ModelsToList() const {
+  const bool byMaker = ui_->optManufacturer->isChecked();
+  return WithIds(LoadModels(Type(), byMaker ? qMax(Manufacturer(), 0) : kNoManufacturerSelected));
 }
 
 void frmComponentModels::LoadModelList(int select) {
   SavePendingLife();
   const bool byMaker = ui_->optManufacturer->isChecked();
-  ui_->lstModels->Fill(WithIds(LoadModels(Type(), byMaker ? qMax(Manufacturer(), 0) : kNoManufacturerSelected)));
+  ui_->lstModels->Fill(ModelsToList());
   ui_->lstModels->SelectData(select);
   for (QObject* link : QObjectList{ui_->cmdLink, MenuBar()->findChild<QAction*>(u"mnuLink"_s)})
     link->setProperty("enabled", !byMaker);
@@ -135,14 +162,16 @@ void frmComponentModels::LoadManufacturerList(int select) {
 
 void frmComponentModels::ShowModel() {
   SavePendingLife();
-  const int model = Model();
-  if (model != 0) {
-    const int maker = RepairModelManufacturer(model);
-    const QSignalBlocker quiet(ui_->lstManufacturers);
-    ui_->lstManufacturers->SelectData(maker);
-  }
-  for (QWidget* button : {ui_->cmdRename, ui_->cmdDelete}) button->setEnabled(model != 0);
+  ShowMaker();
+  for (QWidget* button : {ui_->cmdRename, ui_->cmdDelete}) button->setEnabled(Model() != 0);
   ShowServiceLife();
+}
+
+void frmComponentModels::ShowMaker() {
+  if (Model() == 0) return;
+  const int maker = RepairModelManufacturer(Model());
+  const QSignalBlocker quiet(ui_->lstManufacturers);
+  ui_->lstManufacturers->SelectData(maker);
 }
 
 void frmComponentModels::ShowServiceLife() {
@@ -167,8 +196,7 @@ void frmComponentModels::AddModel() {
   const QString caption = ui_->cmdAdd->text().remove(u'&');
   const NewModel added = AddModelByAsking(Type(), Manufacturer(), caption);
   if (added.id == 0) return;
-  if (!added.isNew && ui_->optManufacturer->isChecked()) LoadManufacturerList(ModelManufacturer(added.id));
-  LoadModelList(added.id);
+  ShowModelOfItsMaker(added);
   if (added.isNew && start_.create) {
     created_ = added.id;
     Cancel();
@@ -177,8 +205,15 @@ void frmComponentModels::AddModel() {
 
 void frmComponentModels::AddEnteredPart() {
   MiscItem part;
-  if (!EnterMiscItem(part, {.caption = u"Enter New Misc Item"_s})) return;
-  LoadModelList(AddPart(part.name, part.price, Manufacturer()).id);
+  if (EnterMiscItem(part, {.caption = u"Enter New Misc Item"_s}))
+    ShowModelOfItsMaker(AddPart(part.name, part.price, Manufacturer()));
+}
+
+/// One that was there before may be another maker's than the one that is listed.
+void frmComponentModels::ShowModelOfItsMaker(const NewModel& added) {
+  if (added.id == 0) return;
+  if (!added.isNew && ui_->optManufacturer->isChecked()) LoadManufacturerList(ModelManufacturer(added.id));
+  LoadModelList(added.id);
 }
 
 void frmComponentModels::RenameSelectedModel() {
@@ -188,9 +223,8 @@ void frmComponentModels::RenameSelectedModel() {
   if (Type() == kMisc) {
     MiscItem part{ModelName(model), ModelPrice(model)};
     if (EnterMiscItem(part, {.caption = u"Edit Part"_s})) SavePart(model, part.name, part.price);
-    LoadModelList(model);
-  } else if (RenameModel(model)) {
-    LoadModelList(model);
+  } else {
+    RenameModel(model);
   }
 }
 
@@ -198,7 +232,7 @@ void frmComponentModels::DeleteSelectedModel() {
   const int model = Model();
   if (model == 0) return;
   SavePendingLife();
-  if (DeleteModel(model) == ModelDeletion::Deleted) LoadModelList(0);
+  DeleteModel(model);
 }
 
 void frmComponentModels::AddMaker() {
@@ -211,22 +245,21 @@ void frmComponentModels::AddMaker() {
 
 void frmComponentModels::RenameMaker() {
   const int maker = Manufacturer();
-  if (maker > 0 && RenameManufacturer(maker)) LoadManufacturerList(maker);
+  if (maker > 0) RenameManufacturer(maker);
 }
 
 void frmComponentModels::DeleteMaker() {
   const int maker = Manufacturer();
-  if (maker <= 0 || !DeleteManufacturer(maker)) return;
-  LoadManufacturerList(0);
-  LoadModelList(Model());
+  if (maker > 0) DeleteManufacturer(maker);
 }
 
 void frmComponentModels::Link() {
-  if (Model() != 0 && LinkModelToManufacturer(Model(), Manufacturer())) LoadModelList(Model());
+  if (Model() != 0) LinkModelToManufacturer(Model(), Manufacturer());
 }
 
 void frmComponentModels::DefineServiceLife(bool defined) {
   if (!defined) {
+    lifeChanged_ = false;
     SaveServiceLife(lifeOf_, 0);
     ShowServiceLife();
     return;

@@ -1,7 +1,9 @@
 #pragma once
 #include <memory>
 
+#include "core/lists.h"
 #include "core/widgets/form.h"
+#include "gear/catalogue.h"
 #include "gear/screens.h"
 
 namespace Ui {
@@ -16,6 +18,9 @@ class frmComponentModels : public Form {
   ~frmComponentModels() override;
 
   void SetStart(const ModelScreenStart& start);
+  /// The lists alone while a service life is typed.
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
   /// The model that was added in the start mode that adds one, 0 for none.
   int CreatedModel() const { return created_; }
 
@@ -29,13 +34,17 @@ class frmComponentModels : public Form {
   int Manufacturer() const;  ///< kNoManufacturerSelected when none is
 
   void ShowType();
+  void ShowCaptions();
+  IdList ModelsToList() const;
   void LoadModelList(int select);
   void LoadManufacturerList(int select);
   void ShowModel();
+  void ShowMaker();
   void ShowServiceLife();
 
   void AddModel();
   void AddEnteredPart();
+  void ShowModelOfItsMaker(const NewModel& added);
   void RenameSelectedModel();
   void DeleteSelectedModel();
   void AddMaker();

@@ -14,9 +14,11 @@ class frmComponentTypes : public Form {
   frmComponentTypes();
   ~frmComponentTypes() override;
 
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
+
  private:
   int Type() const;
-  void LoadList(int select);
 
   std::unique_ptr<Ui::frmComponentTypes> ui_;
 };

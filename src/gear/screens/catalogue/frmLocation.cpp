@@ -4,7 +4,6 @@
 #include <QScopedValueRollback>
 
 #include "core/prompts.h"
-#include "core/store/access.h"
 #include "gear/locations.h"
 #include "gear/screens/catalogue/ui_frmLocation.h"
 
@@ -35,6 +34,19 @@ void frmLocation::SetLocation(int id) {
   ShowWhetherDefault();
 }
 
+QStringList frmLocation::ShowsTables() const { return {u"tblLocation"_s}; }
+
+void frmLocation::ReloadForm() {
+  const QList<int> before = ui_->lst->Ids();
+  const bool kept = ui_->lst->Refill(LoadLocations());
+  if (mode_ == Mode::Editing && !kept) SetMode(Mode::NewLocation);
+  if (mode_ == Mode::Browsing) {
+    if (!kept) ui_->lst->SelectData(NeighbourOf(edited_, before, ui_->lst->Ids()));
+    ShowFields();
+  }
+  ShowWhetherDefault();
+}
+
 void frmLocation::ShowWhetherDefault() { ui_->lblNoDefault->setVisible(DefaultLocation() == 0); }
 
 int frmLocation::Location() const { return ui_->lst->ItemData(ui_->lst->ListIndex()); }
@@ -57,6 +69,7 @@ void frmLocation::LoadList(int select) {
 
 void frmLocation::ShowFields() {
   LocationEntry entry;
+  edited_ = Location();
   if (Location() != 0) LoadLocation(Location(), entry);
   ShowEntry(entry);
 }
@@ -85,7 +98,6 @@ void frmLocation::FillRateOfState() {
 }
 
 void frmLocation::AddNew() {
-  ui_->lst->SetListIndex(-1);
   ShowEntry({});
   SetMode(Mode::NewLocation);
   ui_->txtCity->setFocus();
@@ -101,9 +113,7 @@ void frmLocation::ShowDefault() {
 }
 
 void frmLocation::DeleteSelected() {
-  if (Location() == 0 || !DeleteLocation(Location())) return;
-  LoadList(0);
-  ShowWhetherDefault();
+  if (Location() != 0) DeleteLocation(Location());
 }
 
 void frmLocation::ToggleDefault(bool isDefault) {
@@ -113,8 +123,7 @@ void frmLocation::ToggleDefault(bool isDefault) {
   if (isDefault)
     SetDefault(id);
   else
-    TurnOffAllLocationDefaults();
-  if (mode_ == Mode::Browsing) LoadList(id);
+    ClearDefault();
 }
 
 void frmLocation::Accept() {
@@ -135,7 +144,6 @@ void frmLocation::Accept() {
     return;
   }
   LoadList(saved);
-  ShowWhetherDefault();
 }
 
 void frmLocation::Cancel() {

@@ -18,6 +18,9 @@ class frmLocation : public Form {
   ~frmLocation() override;
 
   void SetLocation(int id);
+  /// The list alone while a location is typed; one that has gone meanwhile is saved as a new one.
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
   int Location() const;
 
  protected:
@@ -44,4 +47,5 @@ class frmLocation : public Form {
   QAction* addNew_ = nullptr;
   Mode mode_ = Mode::Browsing;
   bool loading_ = false;
+  int edited_ = 0;  // whose fields are on show
 };

@@ -29,7 +29,7 @@ void frmModel::SetComponent(int component) {
   component_ = component;
   model_ = entry.model;
   type_ = entry.type;
-  ShowModel();
+  ReloadForm();
   ui_->lblSubType->setText(SubTypeLabel(entry.type));
   ui_->txtSerial->setText(entry.serial);
   ui_->txtDom->setText(entry.dom.IsNone() ? QString() : Format(entry.dom, u"mm/dd/yyyy"_s));
@@ -52,10 +52,12 @@ void frmModel::ChooseModel() {
   const int model = PickModel(type_, model_);
   if (model == 0) return;
   model_ = model;
-  ShowModel();
+  ReloadForm();
 }
 
-void frmModel::ShowModel() { ui_->cmdModel->setText(WithoutMnemonic(ModelName(model_))); }
+QStringList frmModel::ShowsTables() const { return {u"tblModels"_s}; }
+
+void frmModel::ReloadForm() { ui_->cmdModel->setText(WithoutMnemonic(ModelName(model_))); }
 
 void frmModel::Save() {
   const QString serial = ui_->txtSerial->text();
@@ -69,7 +71,7 @@ void frmModel::Save() {
     SelectAllInBox(ui_->txtDom);
     return;
   }
-  SaveShortEntry(component_, model_, serial, dom, ui_->txtSubType->text());
+  if (!SaveShortEntry(component_, model_, serial, dom, ui_->txtSubType->text())) return;
   SetTag(u"save"_s);
   Leave();
 }

@@ -16,13 +16,14 @@ class frmModel : public Form {
   ~frmModel() override;
 
   void SetComponent(int component);
+  void ReloadForm() override;  ///< the model's name alone: what is typed stays
+  QStringList ShowsTables() const override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void ChooseModel();
-  void ShowModel();
   void Save();
 
   std::unique_ptr<Ui::frmModel> ui_;

@@ -34,6 +34,21 @@ frmRigTypes::frmRigTypes() : ui_(std::make_unique<Ui::frmRigTypes>()) {
 
 frmRigTypes::~frmRigTypes() = default;
 
+QStringList frmRigTypes::ShowsTables() const {
+  return {u"tblRigTypes"_s, u"tblRigTypeComponents"_s, u"tblComponentTypes"_s};
+}
+
+void frmRigTypes::ReloadForm() {
+  const QList<int> before = ui_->lstType->Ids();
+  const int type = RigType();
+  const bool entered = ui_->cmdSave->isEnabled();
+  const bool kept = ui_->lstType->Refill(LoadRigTypesById());
+  ui_->LstComp->Refill(LoadMajorComponentTypes());
+  if (!kept) ui_->lstType->SelectData(NeighbourOf(type, before, ui_->lstType->Ids()));
+  ShowRigType();
+  EnterComponents(entered && kept);
+}
+
 int frmRigTypes::RigType() const { return ui_->lstType->ItemData(ui_->lstType->ListIndex()); }
 
 /// In the order of their values, from 1.
@@ -42,14 +57,14 @@ QList<QRadioButton*> frmRigTypes::Options() const { return {ui_->optBack, ui_->o
 void frmRigTypes::LoadList(int select) {
   ui_->lstType->Fill(LoadRigTypesById());
   ui_->lstType->SelectData(select);
-  const bool any = ui_->lstType->Count() > 0;
-  ui_->cmdDelete->setEnabled(any);
-  ui_->cmdRename->setEnabled(any);
   ShowRigType();
 }
 
 void frmRigTypes::ShowRigType() {
   const QSignalBlocker quiet(ui_->LstComp);
+  const bool any = ui_->lstType->Count() > 0;
+  ui_->cmdDelete->setEnabled(any);
+  ui_->cmdRename->setEnabled(any);
   const int type = RigType();
   for (int row = 0; row < ui_->LstComp->Count(); ++row)
     ui_->LstComp->SetTicked(row, type != 0 && RigTypeHasComponentType(type, ui_->LstComp->ItemData(row)));
@@ -70,16 +85,12 @@ void frmRigTypes::WriteComponents() {
     EnterComponents(true);
 }
 
-void frmRigTypes::EditComponentList() {
-  ShowComponentTypes();
-  ui_->LstComp->Fill(LoadMajorComponentTypes());
-  ShowRigType();
-}
+void frmRigTypes::EditComponentList() { ShowComponentTypes(); }
 
 void frmRigTypes::AddNew() {
   const int added = AddRigType();
   if (added == 0) return;
-  LoadList(added);
+  ui_->lstType->SelectData(added);
   ui_->optOther->setAutoExclusive(false);
   ui_->optOther->setChecked(false);
   ui_->optOther->setAutoExclusive(true);
@@ -87,23 +98,12 @@ void frmRigTypes::AddNew() {
   ui_->optBack->setFocus();
 }
 
-void frmRigTypes::Rename() {
-  const int type = RigType();
-  if (RenameRigType(type)) LoadList(type);
-}
+void frmRigTypes::Rename() { RenameRigType(RigType()); }
 
 void frmRigTypes::DeleteSelected() {
   const int type = RigType();
-  switch (DeleteRigType(type)) {
-    case RigTypeDeletion::ShowRigs:
-      ShowRigs({.rigType = type, .hideButtons = true, .caption = u"Rig Type: "_s + RigTypeName(type)});
-      break;
-    case RigTypeDeletion::Deleted:
-      LoadList(0);
-      break;
-    case RigTypeDeletion::Kept:
-      break;
-  }
+  if (DeleteRigType(type) == RigTypeDeletion::ShowRigs)
+    ShowRigs({.rigType = type, .hideButtons = true, .caption = u"Rig Type: "_s + RigTypeName(type)});
 }
 
 /// The ticks themselves are written already; what is saved is their sum.

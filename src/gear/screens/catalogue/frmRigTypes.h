@@ -19,6 +19,9 @@ class frmRigTypes : public Form {
   frmRigTypes();
   ~frmRigTypes() override;
 
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
+
  private:
   int RigType() const;
   QList<QRadioButton*> Options() const;

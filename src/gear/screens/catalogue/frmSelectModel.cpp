@@ -19,6 +19,13 @@ frmSelectModel::frmSelectModel() : ui_(std::make_unique<Ui::frmSelectModel>()) {
 
 frmSelectModel::~frmSelectModel() = default;
 
+QStringList frmSelectModel::ShowsTables() const { return {u"tblModels"_s, u"tblComponentTypes"_s}; }
+
+void frmSelectModel::ReloadForm() {
+  ui_->lstTypes->Refill(LoadMajorComponentTypes());
+  ui_->lstModels->Refill(LoadModelsOfType(Type()));
+}
+
 void frmSelectModel::SetModel(int type, int model) {
   ui_->lstTypes->SelectData(type);
   ui_->lstModels->SelectData(model);

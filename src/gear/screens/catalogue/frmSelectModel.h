@@ -15,6 +15,8 @@ class frmSelectModel : public Form {
   ~frmSelectModel() override;
 
   void SetModel(int type, int model);
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
   int Type() const;
   int Model() const;
 

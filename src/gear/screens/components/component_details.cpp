@@ -8,6 +8,10 @@
 
 using namespace Qt::StringLiterals;
 
+QStringList ComponentDetails::ShowsTables() {
+  return {u"tblComponents"_s, u"tblModels"_s, u"tblComponentTypes"_s, u"tblPeople"_s, u"tblRig"_s};
+}
+
 ComponentDetails DetailsOf(int component) {
   const int rig = ComponentRig(component);
   const Date dom = ComponentDom(component);

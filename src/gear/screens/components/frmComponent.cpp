@@ -60,8 +60,7 @@ frmComponent::frmComponent() : ui_(std::make_unique<Ui::frmComponent>()) {
 frmComponent::~frmComponent() = default;
 
 QStringList frmComponent::ShowsTables() const {
-  return {u"tblComponents"_s, u"tblModels"_s,    u"tblComponentTypes"_s, u"tblRig"_s,
-          u"tblPeople"_s,     u"tblSchedules"_s, u"tblTaskLib"_s};
+  return ScheduleGrid::ShowsTables() + QStringList{u"tblComponentTypes"_s, u"tblPeople"_s};
 }
 
 void frmComponent::MakeMenu() {
@@ -72,7 +71,9 @@ void frmComponent::MakeMenu() {
     photo->addAction(text)->setEnabled(false);
   MenuBar()->addMenu(u"Owner"_s)->addAction(u"Select/Change Owner"_s, this, &frmComponent::ChangeOwner);
   MenuBar()->addAction(u"Rig"_s, this, &frmComponent::ShowItsRig);
-  MenuBar()->addAction(u"History"_s, this, [this] { OpenComponentHistory(component_); });
+  MenuBar()->addAction(u"History"_s, this, [this] {
+    if (ComponentExists(component_)) OpenComponentHistory(component_);
+  });
   MenuBar()->addAction(u"Exit"_s, this, &frmComponent::Cancel);
 }
 
@@ -106,7 +107,7 @@ void frmComponent::ShowFields() {
   ui_->txtComment->setPlainText(entry.comment.trimmed().isEmpty() ? QString() : entry.comment);
   ui_->cmdChangeModel->setText(u"Change "_s + type + u" &Model"_s);
   ui_->cmdRemove->setText(u"Remo&ve "_s + type + u" from rig"_s);
-  ui_->cmdRemove->setVisible(entry.rig != 0);
+  ui_->cmdRemove->setVisible(RigExists(entry.rig));
   for (QPushButton* button : {ui_->cmdEdit, ui_->cmdChangeModel}) button->setEnabled(entry.id != 0);
 }
 
@@ -143,28 +144,24 @@ void frmComponent::Edit() {
   noReload_ = true;
   const int edited = EditComponent(component_);
   noReload_ = false;
-  if (edited == 0) return;
-  component_ = edited;
-  Changed();
+  SetComponent(edited != 0 ? edited : component_);
 }
 
 void frmComponent::ChangeModel() {
   if (!MayChange()) return;
   const int model = PickModel(ComponentTypeOf(component_), ComponentModel(component_));
-  if (model == 0) return;
-  SetComponentModel(component_, model);
-  Changed();
+  if (model != 0) SetComponentModel(component_, model);
 }
 
 void frmComponent::RemoveFromRig() {
-  if (MayChange() && RemoveFromItsRig(component_)) Changed();
+  if (MayChange()) RemoveFromItsRig(component_);
 }
 
 void frmComponent::ChangeOwner() {
   if (!MayChange()) return;
   const int picked = PickItem(kPickCustomer, 0, ComponentOwner(component_)).id;
   const int owner = picked == kPickAddNewPerson || picked == kPickAddNew ? ShowPeople(kPeopleAddNew) : picked;
-  if (owner > 0 && ChangeComponentOwner(component_, owner)) Changed();
+  if (owner > 0) ChangeComponentOwner(component_, owner);
 }
 
 void frmComponent::ShowItsRig() {
@@ -178,8 +175,6 @@ void frmComponent::ShowItsRig() {
 void frmComponent::UpdateTask() {
   const int entry = ScheduleGrid::EntryToUpdate(*ui_->Grid2);
   if (entry == 0 || !MayChange()) return;
-  const int rig = ComponentRig(component_);
+  const int rig = RigExists(ComponentRig(component_)) ? ComponentRig(component_) : 0;
   UpdateScheduledTask(entry, rig, EntryIsOfOneType(entry) ? component_ : 0);
 }
-
-void frmComponent::Changed() { ReloadForm(); }

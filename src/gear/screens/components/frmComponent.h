@@ -37,7 +37,6 @@ class frmComponent : public Form {
   void ChangeOwner();
   void ShowItsRig();
   void UpdateTask();
-  void Changed();
 
   std::unique_ptr<Ui::frmComponent> ui_;
   int component_ = 0;

@@ -23,14 +23,20 @@ frmComponentEdit::frmComponentEdit() : ui_(std::make_unique<Ui::frmComponentEdit
 
 frmComponentEdit::~frmComponentEdit() = default;
 
+QStringList frmComponentEdit::ShowsTables() const { return {u"tblModels"_s, u"tblPeople"_s, u"tblRig"_s}; }
+
+void frmComponentEdit::ReloadForm() {
+  ui_->lblModel->setText(ModelName(entry_.model));
+  ui_->lblOwner->setText(PersonExists(entry_.owner) ? PersonDisplayName(entry_.owner) : u"none"_s);
+  ui_->lblRigTitle->setText(RigExists(entry_.rig) ? RigName(entry_.rig) : u"none"_s);
+}
+
 void frmComponentEdit::SetEntry(const ComponentEntry& entry) {
   entry_ = entry;
   result_ = 0;
   const bool isNew = entry.id == 0;
   setWindowTitle(isNew ? u"Enter new "_s + TypeInSentence(entry.type) : u"Edit component"_s);
-  ui_->lblModel->setText(ModelName(entry.model));
-  ui_->lblOwner->setText(PersonExists(entry.owner) ? PersonDisplayName(entry.owner) : u"none"_s);
-  ui_->lblRigTitle->setText(RigExists(entry.rig) ? RigName(entry.rig) : u"none"_s);
+  ReloadForm();
   ui_->lblSubType->setText(SubTypeLabel(entry.type));
   ui_->txtSubType->setText(entry.subType);
   ui_->txtSerial->setText(entry.serial);

@@ -18,6 +18,9 @@ class frmComponentEdit : public Form {
 
   /// An entry without an id is a new component.
   void SetEntry(const ComponentEntry& entry);
+  /// The names around the boxes alone: what is typed stays.
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
   int Result() const { return result_; }  ///< the component saved or switched to, 0 for none
 
  protected:

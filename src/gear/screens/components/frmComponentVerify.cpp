@@ -19,9 +19,17 @@ frmComponentVerify::frmComponentVerify() : ui_(std::make_unique<Ui::frmComponent
 
 frmComponentVerify::~frmComponentVerify() = default;
 
-void frmComponentVerify::SetComponent(int component, const QString& caption, bool exitOnly) {
-  const ComponentDetails details = DetailsOf(component);
-  setWindowTitle(caption.isEmpty() ? u"Select Component"_s : caption);
+QStringList frmComponentVerify::ShowsTables() const { return ComponentDetails::ShowsTables(); }
+
+void frmComponentVerify::ReloadForm() {
+  if (ComponentExists(component_))
+    ShowDetails();
+  else
+    Cancel();
+}
+
+void frmComponentVerify::ShowDetails() {
+  const ComponentDetails details = DetailsOf(component_);
   ui_->lblModel->setText(details.model);
   ui_->lblSerial->setText(details.serial);
   ui_->lblOwner->setText(details.owner);
@@ -30,7 +38,13 @@ void frmComponentVerify::SetComponent(int component, const QString& caption, boo
   ui_->lblDom->setText(details.dom);
   ui_->capRig->setVisible(details.hasRig);
   ui_->lblRig->setVisible(details.hasRig);
-  ui_->lblQuestion->setText(u"Select this "_s + TypeInSentence(ComponentTypeOf(component)) + u'?');
+  ui_->lblQuestion->setText(u"Select this "_s + TypeInSentence(ComponentTypeOf(component_)) + u'?');
+}
+
+void frmComponentVerify::SetComponent(int component, const QString& caption, bool exitOnly) {
+  component_ = component;
+  setWindowTitle(caption.isEmpty() ? u"Select Component"_s : caption);
+  ShowDetails();
   ui_->lblQuestion->setVisible(!exitOnly);
   ui_->cmdYes->setVisible(!exitOnly);
   ui_->cmdNo->setText(exitOnly ? u"Exit"_s : u"&No"_s);

@@ -16,7 +16,12 @@ class frmComponentVerify : public Form {
 
   /// With `exitOnly` there is nothing to decide. An empty caption leaves the screen's own.
   void SetComponent(int component, const QString& caption, bool exitOnly);
+  void ReloadForm() override;  ///< leaves when the component has gone
+  QStringList ShowsTables() const override;
 
  private:
+  void ShowDetails();
+
+  int component_ = 0;
   std::unique_ptr<Ui::frmComponentVerify> ui_;
 };

@@ -22,9 +22,15 @@ frmNewOrOld::~frmNewOrOld() = default;
 void frmNewOrOld::SetComponentType(int type) {
   type_ = type;
   command_ = u"cancel"_s;
-  const QString name = TypeInSentence(type);
-  setWindowTitle(u"New "_s + (name.isEmpty() ? u"Component"_s : name));
+  ReloadForm();
   ui_->txtSerial->clear();
+}
+
+QStringList frmNewOrOld::ShowsTables() const { return {u"tblComponentTypes"_s}; }
+
+void frmNewOrOld::ReloadForm() {
+  const QString name = TypeInSentence(type_);
+  setWindowTitle(u"New "_s + (name.isEmpty() ? u"Component"_s : name));
 }
 
 void frmNewOrOld::EnterSerial() {

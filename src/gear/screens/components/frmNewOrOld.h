@@ -15,6 +15,8 @@ class frmNewOrOld : public Form {
   ~frmNewOrOld() override;
 
   void SetComponentType(int type);
+  void ReloadForm() override;  ///< the title alone: what is typed stays
+  QStringList ShowsTables() const override;
   /// "new", "select", "load component:<id>", "s/n <serial>", "new with s/n:<serial>" or "cancel".
   QString Command() const { return command_; }
 

@@ -74,11 +74,12 @@ void frmPickComponent::SetChoice(int type, int owner) {
   const QSignalBlocker quietTypes(ui_->lstTypes);
   ui_->chkAllTypes->setChecked(!ui_->lstTypes->SelectData(type));
   owner_ = owner;
+  chosen_ = 0;
   (owner == 0 ? ui_->optAnyOwner : ui_->optSelectedOwner)->setChecked(true);
   LoadGrid();
 }
 
-int frmPickComponent::Component() const { return ui_->grid->RowData(ui_->grid->CurrentRow()); }
+int frmPickComponent::Selected() const { return ui_->grid->RowData(ui_->grid->CurrentRow()); }
 
 ComponentFilter frmPickComponent::Filter() const {
   using Rigs = ComponentFilter::Rigs;
@@ -88,6 +89,25 @@ ComponentFilter frmPickComponent::Filter() const {
                                                     : Rigs::Both;
   return {all ? 0 : ui_->lstTypes->ItemData(ui_->lstTypes->ListIndex()),
           ui_->optSelectedOwner->isChecked() ? owner_ : 0, model_, rigs};
+}
+
+QStringList frmPickComponent::ShowsTables() const {
+  return {u"tblComponents"_s, u"tblModels"_s, u"tblComponentTypes"_s, u"tblPeople"_s, u"tblRig"_s};
+}
+
+/// Keeps the row that is selected without choosing it anew, which may ask and write.
+void frmPickComponent::ReloadForm() {
+  const QSignalBlocker quietBox(ui_->chkAllTypes);
+  const QSignalBlocker quietOwner(ui_->optAnyOwner);
+  const QSignalBlocker quietGrid(ui_->grid);
+  if (!ui_->lstTypes->Refill(LoadMajorComponentTypes())) ui_->chkAllTypes->setChecked(true);
+  if (!PersonExists(owner_)) owner_ = 0;
+  if (owner_ == 0) ui_->optAnyOwner->setChecked(true);
+  if (!ModelExists(model_)) model_ = 0;
+  const int component = Selected();
+  const int column = ui_->grid->CurrentColumn();
+  LoadGrid();
+  if (component != 0) ui_->grid->SelectCell(ui_->grid->FindRow(component), column);
 }
 
 void frmPickComponent::LoadGrid() {
@@ -144,11 +164,13 @@ void frmPickComponent::ChooseModels() {
 }
 
 void frmPickComponent::Select() {
-  if (Component() == 0) {
+  const int component = Selected();
+  if (component == 0) {
     MsgBox(u"Please select a component"_s, u"Nothing selected"_s);
     return;
   }
-  CheckComponentType(Component());
+  chosen_ = component;
+  CheckComponentType(component);
   SetTag(u"select"_s);
   Leave();
 }
@@ -160,6 +182,4 @@ void frmPickComponent::keyPressEvent(QKeyEvent* event) {
     Form::keyPressEvent(event);
 }
 
-void frmPickComponent::Delete() {
-  if (DeleteComponent(Component())) LoadGrid();
-}
+void frmPickComponent::Delete() { DeleteComponent(Selected()); }

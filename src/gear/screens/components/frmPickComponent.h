@@ -17,7 +17,9 @@ class frmPickComponent : public Form {
 
   /// What is shown first: a type (0 for all), and the components of an owner where one is given.
   void SetChoice(int type, int owner);
-  int Component() const;
+  int Component() const { return chosen_; }  ///< 0 until one was chosen
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -25,6 +27,7 @@ class frmPickComponent : public Form {
  private:
   ComponentFilter Filter() const;
   void LoadGrid();
+  int Selected() const;
   void ChooseRow(int row);
   void ChooseOwner();
   void ChooseModels();
@@ -35,5 +38,6 @@ class frmPickComponent : public Form {
   std::unique_ptr<Ui::frmPickComponent> ui_;
   int owner_ = 0;
   int model_ = 0;
+  int chosen_ = 0;
   bool choosing_ = false;
 };

@@ -46,9 +46,22 @@ QString frmSerialNumber::TextOfRow(int row) const { return ui_->lst->ItemText(ro
 
 int frmSerialNumber::Component() const { return ui_->lst->ItemData(ui_->lst->ListIndex()); }
 
+QStringList frmSerialNumber::ShowsTables() const { return ComponentDetails::ShowsTables(); }
+
+void frmSerialNumber::ReloadForm() {
+  const QSignalBlocker quiet(ui_->chkAllTypes);
+  if (!ui_->lstTypes->Refill(LoadMajorComponentTypes())) ui_->chkAllTypes->setChecked(true);
+  ui_->lst->Refill(::LoadSerials(ListedType()));
+  ShowDetails();
+}
+
+/// 0 for all types.
+int frmSerialNumber::ListedType() const {
+  return ui_->chkAllTypes->isChecked() ? 0 : ui_->lstTypes->ItemData(ui_->lstTypes->ListIndex());
+}
+
 void frmSerialNumber::LoadSerials() {
-  const bool all = ui_->chkAllTypes->isChecked();
-  ui_->lst->Fill(::LoadSerials(all ? 0 : ui_->lstTypes->ItemData(ui_->lstTypes->ListIndex())));
+  ui_->lst->Fill(::LoadSerials(ListedType()));
   FindTyped(ui_->txtSerial->text());
   ShowDetails();
 }
@@ -92,10 +105,7 @@ void frmSerialNumber::Edit() {
     MsgBox(u"You must select a component first"_s, u"Nothing selected"_s);
     return;
   }
-  const int component = Component();
-  ShowComponent(component);
-  LoadSerials();
-  ui_->lst->SelectData(component);
+  ShowComponent(Component());
 }
 
 void frmSerialNumber::ShowRig() {

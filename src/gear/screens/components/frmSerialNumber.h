@@ -16,8 +16,11 @@ class frmSerialNumber : public Form {
 
   void SetSearch(int componentType, const QString& serial);
   int Component() const;
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
+  int ListedType() const;
   void LoadSerials();
   void FindTyped(const QString& typed);
   void ShowDetails();

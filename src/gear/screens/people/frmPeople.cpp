@@ -10,6 +10,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/widgets/modal_use.h"
 #include "gear/people.h"
 #include "gear/person_deletion.h"
 #include "gear/person_due.h"
@@ -69,7 +70,7 @@ void frmPeople::MakeMenu() {
 
 void frmPeople::showEvent(QShowEvent* event) {
   Form::showEvent(event);
-  if (!event->spontaneous()) Start(std::exchange(start_, 0));
+  if (!event->spontaneous() && (start_ != 0 || current_ < 1)) Start(std::exchange(start_, 0));
 }
 
 void frmPeople::Start(int start) {
@@ -103,14 +104,37 @@ void frmPeople::Start(int start) {
   }
 }
 
+int frmPeople::GoTo(int start) {
+  if (start == kPeopleAddNew) {
+    const int shown = current_;
+    const int added = AddNew() ? current_ : 0;
+    if (isModal() && shown > 0) Display(shown);
+    return added;
+  }
+  if (!isModal() && start == kPeoplePick) Search();
+  if (!isModal() && start > 0) Display(start);
+  return qMax(current_, 0);
+}
+
 void frmPeople::LoadList() {
   const bool wasLoading = std::exchange(loading_, true);
-  ui_->lstPeople->Fill(GetArrayOfPeopleExpanded());
-  ui_->lstPeople->SelectData(current_);
+  ui_->lstPeople->Refill(GetArrayOfPeopleExpanded());
+  if (ui_->lstPeople->ItemData(ui_->lstPeople->ListIndex()) != current_) ui_->lstPeople->SelectData(current_);
   loading_ = wasLoading;
 }
 
-void frmPeople::ReloadForm() { Refresh(); }
+void frmPeople::ReloadForm() {
+  const QList<int> before = ui_->lstPeople->Ids();
+  LoadList();
+  if (current_ < 1) return;
+  const int shown = PersonExists(current_) ? current_ : NeighbourOf(current_, before, ui_->lstPeople->Ids());
+  if (shown != 0) {
+    Display(shown);
+  } else {
+    current_ = 0;
+    Cancel();
+  }
+}
 
 void frmPeople::Refresh() {
   LoadList();
@@ -136,6 +160,7 @@ void frmPeople::Display(int id) {
   ShowState();
   ShowRigsAndDue(id);
   ShowEnds(id);
+  if (ui_->lstPeople->FindData(id) < 0) LoadList();
   loading_ = true;
   ui_->lstPeople->SelectData(id);
   loading_ = false;
@@ -228,55 +253,41 @@ void frmPeople::Move(int neighbour, bool forward) {
 }
 
 bool frmPeople::AddNew() {
-  const int previous = current_;
+  Person person;
   SetLocked(true);
-  auto& editor = SharedForm<frmPeopleEdit>();
-  editor.SetPerson({}, true);
-  editor.ShowModal();
-  const bool saved = editor.Tag() == "save"_L1;
-  const Person person = editor.Edited();
-  editor.UnloadForm();
+  const bool saved = Edit(person, true);
   locked_ = false;
-  if (saved) {
-    current_ = SaveNewOwner(person, std::exchange(ownerPending_, false));
-    LoadList();
-  } else {
-    current_ = previous;
-  }
-  Display(current_);
-  return saved;
+  const bool isOwner = saved && std::exchange(ownerPending_, false);
+  const int added = saved ? SaveNewOwner(person, isOwner) : 0;
+  if (isOwner) savedOwner_ = added;
+  Display(added != 0 ? added : current_);
+  return added != 0;
+}
+
+bool frmPeople::Edit(Person& person, bool isNew) {
+  const ModalUse<frmPeopleEdit> editor;
+  if (!editor) return false;
+  editor->SetPerson(person, isNew);
+  editor->ShowModal();
+  person = editor->Edited();
+  return editor->Tag() == "save"_L1;
 }
 
 void frmPeople::EditPerson() {
   if (current_ < 1 || ui_->lstPeople->ListIndex() < 0) return;
+  const int edited = current_;
   Person person;
-  if (!LoadPerson(current_, person)) return;
-  auto& editor = SharedForm<frmPeopleEdit>();
-  editor.SetPerson(person, false);
-  editor.ShowModal();
-  if (editor.Tag() == "save"_L1) {
-    UpdateOwner(current_, editor.Edited());
-    LoadList();
-    Display(current_);
-  }
-  editor.UnloadForm();
+  if (LoadPerson(edited, person) && Edit(person, false)) UpdateOwner(edited, person);
 }
 
 void frmPeople::DeletePerson() {
   if (current_ < 1 || ui_->lstPeople->ListIndex() < 0) return;
   int neighbour = 0;
-  if (!DeleteCustomer(current_, neighbour)) return;
-  current_ = neighbour;
-  LoadList();
-  if (neighbour == 0)
-    Cancel();
-  else
-    Display(neighbour);
+  DeleteCustomer(current_, neighbour);
 }
 
 void frmPeople::Search() {
-  const int previous = current_;
-  const int picked = PickItem(kPickCustomer, 0, previous).id;
+  const int picked = PickItem(kPickCustomer, 0, current_).id;
   if (picked == kPickAddNew || picked == kPickAddNewPerson) {
     AddNew();
   } else if (picked > 0) {
@@ -284,13 +295,9 @@ void frmPeople::Search() {
     ui_->cmdNext->setEnabled(true);
     ui_->cmdPrev->setEnabled(true);
   }
-  LoadList();
 }
 
-void frmPeople::OpenRigs() {
-  ShowRigs({.customer = current_});
-  Refresh();
-}
+void frmPeople::OpenRigs() { ShowRigs({.customer = current_}); }
 
 void frmPeople::WriteRigger(bool rigger) {
   if (!loading_ && current_ > 0) SetRiggerFlag(current_, rigger);

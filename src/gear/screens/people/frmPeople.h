@@ -24,6 +24,10 @@ class frmPeople : public Form {
   /// The next person who is saved is the owner of the program.
   void SetOwnerSetup(bool setup) { ownerSetup_ = ownerPending_ = setup; }
   int CurrentPerson() const { return current_; }
+  int SavedOwner() const { return savedOwner_; }  ///< who was saved as the owner of the program, 0 for nobody
+  /// What a start asks for, on the screen that is open already: the person who was added, else the one shown, 0 for
+  /// nobody. While somebody waits for this screen's person, it stays on that one.
+  int GoTo(int start);
   void ReloadForm() override;
   QStringList ShowsTables() const override;
 
@@ -43,6 +47,8 @@ class frmPeople : public Form {
   void SetLocked(bool locked);
   void Move(int neighbour, bool forward);
   bool AddNew();
+  /// Lets the person be typed; true when the editor ended with Save.
+  bool Edit(Person& person, bool isNew);
   void EditPerson();
   void DeletePerson();
   void Search();
@@ -60,6 +66,7 @@ class frmPeople : public Form {
   QAction* mnuReviewJobs_ = nullptr;
   int start_ = 0;
   int current_ = -1;
+  int savedOwner_ = 0;
   bool ownerSetup_ = false;
   bool ownerPending_ = false;
   bool locked_ = false;

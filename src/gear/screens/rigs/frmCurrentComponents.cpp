@@ -15,8 +15,15 @@ frmCurrentComponents::frmCurrentComponents() : ui_(std::make_unique<Ui::frmCurre
 
 frmCurrentComponents::~frmCurrentComponents() = default;
 
+QStringList frmCurrentComponents::ShowsTables() const { return RigGrid::ShowsTables(); }
+
 void frmCurrentComponents::SetRig(int rig) {
-  const int shown = RigExists(rig) ? rig : 0;
+  rig_ = rig;
+  ReloadForm();
+}
+
+void frmCurrentComponents::ReloadForm() {
+  const int shown = RigExists(rig_) ? rig_ : 0;
   ui_->lblRigName->setText(RigName(shown));
   ui_->lblRigType->setText(RigTypeName(RigType(shown)));
   RigGrid::Fill(*ui_->grid, shown);

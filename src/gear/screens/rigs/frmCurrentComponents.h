@@ -15,7 +15,10 @@ class frmCurrentComponents : public Form {
   ~frmCurrentComponents() override;
 
   void SetRig(int rig);
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
   std::unique_ptr<Ui::frmCurrentComponents> ui_;
+  int rig_ = 0;
 };

@@ -24,12 +24,26 @@ frmDeleteSystem::frmDeleteSystem() : ui_(std::make_unique<Ui::frmDeleteSystem>()
 
 frmDeleteSystem::~frmDeleteSystem() = default;
 
+QStringList frmDeleteSystem::ShowsTables() const { return RigGrid::ShowsTables(); }
+
+void frmDeleteSystem::ReloadForm() {
+  if (RigExists(rig_))
+    ShowRig();
+  else
+    Cancel();
+}
+
+void frmDeleteSystem::ShowRig() {
+  ui_->lblTitle->setText(RigName(rig_));
+  ui_->lblRigType->setText(u"Rig Type: "_s + RigTypeName(RigType(rig_)));
+  RigGrid::Fill(*ui_->grid, rig_);
+}
+
 void frmDeleteSystem::SetRig(int rig, bool showOnly) {
+  rig_ = rig;
   showOnly_ = showOnly;
   setWindowTitle(showOnly ? u"Show rig"_s : u"Delete System?"_s);
-  ui_->lblTitle->setText(RigName(rig));
-  ui_->lblRigType->setText(u"Rig Type: "_s + RigTypeName(RigType(rig)));
-  RigGrid::Fill(*ui_->grid, rig);
+  ShowRig();
   for (QPushButton* button : {ui_->cmdYes, ui_->cmdNo, ui_->cmdCancel, ui_->cmdHelp}) button->setVisible(!showOnly);
   ui_->lblNote->setVisible(!showOnly);
   ui_->cmdExit->setVisible(showOnly);

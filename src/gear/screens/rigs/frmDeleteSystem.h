@@ -15,6 +15,8 @@ class frmDeleteSystem : public Form {
   ~frmDeleteSystem() override;
 
   void SetRig(int rig, bool showOnly);
+  void ReloadForm() override;  ///< ends as cancelled when the rig has gone
+  QStringList ShowsTables() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -24,7 +26,9 @@ class frmDeleteSystem : public Form {
   bool AnswerKey(const QKeyEvent& event);
   void Answer(const QString& tag);
   void ShowHelp();
+  void ShowRig();
 
   std::unique_ptr<Ui::frmDeleteSystem> ui_;
+  int rig_ = 0;
   bool showOnly_ = false;
 };

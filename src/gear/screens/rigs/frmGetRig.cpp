@@ -54,11 +54,7 @@ frmGetRig::frmGetRig() : ui_(std::make_unique<Ui::frmGetRig>()) {
 
 frmGetRig::~frmGetRig() = default;
 
-QStringList frmGetRig::ShowsTables() const {
-  return {u"tblRig"_s,           u"tblPeople"_s,   u"tblComponents"_s,        u"tblModels"_s,
-          u"tblManufacturers"_s, u"tblRigTypes"_s, u"tblRigTypeComponents"_s, u"tblComponentTypes"_s,
-          u"tblSchedules"_s,     u"tblTaskLib"_s};
-}
+QStringList frmGetRig::ShowsTables() const { return RigBrowser::ShowsTables() + ScheduleGrid::ShowsTables(); }
 
 void frmGetRig::MakeMenu() {
   const auto add = [this](QMenu* menu, const QString& text, auto command) {
@@ -99,6 +95,23 @@ void frmGetRig::MakeMenu() {
 }
 
 void frmGetRig::SetStart(const RigScreenStart& start) {
+  SetMode(start);
+  ui_->browser->Begin(start.customer, start.rig, start.rigType);
+}
+
+void frmGetRig::GoTo(const RigScreenStart& start) {
+  SetMode(start);
+  const bool isShown =
+      start.rig != 0 ? start.rig == Rig() : start.customer == 0 || start.customer == ui_->browser->Customer();
+  if (!isShown || (start.rigType != 0 && start.rigType != ui_->browser->RigTypeFilter()))
+    ui_->browser->Begin(start.customer, start.rig, start.rigType);
+  else
+    ShowState();
+}
+
+int frmGetRig::Rig() const { return ui_->browser->Rig(); }
+
+void frmGetRig::SetMode(const RigScreenStart& start) {
   hideButtons_ = start.hideButtons;
   setWindowTitle(start.caption.isEmpty() ? u"Rigs"_s : start.caption);
   ui_->cmdExit->setVisible(!hideButtons_);
@@ -106,15 +119,12 @@ void frmGetRig::SetStart(const RigScreenStart& start) {
        {ui_->cmdEnter, ui_->cmdRemove, ui_->cmdAddRig, ui_->cmdRename, ui_->cmdDeleteRig, ui_->cmdUpdateTask})
     button->setVisible(!hideButtons_);
   ui_->browser->SetFixed(hideButtons_);
-  ui_->browser->Begin(start.customer, start.rig, start.rigType);
 }
 
-void frmGetRig::ReloadForm() {
-  if (!ui_->browser->ReloadLists()) ui_->browser->ReloadRig();
-}
+void frmGetRig::ReloadForm() { ui_->browser->Reload(); }
 
 void frmGetRig::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Delete && !hideButtons_)
+  if (event->key() == Qt::Key_Delete)
     DeleteRig();
   else
     Form::keyPressEvent(event);
@@ -148,16 +158,11 @@ void frmGetRig::ShowState() {
 void frmGetRig::Search() {
   const int picked = PickItem(kPickCustomer, 0, ui_->browser->Customer()).id;
   const int person = picked == kPickAddNewPerson || picked == kPickAddNew ? ShowPeople(kPeopleAddNew) : picked;
-  if (person < 1) return;
-  ui_->browser->ReloadLists();
-  ui_->browser->SelectCustomer(person);
+  if (person > 0) ui_->browser->SelectCustomer(person);
 }
 
 void frmGetRig::AddCustomer() {
-  const int person = ::AddCustomer();
-  if (person == 0) return;
-  ui_->browser->ReloadLists();
-  ui_->browser->SelectCustomer(person);
+  if (const int person = ::AddCustomer(); person != 0) ui_->browser->SelectCustomer(person);
 }
 
 void frmGetRig::DeleteCustomer() {
@@ -166,7 +171,8 @@ void frmGetRig::DeleteCustomer() {
     MsgBox(u"Please select a customer"_s, u"No Customer Selected"_s);
     return;
   }
-  if (DeleteCustomerFromRigScreen(customer)) ui_->browser->Begin(0, 0, ui_->browser->RigTypeFilter());
+  int neighbour = 0;
+  if (DeleteCustomerFromRigScreen(customer, neighbour)) ui_->browser->ShowCustomer(neighbour);
 }
 
 void frmGetRig::AddRig() {
@@ -180,8 +186,8 @@ void frmGetRig::AddRig() {
   const int type = ChooseTypeOfNewRig();
   if (type == 0) return;
   const int rig = CreateRig(customer, type, name);
-  ui_->browser->ReloadLists();
-  ui_->browser->SelectRig(rig);
+  if (rig == 0) return;
+  ui_->browser->ShowRig(rig);
   ui_->browser->SelectComponentRow(0);
   MsgBox(Lines({u"Rig: "_s + RigName(rig) + u" has been created."_s, QString(),
                 u"To select this rig's components, click on the grid"_s,
@@ -190,7 +196,7 @@ void frmGetRig::AddRig() {
 }
 
 void frmGetRig::RenameRig() {
-  if (ui_->browser->Rig() != 0 && ::RenameRig(ui_->browser->Rig())) ui_->browser->ReloadLists();
+  if (Rig() != 0) ::RenameRig(Rig());
 }
 
 void frmGetRig::ChangeOwner() {
@@ -200,7 +206,7 @@ void frmGetRig::ChangeOwner() {
   if (picked == kPickAddNew || picked == kPickAddNewPerson)
     MsgBox(u"new customer"_s);
   else if (ChangeRigOwner(rig, picked))
-    ui_->browser->Begin(ui_->browser->ShowsSelectedOnly() ? picked : 0, rig, ui_->browser->RigTypeFilter());
+    ui_->browser->ShowRig(rig);
 }
 
 void frmGetRig::ChangeType() {
@@ -209,11 +215,12 @@ void frmGetRig::ChangeType() {
   const int picked = PickItem(kPickRigType, 0, RigType(rig)).id;
   if (picked == kPickAddNew || picked == kPickAddNewPerson)
     MsgBox(u"new customer"_s);
-  else if (ChangeRigType(rig, picked))
-    ReloadForm();
+  else
+    ChangeRigType(rig, picked);
 }
 
 void frmGetRig::DeleteRig() {
+  if (hideButtons_) return;
   const int rig = ui_->browser->Rig();
   const int customer = ui_->browser->Customer();
   if (ui_->browser->ShowsSelectedOnly() && customer != 0 && NumberOfRigs(customer) == 0) {
@@ -224,9 +231,7 @@ void frmGetRig::DeleteRig() {
     MsgBox(u"Please select a rig to delete"_s, u"No rig selected"_s);
     return;
   }
-  if (!ConfirmRigDeletion(rig)) return;
-  ::DeleteRig(rig);
-  ui_->browser->ReloadLists();
+  if (ConfirmRigDeletion(rig)) ::DeleteRig(rig);
 }
 
 void frmGetRig::ShowHistory() {
@@ -243,13 +248,12 @@ void frmGetRig::FilterByType() {
 }
 
 void frmGetRig::EditRigComments() {
+  if (hideButtons_) return;
   const int rig = ui_->browser->Rig();
   if (rig == 0) {
     MsgBox(u"You must select a rig"_s, u"Comments"_s);
     return;
   }
   const auto comment = EditComments(u"Rig: "_s + RigName(rig), RigComment(rig));
-  if (!comment) return;
-  SetRigComment(rig, *comment);
-  ui_->browser->ReloadRig();
+  if (comment) SetRigComment(rig, *comment);
 }

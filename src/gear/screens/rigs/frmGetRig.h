@@ -18,6 +18,9 @@ class frmGetRig : public Form {
   ~frmGetRig() override;
 
   void SetStart(const RigScreenStart& start);
+  /// The same on the screen that is open already: what was not asked for stays as it is.
+  void GoTo(const RigScreenStart& start);
+  int Rig() const;
   void ReloadForm() override;
   QStringList ShowsTables() const override;
 
@@ -26,6 +29,7 @@ class frmGetRig : public Form {
 
  private:
   void MakeMenu();
+  void SetMode(const RigScreenStart& start);
   void ShowRig();
   void ReloadSchedule();
   void UpdateTask();
@@ -44,13 +48,12 @@ class frmGetRig : public Form {
   void EnterComponent();
   void EditQuickly();
   void FillPlace(int type);
-  void CreateInPlace(int type, int model, const QString& serial);
-  void Install(int component);
-  void OfferRepack(int component);
+  void CreateInPlace(int rig, int type, int model, const QString& serial);
+  void Install(int rig, int component);
   void RemoveComponent();
 
   std::unique_ptr<Ui::frmGetRig> ui_;
   QList<QAction*> rigCommands_;  // wait for a rig
   QList<QAction*> changes_;      // not for a plain display
-  bool hideButtons_ = false;
+  bool hideButtons_ = false;     // a plain display, which changes nothing
 };

@@ -1,16 +1,12 @@
-#include "core/clock.h"
-#include "core/default_rows.h"
 #include "core/prompts.h"
 #include "gear/component_rules.h"
 #include "gear/components.h"
-#include "gear/models.h"
 #include "gear/rig_rules.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/rigs/frmGetRig.h"
 #include "gear/screens/rigs/ui_frmGetRig.h"
-#include "schedule/completions.h"
-#include "schedule/schedule.h"
+#include "schedule/install.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,55 +22,42 @@ void frmGetRig::EnterComponent() {
     ShowComponent(component);
   else
     FillPlace(ui_->browser->ComponentType());
-  ui_->browser->ReloadRig();
 }
 
 void frmGetRig::EditQuickly() {
   const int component = ui_->browser->Component();
   if (hideButtons_ || component == 0 || !AgreesWithComponentList(component)) return;
-  if (EditComponentQuickly(component)) ui_->browser->ReloadRig();
+  EditComponentQuickly(component);
 }
 
 void frmGetRig::FillPlace(int type) {
+  const int rig = Rig();
   const QString command = AskNewOrOld(type);
   const auto behind = [&command](QStringView start) { return command.mid(start.size()); };
   if (command == "new"_L1) {
-    CreateInPlace(type, PickModel(type), QString());
+    CreateInPlace(rig, type, PickModel(type), QString());
   } else if (command.startsWith("new with s/n:"_L1)) {
-    CreateInPlace(type, PickModel(type), behind(u"new with s/n:"));
+    CreateInPlace(rig, type, PickModel(type), behind(u"new with s/n:"));
   } else if (command == "select"_L1) {
-    if (const int component = PickComponent(type); component != 0) Install(component);
+    if (const int component = PickComponent(type); component != 0) Install(rig, component);
   } else if (command.startsWith("load component:"_L1)) {
     const int component = behind(u"load component:").toInt();
-    if (VerifyComponent(component)) Install(component);
+    if (VerifyComponent(component)) Install(rig, component);
   } else if (command.startsWith("s/n "_L1)) {
-    if (const int component = PickComponentBySerial(type, behind(u"s/n ")); component != 0) Install(component);
+    if (const int component = PickComponentBySerial(type, behind(u"s/n ")); component != 0) Install(rig, component);
   }
 }
 
-void frmGetRig::CreateInPlace(int type, int model, const QString& serial) {
-  if (model == 0) return;
-  const int component = NewComponent(model, type, ui_->browser->Rig(), serial);
+void frmGetRig::CreateInPlace(int rig, int type, int model, const QString& serial) {
+  if (model == 0 || !RigExists(rig)) return;
+  const int component = NewComponent(model, type, rig, serial);
   if (component == 0) return;
-  ui_->browser->ReloadRig();
   EditComponent(component);
   CheckComponentType(component);
 }
 
-void frmGetRig::Install(int component) {
-  const int rig = ui_->browser->Rig();
-  if (!InstallChosenComponent(rig, component, Today())) return;
-  ui_->browser->ReloadRig();
-  OfferRepack(component);
-}
-
-void frmGetRig::OfferRepack(int component) {
-  const int rig = ui_->browser->Rig();
-  if (RepackPartnerInRig(rig, component) == 0) return;
-  int task = 0;
-  const Date repack =
-      LastRepackOfPair(ComponentOfTypeInRig(rig, kContainer), ComponentOfTypeInRig(rig, kReserveCanopy), task);
-  if (!repack.IsNone() && AskAddRepackToSchedule(repack)) ReplaceSchedule(rig, RepackTaskLibID, repack, task, 0);
+void frmGetRig::Install(int rig, int component) {
+  if (RigExists(rig)) InstallAndOfferRepack(rig, component);
 }
 
 void frmGetRig::RemoveComponent() {
@@ -84,5 +67,5 @@ void frmGetRig::RemoveComponent() {
     return;
   }
   const int component = ui_->browser->Component();
-  if (component != 0 && RemoveComponentFromRig(ui_->browser->Rig(), component)) ui_->browser->ReloadRig();
+  if (component != 0) RemoveComponentFromRig(Rig(), component);
 }

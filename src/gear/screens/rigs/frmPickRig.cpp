@@ -19,6 +19,10 @@ frmPickRig::frmPickRig() : ui_(std::make_unique<Ui::frmPickRig>()) {
 
 frmPickRig::~frmPickRig() = default;
 
+QStringList frmPickRig::ShowsTables() const { return RigBrowser::ShowsTables(); }
+
+void frmPickRig::ReloadForm() { ui_->browser->Reload(); }
+
 void frmPickRig::SetStart(int customer, int rig, int rigType) { ui_->browser->Begin(customer, rig, rigType); }
 
 int frmPickRig::Rig() const { return ui_->browser->Rig(); }

@@ -17,6 +17,8 @@ class frmPickRig : public Form {
   void SetStart(int customer, int rig, int rigType);
   int Rig() const;
   int Customer() const;
+  void ReloadForm() override;
+  QStringList ShowsTables() const override;
 
  private:
   void Select();

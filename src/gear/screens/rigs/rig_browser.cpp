@@ -26,6 +26,14 @@ class Loading {
   bool before_;
 };
 
+void FillList(List& list, const IdList& rows, int selected) {
+  list.Refill(rows);
+  if (selected == 0)
+    list.SetListIndex(-1);
+  else if (list.ItemData(list.ListIndex()) != selected)
+    list.SelectData(selected);
+}
+
 }  // namespace
 
 RigBrowser::RigBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RigBrowser>()) {
@@ -67,6 +75,8 @@ RigBrowser::RigBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<
 
 RigBrowser::~RigBrowser() = default;
 
+QStringList RigBrowser::ShowsTables() { return RigGrid::ShowsTables() + QStringList{u"tblPeople"_s}; }
+
 bool RigBrowser::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) Q_EMIT PhotoClick();
   return QWidget::eventFilter(watched, event);
@@ -93,7 +103,7 @@ void RigBrowser::Begin(int customer, int rig, int rigType) {
     LoadCustomerList();
     LoadRigList();
   }
-  if (rig == 0 && customer_ != 0) rig = FirstRigOf(customer_);
+  if (rig == 0 && customer_ != 0) rig = FirstListedRigOf(customer_);
   ChooseRig(rig);
 }
 
@@ -103,8 +113,6 @@ int RigBrowser::ComponentType() const { return RigGrid::ComponentType(*ui_->grid
 int RigBrowser::Component() const { return RigGrid::Component(*ui_->grid, SelectedRow()); }
 int RigBrowser::ComponentRows() const { return ui_->grid->RowCount(); }
 void RigBrowser::SelectComponentRow(int row) { ui_->grid->SelectCell(row, 1); }
-void RigBrowser::FocusRigs() { ui_->lstGear->setFocus(); }
-
 void RigBrowser::SetRigTypeFilter(int rigType) {
   rigType_ = rigType;
   ReloadLists();
@@ -112,8 +120,7 @@ void RigBrowser::SetRigTypeFilter(int rigType) {
 
 void RigBrowser::LoadCustomerList() {
   const Loading loading(loading_);
-  ui_->lstCustomers->Fill(LoadCustomers(ui_->chkShowSystems->isChecked()));
-  ui_->lstCustomers->SelectData(customer_);
+  FillList(*ui_->lstCustomers, LoadCustomers(ui_->chkShowSystems->isChecked()), customer_);
 }
 
 void RigBrowser::LoadRigList() {
@@ -121,22 +128,37 @@ void RigBrowser::LoadRigList() {
   const int owner = ShowsSelectedOnly() ? customer_ : 0;
   IdList rigs = LoadRigs(owner, rigType_);
   if (rigs.Size() == 0 && owner != 0) rigs.Add(u"   (no rigs for this customer)"_s, 0);
-  ui_->lstGear->Fill(rigs);
-  if (rig_ != 0) ui_->lstGear->SelectData(rig_);
+  FillList(*ui_->lstGear, rigs, rig_);
   const QString type = RigTypeName(rigType_);
   ui_->lblDisplayRigType->setText(rigType_ == 0 ? u"Displaying all rig types"_s : type + u" only"_s);
   ui_->lblSystems->setText(rigType_ == 0 ? u"Rigs (all types)"_s : u"Rigs ("_s + WithoutMnemonic(type) + u')');
 }
 
-bool RigBrowser::ReloadLists() {
+int RigBrowser::FirstListedRigOf(int owner) const { return LoadRigs(owner, rigType_).ids.value(0); }
+
+int RigBrowser::RigToGoOnWith() const { return ShowsSelectedOnly() && customer_ != 0 ? ui_->lstGear->ItemData(0) : 0; }
+
+void RigBrowser::ReloadLists() {
   LoadCustomerList();
   LoadRigList();
-  if (rig_ != 0 && ui_->lstGear->FindData(rig_) >= 0) {
+  if (rig_ != 0 && ui_->lstGear->FindData(rig_) >= 0)
     ShowNotices();
-    return false;
-  }
-  ChooseRig(ShowsSelectedOnly() ? ui_->lstGear->ItemData(0) : 0);
-  return true;
+  else
+    ChooseRig(RigToGoOnWith());
+}
+
+/// A rig stays on show beside a list that lacks it, unless that is the list of another customer's rigs.
+bool RigBrowser::MayStayOnRig() const {
+  return RigExists(rig_) && (!ShowsSelectedOnly() || customer_ == 0 || RigOwner(rig_) == customer_);
+}
+
+void RigBrowser::Reload() {
+  if (!PersonExists(customer_)) customer_ = 0;
+  if (rigType_ != 0 && !RigTypeExists(rigType_)) rigType_ = 0;
+  LoadCustomerList();
+  LoadRigList();
+  MarkCustomer(customer_);
+  ChooseRig(rig_ == 0 || MayStayOnRig() ? rig_ : RigToGoOnWith());
 }
 
 void RigBrowser::SelectCustomer(int id) {
@@ -144,6 +166,18 @@ void RigBrowser::SelectCustomer(int id) {
 }
 
 void RigBrowser::ShowCustomer(int id) {
+  MarkCustomer(PersonExists(id) ? id : 0);
+  LoadRigList();
+  ChooseRig(customer_ == 0 ? 0 : FirstListedRigOf(customer_));
+}
+
+void RigBrowser::ShowRig(int id) {
+  MarkCustomer(PersonExists(RigOwner(id)) ? RigOwner(id) : 0);
+  LoadRigList();
+  ChooseRig(id);
+}
+
+void RigBrowser::MarkCustomer(int id) {
   const Loading loading(loading_);
   customer_ = id;
   if (id == 0 || !ui_->lstCustomers->SelectData(id)) ui_->lstCustomers->SetListIndex(-1);
@@ -155,14 +189,12 @@ bool RigBrowser::IsUnassigned() const { return rig_ != 0 && !PersonExists(RigOwn
 void RigBrowser::ChooseCustomer(int id) {
   SetLastCustomerID(id);
   const bool assigned = IsUnassigned() && ui_->fraDisplay->isEnabled() && AssignRig(rig_, id);
-  const int rig = assigned ? rig_ : FirstRigOf(id);
-  ShowCustomer(id);
+  const int rig = assigned ? rig_ : FirstListedRigOf(id);
+  MarkCustomer(id);
   LoadRigList();
   if (rig_ == 0 || RigOwner(rig_) != id || assigned)
-    ChooseRig(ui_->lstGear->FindData(rig) >= 0 ? rig : ShowsSelectedOnly() ? ui_->lstGear->ItemData(0) : 0);
+    ChooseRig(ui_->lstGear->FindData(rig) >= 0 ? rig : RigToGoOnWith());
 }
-
-void RigBrowser::SelectRig(int id) { ChooseRig(id); }
 
 void RigBrowser::ChooseRig(int id) {
   {
@@ -171,18 +203,20 @@ void RigBrowser::ChooseRig(int id) {
     if (id == 0 || !ui_->lstGear->SelectData(id)) ui_->lstGear->SetListIndex(-1);
     if (id != 0 && !ShowsSelectedOnly()) {
       const int owner = RigOwner(id);
-      ShowCustomer(PersonExists(owner) ? owner : 0);
+      MarkCustomer(PersonExists(owner) ? owner : 0);
     }
   }
   ReloadRig();
 }
 
 void RigBrowser::ReloadRig() {
-  const int row = SelectedRow();
+  const int place = gridRig_ == rig_ ? ComponentType() : 0;
+  const int column = ui_->grid->CurrentColumn();
+  gridRig_ = rig_;
   {
     const Loading loading(loading_);
     RigGrid::Fill(*ui_->grid, rig_);
-    if (row >= 0 && row < ui_->grid->RowCount()) SelectComponentRow(row);
+    if (place != 0) ui_->grid->SelectCell(ui_->grid->FindRow(place), column);
   }
   ui_->lblRigType->setText(rig_ == 0 ? QString() : u"Rig Type: "_s + RigTypeName(RigType(rig_)));
   ShowNotices();

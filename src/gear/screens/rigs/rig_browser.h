@@ -15,6 +15,9 @@ class RigBrowser : public QWidget {
   explicit RigBrowser(QWidget* parent = nullptr);
   ~RigBrowser() override;
 
+  /// What the lists and the grid are read from.
+  static QStringList ShowsTables();
+
   /// Where to begin; a rig brings its owner along. `rigType` 0 shows all types.
   void Begin(int customer, int rig, int rigType);
   /// Puts a form's own controls below the component grid; Tab goes on from the last of them.
@@ -32,12 +35,13 @@ class RigBrowser : public QWidget {
   int SelectedRow() const;
 
   void SetRigTypeFilter(int rigType);
-  void SelectCustomer(int id);
-  void SelectRig(int id);
+  void SelectCustomer(int id);  ///< as a click does: a rig of nobody's is offered to the customer
+  void ShowCustomer(int id);    ///< and the first of the customer's rigs, with no question
+  void ShowRig(int id);         ///< and its owner, whichever customers are displayed
   void SelectComponentRow(int row);
-  bool ReloadLists();  ///< both lists, keeping what is selected; true when that had gone and another rig is shown
-  void ReloadRig();    ///< the grid and the photos
-  void FocusRigs();
+  /// Reads everything anew and keeps what is selected, by its id: customer, rig, the place in the grid. A customer who
+  /// has gone leaves nobody selected; a rig that has gone makes room for the customer's first one, or for none.
+  void Reload();
 
  Q_SIGNALS:
   void RigShown(int rig);  ///< another rig, or none, is shown; or its components changed
@@ -58,10 +62,15 @@ class RigBrowser : public QWidget {
  private:
   void LoadCustomerList();
   void LoadRigList();
+  void ReloadLists();
+  int FirstListedRigOf(int owner) const;
+  int RigToGoOnWith() const;
+  bool MayStayOnRig() const;
+  void ReloadRig();
   void ChooseCustomer(int id);
   void ChooseRig(int id);
   bool IsUnassigned() const;
-  void ShowCustomer(int id);
+  void MarkCustomer(int id);
   void ShowNotices();
   void ShowPhotos();
 
@@ -69,5 +78,6 @@ class RigBrowser : public QWidget {
   int customer_ = 0;
   int rig_ = 0;
   int rigType_ = 0;
+  int gridRig_ = 0;  // whose components are in the grid
   bool loading_ = false;
 };

@@ -29,6 +29,11 @@ void RigGrid::SetUp(Grid& grid) {
   grid.FitHeight(kMostRows);
 }
 
+QStringList RigGrid::ShowsTables() {
+  return {u"tblRig"_s,        u"tblRigTypes"_s, u"tblRigTypeComponents"_s, u"tblComponentTypes"_s,
+          u"tblComponents"_s, u"tblModels"_s};
+}
+
 void RigGrid::Fill(Grid& grid, int rig) {
   std::vector<GridRow> rows;
   if (rig != 0) {
