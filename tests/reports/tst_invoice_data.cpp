@@ -93,7 +93,7 @@ class TestInvoiceData : public QObject {
     loft_->Prompts().AnswerRestWith([](const ShownPrompt&) { return Answer::Ok; });
     QCOMPARE(LoadInvoice(job).number, QString::number(job));
     QCOMPARE(loft_->Prompts().Transcript().size(), 1);
-    QCOMPARE(loft_->Prompts().Transcript().first().title, u"Function GetInvoiceNumber"_s);
+    QCOMPARE(loft_->Prompts().Transcript().first().title, u"Sub UpdateTable()"_s);
   }
 
   void NoPartIsReadAlone_data() {
