@@ -51,7 +51,8 @@ bool SameValue(sqlite3_value* a, sqlite3_value* b) {
   }
   const int size = sqlite3_value_bytes(a);
   return size == sqlite3_value_bytes(b) &&
-         std::memcmp(sqlite3_value_blob(a), sqlite3_value_blob(b), static_cast<size_t>(size)) == 0;
+         (size == 0 ||  // an empty value has no place
+          std::memcmp(sqlite3_value_blob(a), sqlite3_value_blob(b), static_cast<size_t>(size)) == 0);
 }
 
 }  // namespace
