@@ -6,6 +6,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,21 +19,13 @@ struct RigType {
 };
 
 void AddRigType(const RigType& rigType) {
-  Recordset types(u"tblRigTypes"_s);
-  types.AddNew();
-  types.Set(u"Name", rigType.name);
-  types.Set(u"ReserveLocation", rigType.reserveLocation);
-  types.Update();
-  const int id = types[u"ID"].ToInt();
-  Recordset components(u"tblRigTypeComponents"_s);
+  const int id = AddRow(tblRigTypes::kTable,
+                        {{tblRigTypes::Name, rigType.name}, {tblRigTypes::ReserveLocation, rigType.reserveLocation}});
   for (int type : rigType.componentTypes) {
-    components.AddNew();
-    components.Set(u"RigTypeID", id);
-    components.Set(u"ComponentTypeID", type);
-    components.Update();
+    AddRow(tblRigTypeComponents::kTable,
+           {{tblRigTypeComponents::RigTypeID, id}, {tblRigTypeComponents::ComponentTypeID, type}});
   }
-  if (rigType.name == "Sport Rig"_L1)
-    UpdateTableBySQL(u"update tblMisc set defaultrigtypeID = "_s + QString::number(id));
+  if (rigType.name == "Sport Rig"_L1) UpdateRows(tblMisc::DefaultRigTypeID, id);
 }
 
 struct FixedTask {
@@ -43,20 +36,17 @@ struct FixedTask {
 };
 
 void AddTask(const FixedTask& task) {
-  Recordset tasks(u"tblTaskLib"_s);
-  tasks.AddNew();
-  tasks.Set(u"ID", task.id);
-  tasks.Set(u"Name", task.name);
-  tasks.Set(u"FlatRate", Money());
-  tasks.Set(u"HourlyRate", Money());
-  tasks.Set(u"LogBook", true);
-  tasks.Set(u"AllowMultiple", task.allowMultiple);
-  tasks.Set(u"IntervalType", task.intervalType);
-  tasks.Set(u"ModelID", 0);
-  tasks.Set(u"IntervalNumber", 0);
-  tasks.Set(u"IsEvent", false);
-  tasks.Set(u"IsRigTypeSpecific", false);
-  tasks.Update();
+  AddRow(tblTaskLib::kTable, {{tblTaskLib::ID, task.id},
+                              {tblTaskLib::Name, task.name},
+                              {tblTaskLib::Flatrate, Money()},
+                              {tblTaskLib::HourlyRate, Money()},
+                              {tblTaskLib::Logbook, true},
+                              {tblTaskLib::AllowMultiple, task.allowMultiple},
+                              {tblTaskLib::IntervalType, task.intervalType},
+                              {tblTaskLib::ModelID, 0},
+                              {tblTaskLib::IntervalNumber, 0},
+                              {tblTaskLib::IsEvent, false},
+                              {tblTaskLib::IsRigTypeSpecific, false}});
 }
 
 }  // namespace
@@ -73,13 +63,9 @@ void SetDefaultComponentTypes() {
                   {kChestReserve, "Chest Reserve"},
                   {kPassengerHarness, "Passenger Harness"},
                   {kMisc, "Misc"}};
-    DeleteAllRecords(u"tblComponentTypes"_s, false);
-    Recordset types(u"tblComponentTypes"_s);
+    DeleteAllRecords(tblComponentTypes::kTable, false);
     for (const auto& type : kTypes) {
-      types.AddNew();
-      types.Set(u"ID", int{type.id});
-      types.Set(u"Name", type.name);
-      types.Update();
+      AddRow(tblComponentTypes::kTable, {{tblComponentTypes::ID, int{type.id}}, {tblComponentTypes::Name, type.name}});
     }
   });
 }
@@ -87,7 +73,7 @@ void SetDefaultComponentTypes() {
 void CheckComponentTypes() {
   UnrecordedOperation(u"Sub CheckComponentTypes"_s, [] {
     for (int id = kContainer; id <= kPassengerHarness; ++id) {
-      if (GetNumberRecords(u"tblcomponentTypes"_s, u"id"_s, id) > 0) continue;
+      if (GetNumberRecords(tblComponentTypes::ID, id) > 0) continue;
       SetDefaultComponentTypes();
       break;
     }
@@ -96,7 +82,7 @@ void CheckComponentTypes() {
 
 void CreateDefaultRigTypes() {
   UnrecordedOperation(u"Sub CreateDefaultRigTypes"_s, [] {
-    if (GetNumberRecordsInTable(u"tblRigTypes"_s) == 0) {
+    if (GetNumberRecordsInTable(tblRigTypes::kTable) == 0) {
       constexpr int kBack = 1;
       constexpr int kSeat = 2;
       AddRigType({"Sport Rig", kBack, {kContainer, kMainCanopy, kReserveCanopy, kAad}});
@@ -109,17 +95,14 @@ void CreateDefaultRigTypes() {
 
 void CreateDefaultTasks() {
   UnrecordedOperation(u"Sub CreateDefaultTasks"_s, [] {
-    if (GetNumberRecordsInTable(u"tblTaskLib"_s) == 0) {
+    if (GetNumberRecordsInTable(tblTaskLib::kTable) == 0) {
       constexpr int kDays = 1;
       AddTask({RepackTaskLibID, "Inspect and repack reserve", false, kDays});
       AddTask({InstallTaskLibID, "Install component", true, 0});
       AddTask({RemoveTaskLibID, "Remove component", true, 0});
-      Recordset required(u"tblTaskLibComponentTypes"_s);
       for (int type : {kContainer, kReserveCanopy}) {
-        required.AddNew();
-        required.Set(u"TaskLibID", RepackTaskLibID);
-        required.Set(u"ComponentTypeID", type);
-        required.Update();
+        AddRow(tblTaskLibComponentTypes::kTable, {{tblTaskLibComponentTypes::TaskLibID, RepackTaskLibID},
+                                                  {tblTaskLibComponentTypes::ComponentTypeID, type}});
       }
     }
   });
@@ -134,15 +117,15 @@ void CreateDefaultRows() {
   });
 }
 
-bool HasMiscRow() { return GetNumberRecordsInTable(u"tblMisc"_s) > 0; }
+bool HasMiscRow() { return GetNumberRecordsInTable(tblMisc::kTable) > 0; }
 
 void CheckMiscRow() {
   UnrecordedOperation(u"Sub CheckMiscRow"_s, [] {
-    const int count = GetNumberRecordsInTable(u"tblMisc"_s);
+    const int count = GetNumberRecordsInTable(tblMisc::kTable);
     if (count != 1) {
       if (count != 0) {
         MsgBox(QString::number(count) + u" records in tblMisc"_s, u"Reparing tblMisc"_s);
-        DeleteAllRecords(u"tblMisc"_s, false);
+        DeleteAllRecords(tblMisc::kTable, false);
       }
       AddMiscRow(180);
     }
@@ -151,16 +134,15 @@ void CheckMiscRow() {
 
 void AddMiscRow(int repackCycle) {
   UnrecordedOperation(u"Sub AddMiscRow"_s, [&] {
-    Recordset misc(u"tblMisc"_s);
-    misc.AddNew();
-    misc.Set(u"HidePhotos", false);
-    misc.Set(u"LastBackupDate", Date());
-    for (QStringView id : {u"UserID", u"DefaultRigTypeID", u"LastSystemID", u"LastJobID", u"LastCustomerID",
-                           u"LastComponentID", u"DefaultRiggerID"})
+    RowValues misc;
+    misc.Set(tblMisc::HidePhotos, false);
+    misc.Set(tblMisc::LastBackupDate, Date());
+    for (const Column& id : {tblMisc::UserID, tblMisc::DefaultRigTypeID, tblMisc::LastSystemID, tblMisc::LastJobID,
+                             tblMisc::LastCustomerID, tblMisc::LastComponentID, tblMisc::DefaultRiggerID})
       misc.Set(id, 0);
-    misc.Set(u"RepackCycle", repackCycle);
-    misc.Set(u"UploadAlias", QString());
-    misc.Set(u"DefaultPhotoSize", 100);
-    misc.Update();
+    misc.Set(tblMisc::RepackCycle, repackCycle);
+    misc.Set(tblMisc::UploadAlias, QString());
+    misc.Set(tblMisc::DefaultPhotoSize, 100);
+    AddRow(tblMisc::kTable, misc);
   });
 }

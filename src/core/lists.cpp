@@ -11,7 +11,8 @@ namespace {
 
 using TextOf = std::function<QString(const Recordset& row)>;
 
-IdList Load(const QString& routine, const QString& statement, const TextOf& textOf, QStringView idField = u"ID") {
+IdList Load(const QString& routine, const QString& statement, const TextOf& textOf,
+            QStringView idField = tblTaskLib::ID.name) {
   IdList list;
   Operation(routine, [&] {
     for (const Recordset& row : Rows(statement)) list.Add(textOf(row), row[idField].ToInt());
@@ -19,14 +20,15 @@ IdList Load(const QString& routine, const QString& statement, const TextOf& text
   return list;
 }
 
-QString Name(const Recordset& row) { return row[u"Name"].ToText(); }
+/// What most tables call their rows by.
+QString Name(const Recordset& row) { return row[tblTaskLib::Name.name].ToText(); }
 
 /// The fields that are not blank, joined by ", ".
-TextOf Joined(std::initializer_list<QStringView> fields) {
-  return [fields = std::vector<QStringView>(fields)](const Recordset& row) {
+TextOf Joined(std::initializer_list<Column> columns) {
+  return [columns = std::vector<Column>(columns)](const Recordset& row) {
     QStringList filled;
-    for (const QStringView field : fields) {
-      const QString text = row[field].ToText().trimmed();
+    for (const Column& column : columns) {
+      const QString text = row[column].ToText().trimmed();
       if (!text.isEmpty()) filled += text;
     }
     return filled.join(u", "_s);
@@ -34,8 +36,8 @@ TextOf Joined(std::initializer_list<QStringView> fields) {
 }
 
 QString PersonText(const Recordset& row) {
-  const QString names = Joined({u"LastName", u"FirstName"})(row);
-  return names.isEmpty() ? row[u"OrgName"].ToText().trimmed() : names;
+  const QString names = Joined({tblPeople::lastname, tblPeople::firstname})(row);
+  return names.isEmpty() ? row[tblPeople::OrgName].ToText().trimmed() : names;
 }
 
 }  // namespace
@@ -50,68 +52,69 @@ int NeighbourOf(int gone, const QList<int>& before, const QList<int>& now) {
 }
 
 IdList LoadModelsOfType(int typeId) {
-  return Load(u"Sub LoadModelsOfType"_s,
-              u"Select * from tblModels where typeID = "_s + QString::number(typeId) + u" order by name"_s, Name);
+  return Load(u"Sub LoadModelsOfType"_s, Select(tblModels::TypeID == typeId).OrderBy(tblModels::Name), Name);
 }
 
-IdList LoadTaskList() { return Load(u"Sub LoadTaskList"_s, u"Select * from tblTaskLib Order by name"_s, Name); }
+IdList LoadTaskList() {
+  return Load(u"Sub LoadTaskList"_s, Select(tblTaskLib::kTable).OrderBy(tblTaskLib::Name), Name);
+}
 
 IdList LoadTaskOrEventList(bool isEvent) {
-  const QString flag = isEvent ? u"True"_s : u"False"_s;
-  return Load(u"Sub LoadTaskOrEventList"_s, u"Select * from tblTaskLib where IsEvent = "_s + flag + u" Order by name"_s,
-              Name);
+  return Load(u"Sub LoadTaskOrEventList"_s, Select(tblTaskLib::IsEvent == isEvent).OrderBy(tblTaskLib::Name), Name);
 }
 
-IdList LoadRigTypes() { return Load(u"Sub LoadRigTypes"_s, u"Select * from tblRigTypes order by Name"_s, Name); }
+IdList LoadRigTypes() {
+  return Load(u"Sub LoadRigTypes"_s, Select(tblRigTypes::kTable).OrderBy(tblRigTypes::Name), Name);
+}
 
 IdList LoadRigTypeComponents(int rigTypeId) {
   return Load(
       u"Sub LoadRigTypeComponents"_s,
-      u"Select * from tblRigTypeComponents where RigTypeID = "_s + QString::number(rigTypeId) +
-          u" order by componentTypeID"_s,
+      Select(tblRigTypeComponents::RigTypeID == rigTypeId).OrderBy(tblRigTypeComponents::ComponentTypeID),
       [](const Recordset& row) {
-        return GetValueFromTable(u"tblComponentTypes"_s, u"ID"_s, row[u"ComponentTypeID"], u"Name"_s).ToText();
+        return GetValueFromTable(tblComponentTypes::ID, row[tblRigTypeComponents::ComponentTypeID],
+                                 tblComponentTypes::Name)
+            .ToText();
       },
-      u"ComponentTypeID");
+      tblRigTypeComponents::ComponentTypeID);
 }
 
 IdList LoadComponentTypes() {
-  return Load(u"Sub LoadComponentTypes"_s, u"Select * from tblComponentTypes order by ID"_s, Name);
+  return Load(u"Sub LoadComponentTypes"_s, Select(tblComponentTypes::kTable).OrderBy(tblComponentTypes::ID), Name);
 }
 
-IdList GetArrayOfTasksExpanded() {
-  return Load(u"Sub GetArrayOfTasksExpanded"_s, u"Select * from tblTaskLib where logbook = true"_s, Name);
-}
+IdList GetArrayOfTasksExpanded() { return Load(u"Sub GetArrayOfTasksExpanded"_s, tblTaskLib::Logbook == true, Name); }
 
 IdList GetArrayOfRigs(int ownerId) {
-  const QString statement =
-      ownerId > 0 ? u"Select * from tblRig where OwnerID = "_s + QString::number(ownerId) + u" order by RigAlias"_s
-                  : u"Select * from tblRig order by RigAlias"_s;
-  return Load(u"Sub GetArrayOfRigs"_s, statement, [](const Recordset& row) { return row[u"rigAlias"].ToText(); });
+  const QString statement = ownerId > 0 ? Select(tblRig::OwnerID == ownerId).OrderBy(tblRig::rigAlias)
+                                        : Select(tblRig::kTable).OrderBy(tblRig::rigAlias);
+  return Load(u"Sub GetArrayOfRigs"_s, statement, [](const Recordset& row) { return row[tblRig::rigAlias].ToText(); });
 }
 
 IdList GetArrayOfLocations() {
-  return Load(u"Sub GetArrayOfLocations"_s, u"Select * from tblLocation order by Location"_s,
-              Joined({u"Location", u"City", u"State"}));
+  return Load(u"Sub GetArrayOfLocations"_s, Select(tblLocation::kTable).OrderBy(tblLocation::Location),
+              Joined({tblLocation::Location, tblLocation::City, tblLocation::State}));
 }
 
 IdList GetArrayOfComponentTypes() {
-  return Load(u"Sub GetArrayOfComponentTypes"_s, u"Select * from tblComponentTypes order by ID"_s, Name);
+  return Load(u"Sub GetArrayOfComponentTypes"_s, Select(tblComponentTypes::kTable).OrderBy(tblComponentTypes::ID),
+              Name);
 }
 
 IdList GetArrayOfModels(int typeId) {
-  return Load(u"Sub GetArrayOfModels"_s,
-              u"Select * from tblModels where TypeID = "_s + QString::number(typeId) + u" order by Name"_s, Name);
+  return Load(u"Sub GetArrayOfModels"_s, Select(tblModels::TypeID == typeId).OrderBy(tblModels::Name), Name);
 }
 
 IdList GetArrayOfRiggers(bool everybody) {
   return Load(u"Sub GetArrayOfRiggers"_s,
-              everybody ? u"Select * from tblPeople order by lastName, firstname"_s
-                        : u"Select * from tblPeople where rigger = true order by lastName, firstname"_s,
-              Joined({u"LastName", u"FirstName"}));
+              everybody ? Select(tblPeople::kTable).OrderBy(tblPeople::lastname).OrderBy(tblPeople::firstname)
+                        : Select(tblPeople::rigger == true).OrderBy(tblPeople::lastname).OrderBy(tblPeople::firstname),
+              Joined({tblPeople::lastname, tblPeople::firstname}));
 }
 
 IdList GetArrayOfPeopleExpanded() {
-  return Load(u"Sub GetArrayOfPeopleExpanded"_s, u"Select * from tblPeople order by lastName, firstname, orgname"_s,
-              PersonText);
+  return Load(
+      u"Sub GetArrayOfPeopleExpanded"_s,
+      Select(tblPeople::kTable).OrderBy(tblPeople::lastname).OrderBy(tblPeople::firstname).OrderBy(tblPeople::OrgName),
+      PersonText);
 }

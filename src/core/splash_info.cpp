@@ -17,9 +17,7 @@ QString Counted(int count, const QString& what) { return QString::number(count) 
 
 /// What falls due up to a day; the windows overlap, so what is overdue counts in each.
 QString DueLine(Date day, const QString& what) {
-  const int count =
-      GetNumberRecordsComplex(u"Select * from tblSchedules where DateDue <= #"_s + Format(day, u"mm/dd/yyyy"_s) + u'#')
-          .ToInt();
+  const int count = GetNumberRecordsComplex(tblSchedules::DateDue <= day).ToInt();
   return (count == 1 ? u"There is 1 task"_s : u"There are "_s + QString::number(count) + u" tasks"_s) + what;
 }
 
@@ -28,15 +26,15 @@ QString DueLine(Date day, const QString& what) {
 QString GetSplashInfo() {
   QStringList lines;
   Operation(u"Function GetSplashInfo"_s, [&] {
-    lines << Counted(GetNumberRecordsInTable(u"tblPeople"_s), u" customers "_s)
-          << Counted(GetNumberRecordsInTable(u"tblRig"_s), u" rigs"_s) << QString()
-          << Counted(GetNumberRecordsInTable(u"tblJobs"_s), u" invoices"_s)
-          << Counted(GetNumberRecordsInTable(u"tblTasks"_s), u" tasks"_s)
-          << Counted(GetNumberRecords(u"tblTasks"_s, u"TaskLibID"_s, RepackTaskLibID), u" reserve pack jobs"_s)
-          << Counted(GetNumberRecordsInTable(u"tblManufacturers"_s), u" manufactures"_s)
-          << Counted(GetNumberRecordsInTable(u"tblModels"_s), u" models"_s) << QString()
-          << Counted(GetNumberRecordsInTable(u"tblSchedules"_s), u" scheduled tasks"_s);
-    const int riggers = GetNumberRecordsComplex(u"Select * from tblPeople where rigger = true"_s).ToInt();
+    lines << Counted(GetNumberRecordsInTable(tblPeople::kTable), u" customers "_s)
+          << Counted(GetNumberRecordsInTable(tblRig::kTable), u" rigs"_s) << QString()
+          << Counted(GetNumberRecordsInTable(tblJobs::kTable), u" invoices"_s)
+          << Counted(GetNumberRecordsInTable(tblTasks::kTable), u" tasks"_s)
+          << Counted(GetNumberRecords(tblTasks::TaskLibID, RepackTaskLibID), u" reserve pack jobs"_s)
+          << Counted(GetNumberRecordsInTable(tblManufacturers::kTable), u" manufactures"_s)
+          << Counted(GetNumberRecordsInTable(tblModels::kTable), u" models"_s) << QString()
+          << Counted(GetNumberRecordsInTable(tblSchedules::kTable), u" scheduled tasks"_s);
+    const int riggers = GetNumberRecordsComplex(tblPeople::rigger == true).ToInt();
     lines << (riggers == 1 ? u"1 rigger"_s : Counted(riggers, u" riggers"_s)) << QString()
           << DueLine(Today() - 1, u" overdue"_s) << DueLine(Today() + 30, u" due within 30 days"_s)
           << DueLine(Today() + 60, u" due within 60 days"_s) << DueLine(Today() + 90, u" due within 90 days"_s);
@@ -45,6 +43,6 @@ QString GetSplashInfo() {
 }
 
 QString LastBackupText() {
-  const Date date = GetValueFromTableBySQL(u"tblMisc"_s, u"LastBackupDate"_s).ToDate();
+  const Date date = GetValueFromTableBySQL(tblMisc::kTable, tblMisc::LastBackupDate).ToDate();
   return u"Last database backup was performed on "_s + (date.IsNone() ? u"(never!)"_s : Format(date, u"mm/dd/yyyy"_s));
 }

@@ -8,32 +8,32 @@
 #include "core/store/access.h"
 #include "core/store/operation.h"
 #include "core/store/schema.h"
+#include "gear/components.h"
 
 using namespace Qt::StringLiterals;
 
 void CheckAllFields(bool showMessages) {
   QString tableName;
-  SchemaField field{};
+  Column field = Schema().front().key;
   bool isAutoInc = false;
   OperationWith(
       u"Sub CheckAllFields"_s,
       [&] {
         for (const SchemaTable& table : Schema()) {
-          tableName = QString::fromLatin1(table.name);
+          tableName = table.table;
           field = table.key;
           isAutoInc = table.autoIncrement;
-          if (!TableExists(tableName, showMessages))
-            CreateTable(tableName, QString::fromLatin1(field.name), field.type, isAutoInc);
+          if (!TableExists(tableName, showMessages)) CreateTable(tableName, field, field.type, isAutoInc);
           isAutoInc = false;
-          for (const SchemaField& wanted : table.fields) {
+          for (const Column& wanted : table.columns) {
             field = wanted;
-            FieldExists(field.size, showMessages, tableName, QString::fromLatin1(field.name), field.type);
+            FieldExists(field.size, showMessages, tableName, field, field.type);
           }
         }
         CreateIndexes();
       },
       [&] {
-        return Lines({u"TableName = "_s + tableName, u"MyField = "_s + QString::fromLatin1(field.name),
+        return Lines({u"TableName = "_s + tableName, u"MyField = "_s + QString(field),
                       u"IsAutoInc = "_s + (isAutoInc ? u"True"_s : u"False"_s),
                       u"FieldType ="_s + QString::number(field.type)});
       });
@@ -77,10 +77,10 @@ void AddField(const QString& tableName, const QString& myField, int fieldType, b
 void ReportLostComponentTypes() {
   Operation(u"Sub ReportLostComponentTypes"_s, [] {
     QStringList lost;
-    for (const Recordset& component : Rows(u"Select * from tblComponents where TypeID =0"_s)) {
-      const int modelId = component[u"ModelID"].ToInt();
-      const QString model = GetValueFromTable(u"tblModels"_s, u"ID"_s, modelId, u"Name"_s).ToText();
-      lost << model + u" - "_s + component[u"SubType"].ToText();
+    for (const Recordset& component : Rows(tblComponents::TypeID == 0)) {
+      const int modelId = component[tblComponents::ModelID].ToInt();
+      const QString model = GetValueFromTable(tblModels::ID, modelId, tblModels::Name).ToText();
+      lost << model + u" - "_s + component[tblComponents::SubType].ToText();
     }
     if (!lost.isEmpty())
       MsgBox(Lines(QStringList{u"The following components have lost their component type:"_s, QString()} + lost +
@@ -93,11 +93,10 @@ void ReportLostComponentTypes() {
 
 void FreeComponentsOfVanishedRigs() {
   Operation(u"Sub FreeComponentsOfVanishedRigs"_s, [] {
-    for (Recordset& component : Rows(u"Select * from tblComponents where rigid > 0 order by rigid"_s)) {
-      const int rig = component[u"RigID"].ToInt();
-      if (GetValueFromTable(u"tblRig"_s, u"ID"_s, rig, u"ID"_s).ToInt() == rig) continue;
-      component.Set(u"RigID", 0);
-      component.Update();
+    for (const Recordset& component : Rows(Select(tblComponents::RigID > 0).OrderBy(tblComponents::RigID))) {
+      const int rig = component[tblComponents::RigID].ToInt();
+      if (GetValueFromTable(tblRig::ID, rig, tblRig::ID).ToInt() == rig) continue;
+      SetComponentRig(component[tblComponents::ID].ToInt(), 0);
     }
   });
 }

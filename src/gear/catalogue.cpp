@@ -3,23 +3,22 @@
 #include "core/default_rows.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-IdList LoadNames(const QString& source) {
+IdList LoadNames(const QString& source, const Column& id, const Column& name) {
   IdList list;
   Operation(u"Function LoadNames"_s, [&] {
-    for (const Recordset& row : Rows(source)) list.Add(row[u"Name"].ToText(), row[u"ID"].ToInt());
+    for (const Recordset& row : Rows(source)) list.Add(row[name].ToText(), row[id].ToInt());
   });
   return list;
 }
 
 bool SameName(const QString& a, const QString& b) { return a.trimmed().toLower() == b.trimmed().toLower(); }
-
-QString ModelsOfType(int type) { return u"Select * from tblModels where Typeid = "_s + QString::number(type); }
 
 void TellTooLong() { MsgBox(u"Name is too long"_s, u"50 characters max"_s); }
 
@@ -44,13 +43,13 @@ QString AskOtherName(const QString& name, const QString& title) {
 }  // namespace
 
 IdList LoadModels(int type, int manufacturer) {
-  QString source = ModelsOfType(type);
-  if (manufacturer != kNoManufacturerSelected) source += u" and manfid = "_s + QString::number(manufacturer);
-  return LoadNames(source);
+  Condition models = tblModels::TypeID == type;
+  if (manufacturer != kNoManufacturerSelected) models = models && tblModels::ManfID == manufacturer;
+  return LoadNames(models, tblModels::ID, tblModels::Name);
 }
 
 IdList LoadManufacturers() {
-  IdList list = LoadNames(u"Select * from tblManufacturers"_s);
+  IdList list = LoadNames(tblManufacturers::kTable, tblManufacturers::ID, tblManufacturers::Name);
   list.Add(u"(not specified)"_s, 0);
   return list;
 }
@@ -65,7 +64,7 @@ int FindModelByName(const QString& name, int type) {
 int RepairModelManufacturer(int model) {
   const int manufacturer = ModelManufacturer(model);
   if (manufacturer == 0 || !ManufacturerName(manufacturer).trimmed().isEmpty()) return manufacturer;
-  Upkeep(u"Function RepairModelManufacturer"_s, [&] { UpdateTable(u"tblModels"_s, u"ManfID"_s, 0, u"ID"_s, model); });
+  Upkeep(u"Function RepairModelManufacturer"_s, [&] { UpdateTable(tblModels::ManfID, 0, tblModels::ID, model); });
   return 0;
 }
 
@@ -107,15 +106,15 @@ NewModel AddPart(const QString& name, Money price, int manufacturer) {
   int id = 0;
   const bool written = Operation(u"Sub AddPart"_s, [&] {
     id = AddModelOfManufacturer(name, kMisc, qMax(manufacturer, 0));
-    UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
+    UpdateTable(tblModels::Price, price, tblModels::ID, id);
   });
   return {written ? id : 0, true};
 }
 
 void SavePart(int id, const QString& name, Money price) {
   Operation(u"Sub SavePart"_s, [&] {
-    UpdateTable(u"tblModels"_s, u"Name"_s, name, u"ID"_s, id);
-    UpdateTable(u"tblModels"_s, u"Price"_s, price, u"ID"_s, id);
+    UpdateTable(tblModels::Name, name, tblModels::ID, id);
+    UpdateTable(tblModels::Price, price, tblModels::ID, id);
   });
 }
 
@@ -138,13 +137,12 @@ bool RenameModel(int id) {
   const QString current = ModelName(id);
   const QString name = AskOtherName(current, u"Rename "_s + current);
   if (name.isEmpty()) return false;
-  return Operation(u"Sub RenameModel"_s, [&] { UpdateTable(u"tblModels"_s, u"Name"_s, name, u"id"_s, id); });
+  return Operation(u"Sub RenameModel"_s, [&] { UpdateTable(tblModels::Name, name, tblModels::ID, id); });
 }
 
 ModelDeletion DeleteModel(int id) {
   const QString name = ModelName(id);
-  const int count =
-      GetNumberRecordsComplex(u"Select * from tblComponents where Modelid = "_s + QString::number(id)).ToInt();
+  const int count = GetNumberRecordsComplex(tblComponents::ModelID == id).ToInt();
   if (count != 0) {
     const bool one = count == 1;
     const QString text =
@@ -157,8 +155,8 @@ ModelDeletion DeleteModel(int id) {
   }
   if (!AskYes(u"Are you sure you wish to delete "_s + name, u"Delete "_s + name)) return ModelDeletion::Kept;
   const bool deleted = Operation(u"Sub DeleteModel"_s, [&] {
-    DeleteRecordsFromTableBySQL(u"Delete * from tblModels where id = "_s + QString::number(id));
-    DeleteRecordsFromTableBySQL(u"Delete * from tblComponents where Modelid = "_s + QString::number(id));
+    DeleteRows(tblModels::ID == id);
+    DeleteRows(tblComponents::ModelID == id);
   });
   return deleted ? ModelDeletion::Deleted : ModelDeletion::Kept;
 }
@@ -177,9 +175,8 @@ bool LinkModelToManufacturer(int model, int manufacturer) {
                      u"     "_s + ComponentTypeName(ModelType(model)) + u": "_s + ModelName(model)}),
               u"Link?"_s))
     return false;
-  return Operation(u"Sub LinkModelToManufacturer"_s, [&] {
-    UpdateTableBySQL(u"Update tblModels set manfid = %1 where ID = %2"_s.arg(manufacturer).arg(model));
-  });
+  return Operation(u"Sub LinkModelToManufacturer"_s,
+                   [&] { UpdateRows(tblModels::ManfID, manufacturer, tblModels::ID == model); });
 }
 
 int AddManufacturer() {
@@ -189,23 +186,16 @@ int AddManufacturer() {
   const bool written = Operation(u"Function AddManufacturer"_s, [&] {
     int next = 1;
     bool taken = false;
-    Recordset manufacturers(u"Select * from tblManufacturers order by ID"_s);
-    if (RecordsetHasRows(manufacturers)) {
-      for (; !manufacturers.Eof(); manufacturers.MoveNext()) {
-        next = manufacturers[u"ID"].ToInt() + 1;
-        if (SameName(manufacturers[u"Name"].ToText(), name)) taken = true;
-      }
+    for (const Recordset& maker : Rows(Select(tblManufacturers::kTable).OrderBy(tblManufacturers::ID))) {
+      next = maker[tblManufacturers::ID].ToInt() + 1;
+      if (SameName(maker[tblManufacturers::Name].ToText(), name)) taken = true;
     }
     if (taken) {
       MsgBox(name + u" already exists"_s, u"Please note:"_s);
-    } else {
-      manufacturers.AddNew();
-      manufacturers.Set(u"ID", next);
-      manufacturers.Set(u"Name", name);
-      manufacturers.Update();
-      id = next;
+      return;
     }
-    manufacturers.Close();
+    AddRow(tblManufacturers::kTable, {{tblManufacturers::ID, next}, {tblManufacturers::Name, name}});
+    id = next;
   });
   return written ? id : 0;
 }
@@ -214,11 +204,7 @@ bool RenameManufacturer(int id) {
   const QString name = AskOtherName(ManufacturerName(id), u"Rename manufacturer"_s);
   if (name.isEmpty()) return false;
   return Operation(u"Sub RenameManufacturer"_s, [&] {
-    Recordset manufacturer(u"Select * from tblManufacturers where id = "_s + QString::number(id));
-    if (RecordsetHasRows(manufacturer)) {
-      manufacturer.Set(u"Name", name);
-      manufacturer.Update();
-    }
+    EditRow(tblManufacturers::ID == id, {{tblManufacturers::Name, name}});
   });
 }
 
@@ -226,7 +212,7 @@ bool DeleteManufacturer(int id) {
   if (!AskYes(u"Are you you want to delete manufacturer "_s + ManufacturerName(id) + u'?', u"Delete Manufacturer?"_s))
     return false;
   return Operation(u"Sub DeleteManufacturer"_s, [&] {
-    DeleteRecordsFromTableBySQL(u"delete * from tblManufacturers where id = "_s + QString::number(id));
-    UpdateTableBySQL(u"update tblModels set manfID = 0 where Manfid = "_s + QString::number(id));
+    DeleteRows(tblManufacturers::ID == id);
+    UpdateRows(tblModels::ManfID, 0, tblModels::ManfID == id);
   });
 }

@@ -7,6 +7,7 @@
 #include "core/format.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "core/text.h"
 #include "gear/component_types.h"
 #include "gear/components.h"
@@ -16,22 +17,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString RowStatement(int id) { return u"Select * from tblComponents where ID = "_s + QString::number(id); }
-
-void WriteFields(Recordset& row, const ComponentEntry& entry) {
-  row.Set(u"ModelID", entry.model);
-  row.Set(u"TypeID", entry.type);
-  row.Set(u"Color", entry.color);
-  row.Set(u"SerialNumber", entry.serial);
-  row.Set(u"Grounded", false);
-  row.Set(u"NumJumps", entry.jumps);
-  row.Set(u"SubType", entry.subType);
-  row.Set(u"Comment", entry.comment.trimmed().isEmpty() ? u" "_s : entry.comment);
-  row.Set(u"OwnerID", entry.owner);
-  row.Set(u"Price", entry.price);
-  row.Set(u"PhotoName", entry.photoName);
-  row.Set(u"DOM", entry.dom);
-  row.Update();
+RowValues FieldsOf(const ComponentEntry& entry) {
+  return {{tblComponents::ModelID, entry.model},
+          {tblComponents::TypeID, entry.type},
+          {tblComponents::Color, entry.color},
+          {tblComponents::SerialNumber, entry.serial},
+          {tblComponents::Grounded, false},
+          {tblComponents::NumJumps, entry.jumps},
+          {tblComponents::SubType, entry.subType},
+          {tblComponents::Comment, entry.comment.trimmed().isEmpty() ? u" "_s : entry.comment},
+          {tblComponents::OwnerID, entry.owner},
+          {tblComponents::Price, entry.price},
+          {tblComponents::PhotoName, entry.photoName},
+          {tblComponents::DOM, entry.dom}};
 }
 
 SerialCheck CheckSerialOfNew(int model, const QString& serial, int other) {
@@ -50,22 +48,22 @@ bool LoadComponentEntry(int id, ComponentEntry& entry) {
   entry = {};
   bool exists = false;
   Operation(u"Function LoadComponentEntry"_s, [&] {
-    Recordset row(RowStatement(id));
+    Recordset row(tblComponents::ID == id);
     exists = RecordsetHasRows(row);
     if (exists)
       entry = {.id = id,
-               .model = row[u"ModelID"].ToInt(),
-               .type = row[u"TypeID"].ToInt(),
-               .owner = row[u"OwnerID"].ToInt(),
-               .rig = row[u"RigID"].ToInt(),
-               .subType = row[u"SubType"].ToText(),
-               .serial = row[u"SerialNumber"].ToText(),
-               .color = row[u"Color"].ToText(),
-               .comment = row[u"Comment"].ToText(),
-               .photoName = row[u"PhotoName"].ToText(),
-               .dom = row[u"DOM"].ToDate(),
-               .jumps = row[u"NumJumps"].ToInt(),
-               .price = row[u"Price"].ToMoney()};
+               .model = row[tblComponents::ModelID].ToInt(),
+               .type = row[tblComponents::TypeID].ToInt(),
+               .owner = row[tblComponents::OwnerID].ToInt(),
+               .rig = row[tblComponents::RigID].ToInt(),
+               .subType = row[tblComponents::SubType].ToText(),
+               .serial = row[tblComponents::SerialNumber].ToText(),
+               .color = row[tblComponents::Color].ToText(),
+               .comment = row[tblComponents::Comment].ToText(),
+               .photoName = row[tblComponents::PhotoName].ToText(),
+               .dom = row[tblComponents::DOM].ToDate(),
+               .jumps = row[tblComponents::NumJumps].ToInt(),
+               .price = row[tblComponents::Price].ToMoney()};
   });
   return exists;
 }
@@ -115,14 +113,11 @@ int SaveComponentEntry(const ComponentEntry& entry) {
   if (entry.model == 0) MsgBox(u"ModelID = 0"_s);
   int id = 0;
   const bool written = Operation(u"Function SaveComponentEntry"_s, [&] {
-    Recordset row(entry.id == 0 ? u"tblComponents"_s : RowStatement(entry.id));
+    RowValues values = FieldsOf(entry);
     if (entry.id == 0) {
-      row.AddNew();
-      row.Set(u"RigID", entry.rig);
-      WriteFields(row, entry);
-      id = row[u"ID"].ToInt();
-    } else if (RecordsetHasRows(row)) {
-      WriteFields(row, entry);
+      values.Set(tblComponents::RigID, entry.rig);
+      id = AddRow(tblComponents::kTable, values);
+    } else if (EditRow(tblComponents::ID == entry.id, values)) {
       id = entry.id;
     }
     if (id != 0) CheckComponentType(id);
@@ -133,16 +128,10 @@ int SaveComponentEntry(const ComponentEntry& entry) {
 
 bool SaveShortEntry(int component, int model, const QString& serial, Date dom, const QString& subType) {
   return Operation(u"Sub SaveShortEntry"_s, [&] {
-    {
-      Recordset row(RowStatement(component));
-      if (RecordsetHasRows(row)) {
-        row.Set(u"ModelID", model);
-        row.Set(u"SerialNumber", serial);
-        row.Set(u"DOM", dom);
-        row.Set(u"SubType", subType);
-        row.Update();
-      }
-    }
+    EditRow(tblComponents::ID == component, {{tblComponents::ModelID, model},
+                                             {tblComponents::SerialNumber, serial},
+                                             {tblComponents::DOM, dom},
+                                             {tblComponents::SubType, subType}});
     CheckComponentType(component);
   });
 }

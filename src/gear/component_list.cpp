@@ -12,15 +12,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString Statement(const ComponentFilter& filter) {
-  if (filter.type == 0) return u"Select * from tblComponents Order by TypeID"_s;
-  const QString owner = filter.owner == 0 ? QString() : u" and ownerID = %1"_s.arg(filter.owner);
-  return u"Select * from tblComponents Where TypeID = %1"_s.arg(filter.type) + owner + u" order by Modelid"_s;
+  if (filter.type == 0) return Select(tblComponents::kTable).OrderBy(tblComponents::TypeID);
+  Condition wanted = tblComponents::TypeID == filter.type;
+  if (filter.owner != 0) wanted = wanted && tblComponents::OwnerID == filter.owner;
+  return Select(wanted).OrderBy(tblComponents::ModelID);
 }
 
 bool Passes(const ComponentFilter& filter, const Recordset& row) {
-  if (filter.owner != 0 && row[u"OwnerID"].ToInt() != filter.owner) return false;
-  if (filter.model != 0 && row[u"ModelID"].ToInt() != filter.model) return false;
-  const bool inRig = row[u"RigID"].ToInt() >= 1;
+  if (filter.owner != 0 && row[tblComponents::OwnerID].ToInt() != filter.owner) return false;
+  if (filter.model != 0 && row[tblComponents::ModelID].ToInt() != filter.model) return false;
+  const bool inRig = row[tblComponents::RigID].ToInt() >= 1;
   return filter.rigs == ComponentFilter::Rigs::Both || inRig == (filter.rigs == ComponentFilter::Rigs::InRig);
 }
 
@@ -33,17 +34,17 @@ struct Names {
 };
 
 ComponentListRow Read(const Recordset& row, Names& names) {
-  const int rig = row[u"RigID"].ToInt();
-  const int owner = row[u"OwnerID"].ToInt();
-  const QString serial = row[u"SerialNumber"].ToText();
-  return {row[u"ID"].ToInt(),
+  const int rig = row[tblComponents::RigID].ToInt();
+  const int owner = row[tblComponents::OwnerID].ToInt();
+  const QString serial = row[tblComponents::SerialNumber].ToText();
+  return {row[tblComponents::ID].ToInt(),
           owner,
           rig,
-          names.model(row[u"ModelID"].ToInt()) + u' ' + row[u"SubType"].ToText(),
+          names.model(row[tblComponents::ModelID].ToInt()) + u' ' + row[tblComponents::SubType].ToText(),
           names.rig(rig),
           names.owner(owner),
           serial.trimmed().isEmpty() ? u"(none)"_s : serial,
-          row[u"DOM"].ToDate()};
+          row[tblComponents::DOM].ToDate()};
 }
 
 }  // namespace

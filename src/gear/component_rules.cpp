@@ -15,20 +15,6 @@ namespace {
 
 int LivingOwner(int owner) { return owner > 0 && PersonExists(owner) ? owner : 0; }
 
-QStringList UsesOf(int component) {
-  QStringList uses;
-  Operation(u"Function UsesOf"_s, [&] {
-    if (ComponentRig(component) != 0) uses << u"    as part of a rig"_s;
-    if (GetNumberRecords(u"tblJobComponents"_s, u"ComponentID"_s, component) > 0)
-      uses << u"    is used in one or more jobs"_s;
-    if (GetNumberRecords(u"tblTaskComponents"_s, u"CompID"_s, component) > 0)
-      uses << u"    is used in one or more tasks"_s;
-    if (GetNumberRecords(u"tblSchedules"_s, u"ComponentID"_s, component) > 0)
-      uses << u"    is used in one or more schedules"_s;
-  });
-  return uses;
-}
-
 QString WithRig(int component) {
   const int rig = ComponentRig(component);
   return ComponentDescription(component) +
@@ -61,25 +47,12 @@ QString CommandForSerial(const QString& serial, int type) {
 IdList LoadSerials(int type) {
   IdList serials;
   Operation(u"Function LoadSerials"_s, [&] {
-    const QString ofType = type == 0 ? QString() : u"TypeID = %1 and "_s.arg(type);
-    Recordset rows(u"Select * from tblcomponents where "_s + ofType + u"SerialNumber <> '' order by serialnumber "_s);
-    if (RecordsetHasRows(rows))
-      for (; !rows.Eof(); rows.MoveNext()) serials.Add(rows[u"SerialNumber"].ToText(), rows[u"ID"].ToInt());
+    Condition wanted = tblComponents::SerialNumber != u"";
+    if (type != 0) wanted = tblComponents::TypeID == type && wanted;
+    for (const Recordset& row : Rows(Select(wanted).OrderBy(tblComponents::SerialNumber)))
+      serials.Add(row[tblComponents::SerialNumber].ToText(), row[tblComponents::ID].ToInt());
   });
   return serials;
-}
-
-bool AskAddToRig(int type, int rig, int component) {
-  const QString typeName = ComponentTypeName(type);
-  if (!AskYes(Lines({u"The "_s + typeName + u" you selected:"_s, u"     "_s + ComponentDescription(component),
-                     u"is not part of the rig: "_s + RigName(rig),
-                     u"Do you want to add this "_s + typeName + u" to this rig?"_s}),
-              u"Add "_s + typeName + u'?'))
-    return false;
-  return Operation(u"Sub AskAddToRig"_s, [&] {
-    FreePlace(rig, type);
-    InstallComponent(rig, component, ComponentOwner(component));
-  });
 }
 
 bool AgreesWithComponentList(int component) {
@@ -107,19 +80,6 @@ bool ChangeComponentOwner(int component, int newOwner) {
   return Operation(u"Sub ChangeComponentOwner"_s, [&] { SetComponentOwner(component, newOwner); });
 }
 
-bool RemoveFromItsRig(int component) {
-  const int rig = ComponentRig(component);
-  const int type = ComponentTypeOf(component);
-  if (!AskYes(u"Remove "_s + ComponentDescription(component) + u" from "_s + RigName(rig) + u'?',
-              u"Remove "_s + ComponentTypeName(type) + u'?'))
-    return false;
-  return Operation(u"Sub RemoveFromItsRig"_s, [&] {
-    DetachComponent(rig, component, type);
-    InstallComponent(0, component, ComponentOwner(component));
-    UpdateTable(u"tblPhotos"_s, u"rigid"_s, 0, u"componentid"_s, component);
-  });
-}
-
 void RepairComponentOwner(int component) {
   const int rigOwner = LivingOwner(RigOwner(ComponentRig(component)));
   if (rigOwner == 0 || LivingOwner(ComponentOwner(component)) != 0) return;
@@ -142,30 +102,4 @@ bool SetLostComponentType(int component, int type) {
           kProgramTitle))
     return false;
   return Operation(u"Sub SetLostComponentType"_s, [&] { SetComponentType(component, type); });
-}
-
-bool DeleteComponent(int component) {
-  if (component == 0) {
-    MsgBox(u"Please select a component"_s, u"Nothing selected"_s);
-    return false;
-  }
-  const QString name = ComponentDescription(component);
-  const QStringList uses = UsesOf(component);
-  if (uses.isEmpty()) {
-    if (!AskYes(u"Are you sure you want to delete "_s + name + u'?',
-                u"Delete "_s + ComponentTypeName(ComponentTypeOf(component))))
-      return false;
-  } else if (!AskYes(Lines(QStringList(u"This item, "_s + name + u", is being used:"_s) + uses +
-                           QStringList{u"Deleting this component will affect the above items"_s,
-                                       u"(You can see a list of these from the REPORTS menu)"_s,
-                                       u"Are you sure you want to delete this component?"_s, u"(not recommended)"_s}),
-                     u"Deleting NOT recommended"_s)) {
-    return false;
-  }
-  return Operation(u"Sub DeleteComponent"_s, [&] {
-    DeleteRecordsFromTable(u"tblComponents"_s, u"ID"_s, component);
-    DeleteRecordsFromTable(u"tblJobComponents"_s, u"ComponentID"_s, component);
-    DeleteRecordsFromTable(u"tblSchedules"_s, u"ComponentID"_s, component);
-    DeleteRecordsFromTable(u"tblTaskComponents"_s, u"CompID"_s, component);
-  });
 }

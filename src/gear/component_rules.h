@@ -12,9 +12,6 @@ QString CommandForSerial(const QString& serial, int type);
 /// The serial numbers of a type's components (0 for all) in their order, with the components' ids.
 IdList LoadSerials(int type);
 
-/// Asks whether a component in no rig goes into this rig, and puts it there; true when it did.
-bool AskAddToRig(int type, int rig, int component);
-
 /// Before a component is changed: with another one selected in the list of components, asks whether this is the one
 /// that is meant. False to leave it.
 bool AgreesWithComponentList(int component);
@@ -22,15 +19,9 @@ bool AgreesWithComponentList(int component);
 /// Asks before a component gets another owner than its rig; true when the owner was written.
 bool ChangeComponentOwner(int component, int newOwner);
 
-/// Takes a component out of its rig after a question, its photos with it; true when it was taken out.
-bool RemoveFromItsRig(int component);
-
 /// A component in a rig whose own owner is unknown gets the rig's owner.
 void RepairComponentOwner(int component);
 /// Tells that the component has lost its type, before one is picked.
 void TellLostComponentType(int component);
 /// What was picked for it: 0 is told, anything else asked about and written. True when it was written.
 bool SetLostComponentType(int component, int type);
-
-/// Deletes a component after telling what it is used by; 0 is no selection. True when it is gone.
-bool DeleteComponent(int component);

@@ -3,6 +3,7 @@
 #include "core/default_rows.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;
@@ -12,10 +13,10 @@ namespace {
 int NextTypeId() {
   int next = 1;
   Operation(u"Function NextTypeId"_s, [&] {
-    Recordset types(u"Select * from tblComponentTypes order by ID"_s);
+    Recordset types(Select(tblComponentTypes::kTable).OrderBy(tblComponentTypes::ID));
     if (RecordsetHasRows(types)) {
       types.MoveLast();
-      next = types[u"ID"].ToInt() + 1;
+      next = types[tblComponentTypes::ID].ToInt() + 1;
     } else {
       MsgBox(u"you shouldn't be here"_s);
     }
@@ -43,11 +44,7 @@ int AddNewComponentType() {
   const QString name = InputBox(u"Enter name of new component"_s);
   if (name.isEmpty()) return 0;
   const bool added = Operation(u"Function AddNewComponentType"_s, [&] {
-    Recordset types(u"tblComponentTypes"_s);
-    types.AddNew();
-    types.Set(u"Name", name);
-    types.Set(u"ID", id);
-    types.Update();
+    AddRow(tblComponentTypes::kTable, {{tblComponentTypes::Name, name}, {tblComponentTypes::ID, id}});
   });
   return added ? id : 0;
 }
@@ -56,11 +53,7 @@ bool RenameComponentType(int id) {
   const QString name = InputBox(u"Enter component type name"_s, u"Rename"_s, ComponentTypeName(id));
   if (name.trimmed().isEmpty()) return false;
   return Operation(u"Sub RenameComponentType"_s, [&] {
-    Recordset type(u"Select * from tblComponentTypes where id = "_s + QString::number(id));
-    if (RecordsetHasRows(type)) {
-      type.Set(u"Name", name);
-      type.Update();
-    }
+    EditRow(tblComponentTypes::ID == id, {{tblComponentTypes::Name, name}});
   });
 }
 
@@ -74,9 +67,8 @@ bool DeleteComponentType(int id) {
            u"Cannot delete this component type"_s);
     return false;
   }
-  const QString where = u" where TypeID = "_s + QString::number(id);
-  const int used = GetNumberRecordsComplex(u"Select * from tblModels"_s + where).ToInt() +
-                   GetNumberRecordsComplex(u"Select * from tblComponents"_s + where).ToInt();
+  const int used = GetNumberRecordsComplex(tblModels::TypeID == id).ToInt() +
+                   GetNumberRecordsComplex(tblComponents::TypeID == id).ToInt();
   if (used != 0) {
     MsgBox(
         Lines({u"There are either models or actual components of this type."_s,
@@ -85,7 +77,7 @@ bool DeleteComponentType(int id) {
     return false;
   }
   if (!AskYes(u"Delete "_s + ComponentTypeName(id) + u'?', u"Are you sure?"_s)) return false;
-  return Operation(u"Sub DeleteComponentType"_s, [&] { DeleteRecordsFromTable(u"tblComponentTypes"_s, u"ID"_s, id); });
+  return Operation(u"Sub DeleteComponentType"_s, [&] { DeleteRecordsFromTable(tblComponentTypes::ID, id); });
 }
 
 void ShowComponentTypeHelp() {

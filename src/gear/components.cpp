@@ -6,6 +6,7 @@
 #include "core/default_rows.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/models.h"
 #include "gear/rigs.h"
 
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Value ComponentField(int id, const QString& field) { return GetValueFromTable(u"tblComponents"_s, u"ID"_s, id, field); }
+Value ComponentField(int id, const Column& field) { return GetValueFromTable(tblComponents::ID, id, field); }
 
 int CountSerials(const QString& source, const QString& serial, int& id) {
   int count = 0;
@@ -21,9 +22,9 @@ int CountSerials(const QString& source, const QString& serial, int& id) {
   if (wanted.isEmpty()) return count;
   Operation(u"Function CountSerials"_s, [&] {
     for (const Recordset& component : Rows(source)) {
-      if (component[u"SerialNumber"].ToText().trimmed().toUpper() != wanted) continue;
+      if (component[tblComponents::SerialNumber].ToText().trimmed().toUpper() != wanted) continue;
       ++count;
-      id = component[u"ID"].ToInt();
+      id = component[tblComponents::ID].ToInt();
     }
   });
   return count;
@@ -37,28 +38,39 @@ QString ComponentDescription(int id) {
 }
 
 QString ComponentSerial(int id, bool withPrefix) {
-  const QString serial = ComponentField(id, u"SerialNumber"_s).ToText();
+  const QString serial = ComponentField(id, tblComponents::SerialNumber).ToText();
   if (serial.trimmed().isEmpty()) return {};
   return withPrefix ? u"s/n "_s + serial : serial;
 }
 
-int ComponentModel(int id) { return ComponentField(id, u"ModelID"_s).ToInt(); }
-int ComponentTypeOf(int id) { return ComponentField(id, u"TypeID"_s).ToInt(); }
-QString ComponentSubType(int id) { return ComponentField(id, u"SubType"_s).ToText(); }
-Date ComponentDom(int id) { return ComponentField(id, u"DOM"_s).ToDate(); }
-int ComponentOwner(int id) { return ComponentField(id, u"OwnerID"_s).ToInt(); }
-int ComponentRig(int id) { return ComponentField(id, u"RigID"_s).ToInt(); }
-bool ComponentExists(int id) { return id != 0 && ComponentField(id, u"ID"_s).ToInt() == id; }
+int ComponentModel(int id) { return ComponentField(id, tblComponents::ModelID).ToInt(); }
+int ComponentTypeOf(int id) { return ComponentField(id, tblComponents::TypeID).ToInt(); }
+QString ComponentSubType(int id) { return ComponentField(id, tblComponents::SubType).ToText(); }
+Date ComponentDom(int id) { return ComponentField(id, tblComponents::DOM).ToDate(); }
+int ComponentOwner(int id) { return ComponentField(id, tblComponents::OwnerID).ToInt(); }
+int ComponentRig(int id) { return ComponentField(id, tblComponents::RigID).ToInt(); }
+bool ComponentExists(int id) { return id != 0 && ComponentField(id, tblComponents::ID).ToInt() == id; }
 
-void SetComponentOwner(int id, int owner) { UpdateTable(u"tblComponents"_s, u"ownerid"_s, owner, u"id"_s, id); }
-void SetComponentType(int id, int type) { UpdateTable(u"tblComponents"_s, u"TypeID"_s, type, u"id"_s, id); }
-void SetComponentRig(int id, int rig) { UpdateTable(u"tblComponents"_s, u"RigID"_s, rig, u"id"_s, id); }
+void SetComponentOwner(int id, int owner) { UpdateTable(tblComponents::OwnerID, owner, tblComponents::ID, id); }
+void SetComponentType(int id, int type) { UpdateTable(tblComponents::TypeID, type, tblComponents::ID, id); }
+void SetComponentRig(int id, int rig) { UpdateTable(tblComponents::RigID, rig, tblComponents::ID, id); }
 void SetComponentModel(int id, int model) {
   Operation({u"Sub SetComponentModel"_s, u"Change component model"_s},
-            [&] { UpdateTable(u"tblComponents"_s, u"ModelID"_s, model, u"ID"_s, id); });
+            [&] { UpdateTable(tblComponents::ModelID, model, tblComponents::ID, id); });
 }
 
-void SetLastComponentID(int id) { UpdateTableBySQL(u"update tblMisc set LastComponentID = "_s + QString::number(id)); }
+void SetComponentSerial(int id, const QString& serial) {
+  UpdateTable(tblComponents::SerialNumber, serial, tblComponents::ID, id);
+}
+void SetComponentDom(int id, Date dom) { UpdateTable(tblComponents::DOM, dom, tblComponents::ID, id); }
+
+void MovePhotos(int id, int rig) { UpdateTable(tblPhotos::rigID, rig, tblPhotos::ComponentID, id); }
+
+void DeleteComponentRow(int id) { DeleteRecordsFromTable(tblComponents::ID, id); }
+
+void SetLastComponentID(int id) { UpdateRows(tblMisc::LastComponentID, id); }
+
+int NumberOfComponents(int owner) { return GetNumberRecordsComplex(tblComponents::OwnerID == owner).ToInt(); }
 
 Date ComponentExpiry(int id) {
   Date expiry;
@@ -77,76 +89,50 @@ int NewComponent(int model, int type, int rig, const QString& serial) {
     int owner = 0;
     if (rig != 0) {
       owner = RigOwner(rig);
-      DeleteRecordsFromTableBySQL(u"Delete * from tblComponents where rigID = %1 and typeID = %2"_s.arg(rig).arg(type));
+      DeleteRows(tblComponents::RigID == rig && tblComponents::TypeID == type);
     }
-    {
-      Recordset components(u"tblComponents"_s);
-      components.AddNew();
-      components.Set(u"ModelID", model);
-      components.Set(u"TypeID", type);
-      components.Set(u"RigID", rig);
-      components.Set(u"SerialNumber", serial);
-      components.Set(u"Grounded", false);
-      components.Set(u"NumJumps", 0);
-      components.Set(u"Comment", u" ");
-      components.Set(u"OwnerID", owner);
-      components.Set(u"DOM", Date());
-      components.Set(u"Price", Money());
-      for (QStringView text : {u"Color", u"SubType", u"PhotoName"}) components.Set(text, QString());
-      components.Update();
-      id = components[u"ID"].ToInt();
-    }
+    id = AddRow(tblComponents::kTable, {{tblComponents::ModelID, model},
+                                        {tblComponents::TypeID, type},
+                                        {tblComponents::RigID, rig},
+                                        {tblComponents::SerialNumber, serial},
+                                        {tblComponents::Grounded, false},
+                                        {tblComponents::NumJumps, 0},
+                                        {tblComponents::Comment, u" "},
+                                        {tblComponents::OwnerID, owner},
+                                        {tblComponents::DOM, Date()},
+                                        {tblComponents::Price, Money()},
+                                        {tblComponents::Color, QString()},
+                                        {tblComponents::SubType, QString()},
+                                        {tblComponents::PhotoName, QString()}});
   });
   return written ? id : 0;
 }
 
 void InstallComponent(int rig, int component, int owner) {
   Operation(u"Sub InstallComponent"_s, [&] {
-    Recordset row(u"Select * from tblComponents where id = "_s + QString::number(component));
-    if (RecordsetHasRows(row)) {
-      row.Set(u"RigID", rig);
-      if (rig == 0 && row[u"OwnerID"].ToInt() == 0) row.Set(u"OwnerID", owner);
-      row.Update();
-    }
+    RowValues values = {{tblComponents::RigID, rig}};
+    if (rig == 0 && ComponentOwner(component) == 0) values.Set(tblComponents::OwnerID, owner);
+    EditRow(tblComponents::ID == component, values);
   });
 }
 
 void FreePlace(int rig, int type) {
-  UpdateTableBySQL(u"update tblComponents set RigID = 0 where RigID = %1 and TypeID = %2"_s.arg(rig).arg(type));
+  UpdateRows(tblComponents::RigID, 0, tblComponents::RigID == rig && tblComponents::TypeID == type);
 }
 
 void CheckComponentType(int id) {
   Upkeep(u"Sub CheckComponentType"_s, [&] {
-    Recordset component(u"select * from tblComponents where ID = "_s + QString::number(id));
-    if (RecordsetHasRows(component)) {
-      const int type = ModelType(component[u"ModelID"].ToInt());
-      if (component[u"TypeID"].ToInt() != type) {
-        component.Set(u"TypeID", type);
-        component.Update();
-      }
-    }
+    const int type = ModelType(ComponentModel(id));
+    if (ComponentTypeOf(id) != type) SetComponentType(id, type);
   });
 }
 
 int FindBySerial(const QString& serial, int type, int& id) {
   id = 0;
-  return CountSerials(
-      type == 0 ? u"tblComponents"_s : u"Select * from tblComponents where TypeID = "_s + QString::number(type), serial,
-      id);
+  return CountSerials(type == 0 ? Select(tblComponents::kTable) : Select(tblComponents::TypeID == type), serial, id);
 }
 
 int CountSerialsOfModel(int model, const QString& serial, int& id) {
   id = 0;
-  return CountSerials(u"Select * from tblComponents where Modelid = "_s + QString::number(model), serial, id);
-}
-
-void DetachComponent(int rig, int component, int type) {
-  Operation(u"Sub DetachComponent"_s, [&] {
-    if (type == kContainer || type == kReserveCanopy) {
-      Recordset entry(
-          u"Select * from tblSchedules where rigID = %1 and tasklibid = %2"_s.arg(rig).arg(RepackTaskLibID));
-      if (RecordsetHasRows(entry)) entry.Delete();
-    }
-    UpdateTableBySQL(u"Update tblSchedules set rigid = 0 where Componentid = "_s + QString::number(component));
-  });
+  return CountSerials(tblComponents::ModelID == model, serial, id);
 }

@@ -20,7 +20,16 @@ void SetComponentOwner(int id, int owner);
 void SetComponentType(int id, int type);
 void SetComponentRig(int id, int rig);
 void SetComponentModel(int id, int model);
+void SetComponentSerial(int id, const QString& serial);
+void SetComponentDom(int id, Date dom);
+/// A component's photos follow it into a rig, or (0) out of it.
+void MovePhotos(int id, int rig);
+/// Deletes the row alone.
+void DeleteComponentRow(int id);
 void SetLastComponentID(int id);
+
+/// How many a person owns.
+int NumberOfComponents(int owner);
 
 /// The date of manufacture plus the model's service life; none when either is missing. A day that the month lacks
 /// becomes the last day of that month, so that no life goes without an end.
@@ -40,18 +49,3 @@ void CheckComponentType(int id);
 int FindBySerial(const QString& serial, int type, int& id);
 /// The same among the components of a model.
 int CountSerialsOfModel(int model, const QString& serial, int& id);
-/// What leaving a rig takes off its schedule: the repack with a container or reserve canopy, and the rig of the
-/// component's own entries.
-void DetachComponent(int rig, int component, int type);
-
-/// Writes the removal of a component from its rig as a completed task without a job, for the history of both.
-void AddRemovalTask(int component, int rig, Date date, int location = 0);
-
-/// Asks before a chosen component enters a rig. One of the same rig is told and stays chosen; one of another rig is
-/// moved after a question: the place is freed, the component installed, and with a date the removal from the old rig
-/// is written as a completed task without a job, at `location`. A refusal sets `component` to 0 and returns false.
-/// With `silent` nothing is asked and nothing moved.
-bool CheckMove(int type, int rig, int& component, bool silent, Date date, int location = 0);
-/// Where owner of rig and owner of component differ, asks whether the component changes hands. False to cancel the
-/// install.
-bool CheckOwner(int rig, int component);

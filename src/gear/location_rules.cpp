@@ -1,9 +1,11 @@
 #include "gear/location_rules.h"
 
+#include "core/failure.h"
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/locations.h"
 
 using namespace Qt::StringLiterals;
@@ -18,10 +20,10 @@ struct StateRates {
 
 StateRates OtherRates(const QString& state, double rate, int id) {
   StateRates others;
-  for (const Recordset& row : Rows(u"Select * from tblLocation where State = '"_s + state + u'\'')) {
-    if (id != 0 && row[u"ID"].ToInt() == id) continue;
-    const double other = row[u"TaxRate"].ToDouble();
-    others.cities += row[u"City"].ToText() + u"  ("_s + ShownTaxRate(other) + u"%)\n"_s;
+  for (const Recordset& row : Rows(tblLocation::State == state)) {
+    if (id != 0 && row[tblLocation::ID].ToInt() == id) continue;
+    const double other = row[tblLocation::TaxRate].ToDouble();
+    others.cities += row[tblLocation::City].ToText() + u"  ("_s + ShownTaxRate(other) + u"%)\n"_s;
     if (other != rate) others.inForce = other;
   }
   return others;
@@ -34,9 +36,9 @@ QString ShownTaxRate(double rate) { return Format(rate, u"#0.00"_s); }
 IdList LoadLocations() {
   IdList list;
   Operation(u"Sub LoadLocations"_s, [&] {
-    for (const Recordset& row : Rows(u"Select * from tblLocation order by City"_s)) {
-      const int id = row[u"ID"].ToInt();
-      list.Add(LocationText(id) + (row[u"Default"].ToBool() ? u"  (default location)"_s : QString()), id);
+    for (const Recordset& row : Rows(Select(tblLocation::kTable).OrderBy(tblLocation::City))) {
+      const int id = row[tblLocation::ID].ToInt();
+      list.Add(LocationText(id) + (row[tblLocation::Default].ToBool() ? u"  (default location)"_s : QString()), id);
     }
   });
   return list;
@@ -45,9 +47,9 @@ IdList LoadLocations() {
 bool LoadLocation(int id, LocationEntry& entry) {
   bool found = false;
   Operation(u"Sub LoadLocation"_s, [&] {
-    for (const Recordset& row : Rows(u"Select * from tblLocation where id = "_s + QString::number(id))) {
-      entry = {row[u"City"].ToText(), row[u"State"].ToText(), ShownTaxRate(row[u"TaxRate"].ToDouble()),
-               row[u"Default"].ToBool()};
+    for (const Recordset& row : Rows(tblLocation::ID == id)) {
+      entry = {row[tblLocation::City].ToText(), row[tblLocation::State].ToText(),
+               ShownTaxRate(row[tblLocation::TaxRate].ToDouble()), row[tblLocation::Default].ToBool()};
       found = true;
     }
   });
@@ -67,7 +69,7 @@ void CheckTax(LocationEntry& entry, int id) {
                  u"Tax rate doesn't match - "_s + percent)) {
         if (AskYes(u"Do you want to use "_s + percent + u" for all cities in "_s + state + u'?',
                    u"Change other city tax rates?"_s))
-          UpdateTable(u"tblLocation"_s, u"TaxRate"_s, rate, u"State"_s, u'\'' + state + u'\'');
+          UpdateTable(tblLocation::TaxRate, rate, tblLocation::State, u'\'' + state + u'\'');
       } else {
         entry.taxRate = ShownTaxRate(*others.inForce);
         MsgBox(u"Tax rate changed to "_s + entry.taxRate);
@@ -85,19 +87,19 @@ int SaveLocation(LocationEntry& entry, int id) {
   const bool written = Operation(u"Sub SaveLocation"_s, [&] {
     CheckTax(entry, id);
     if (entry.isDefault) TurnOffAllLocationDefaults();
-    {
-      Recordset row(id == 0 ? u"tblLocation"_s : u"Select * from tblLocation where id = "_s + QString::number(id));
-      if (id == 0)
-        row.AddNew();
-      else if (!RecordsetHasRows(row))
+    const RowValues values = {{tblLocation::Default, entry.isDefault},
+                              {tblLocation::Location, QString()},
+                              {tblLocation::City, entry.city.trimmed()},
+                              {tblLocation::State, entry.state.trimmed().toUpper()},
+                              {tblLocation::TaxRate, Val(entry.taxRate)}};
+    if (id == 0) {
+      saved = AddRow(tblLocation::kTable, values);
+    } else {
+      if (!EditRow(tblLocation::ID == id, values)) {
         MsgBox(u"you shouldn't be here"_s);
-      row.Set(u"Default", entry.isDefault);
-      row.Set(u"location", QString());
-      row.Set(u"City", entry.city.trimmed());
-      row.Set(u"State", entry.state.trimmed().toUpper());
-      row.Set(u"TaxRate", Val(entry.taxRate));
-      row.Update();
-      saved = row[u"ID"].ToInt();
+        throw Failure(kNoCurrentRecord);
+      }
+      saved = id;
     }
   });
   return written ? saved : 0;
@@ -110,5 +112,5 @@ bool DeleteLocation(int id) {
   if (jobs > 1) lines << u"There are "_s + QString::number(jobs) + u" jobs for that location"_s << QString();
   lines << u"Are you sure you want to delete this location?"_s;
   if (!AskYes(Lines(lines), u"Delete "_s + LocationText(id) + u'?')) return false;
-  return Operation(u"Sub DeleteLocation"_s, [&] { DeleteRecordsFromTable(u"tblLocation"_s, u"ID"_s, id); });
+  return Operation(u"Sub DeleteLocation"_s, [&] { DeleteRecordsFromTable(tblLocation::ID, id); });
 }

@@ -2,26 +2,29 @@
 
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 
 using namespace Qt::StringLiterals;
 
 double GetTaxRate(const QString& state) {
   double rate = 0;
   Operation(u"Function GetTaxRate"_s, [&] {
-    for (const Recordset& location : Rows(u"Select * from tblLocation where State = '"_s + state + u'\''))
-      if (location[u"State"].ToText().toUpper() == state) rate = location[u"TaxRate"].ToDouble();
+    for (const Recordset& location : Rows(tblLocation::State == state))
+      if (location[tblLocation::State].ToText().toUpper() == state) rate = location[tblLocation::TaxRate].ToDouble();
   });
   return rate;
 }
 
+bool LocationsExist() { return GetNumberRecordsInTable(tblLocation::kTable) > 0; }
+
 int DefaultLocation() {
   int id = 0;
   Operation(u"Function DefaultLocation"_s, [&] {
-    Recordset locations(u"Select * from tblLocation"_s);
+    Recordset locations(tblLocation::kTable);
     if (RecordsetHasRows(locations)) {
       const bool only = locations.RecordCount() == 1;
       for (; id == 0 && !locations.Eof(); locations.MoveNext())
-        if (only || locations[u"Default"].ToBool()) id = locations[u"ID"].ToInt();
+        if (only || locations[tblLocation::Default].ToBool()) id = locations[tblLocation::ID].ToInt();
     }
   });
   return id;
@@ -29,12 +32,8 @@ int DefaultLocation() {
 
 void SetDefault(int id) {
   Operation(u"Sub SetDefault"_s, [&] {
-    for (Recordset& location : Rows(u"tblLocation"_s)) {
-      const bool isDefault = location[u"ID"].ToInt() == id;
-      if (!isDefault && !location[u"Default"].ToBool()) continue;
-      location.Set(u"Default", isDefault);
-      location.Update();
-    }
+    TurnOffAllLocationDefaults();
+    EditRow(tblLocation::ID == id, {{tblLocation::Default, true}});
   });
 }
 
@@ -45,16 +44,14 @@ void ClearDefault() {
 QString LocationText(int id) {
   QString text;
   Operation(u"Function LocationText"_s, [&] {
-    Recordset location(u"Select * from tblLocation where ID = "_s + QString::number(id));
+    Recordset location(tblLocation::ID == id);
     if (RecordsetHasRows(location)) {
-      text = location[u"City"].ToText();
-      const QString state = location[u"State"].ToText();
+      text = location[tblLocation::City].ToText();
+      const QString state = location[tblLocation::State].ToText();
       if (!state.trimmed().isEmpty()) text += u", "_s + state;
     }
   });
   return text;
 }
 
-int NumberOfJobsAtLocation(int id) {
-  return GetNumberRecordsComplex(u"Select * from tblJobs where Locationid = "_s + QString::number(id)).ToInt();
-}
+int NumberOfJobsAtLocation(int id) { return GetNumberRecordsComplex(tblJobs::LocationID == id).ToInt(); }

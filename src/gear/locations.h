@@ -5,6 +5,7 @@
 
 /// The rate in percent of a state given in upper case; with several rows the last one read wins. 0 when unknown.
 double GetTaxRate(const QString& state);
+bool LocationsExist();
 /// The only location, or the first one marked as default; 0 for none.
 int DefaultLocation();
 /// Marks this location as the default and no other.

@@ -2,45 +2,45 @@
 
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-Value ModelField(int id, const QString& field) { return GetValueFromTable(u"tblModels"_s, u"ID"_s, id, field); }
+Value ModelField(int id, const Column& field) { return GetValueFromTable(tblModels::ID, id, field); }
 
 int InsertModel(const QString& name, int type, int manufacturer) {
   int id = 0;
   if (name.isEmpty()) return id;
   const bool written = Operation(u"Function AddModel"_s, [&] {
-    Recordset models(u"tblModels"_s);
-    models.AddNew();
-    models.Set(u"ManfID", manufacturer);
-    models.Set(u"TypeID", type);
-    models.Set(u"Price", Money());
-    models.Set(u"Name", name);
-    models.Set(u"servicelife", 0);
-    models.Update();
-    id = models[u"ID"].ToInt();
+    id = AddRow(tblModels::kTable, {{tblModels::ManfID, manufacturer},
+                                    {tblModels::TypeID, type},
+                                    {tblModels::Price, Money()},
+                                    {tblModels::Name, name},
+                                    {tblModels::ServiceLife, 0}});
   });
   return written ? id : 0;
 }
 
 }  // namespace
 
-QString ComponentTypeName(int id) { return GetValueFromTable(u"tblComponentTypes"_s, u"ID"_s, id, u"Name"_s).ToText(); }
+QString ComponentTypeName(int id) {
+  return GetValueFromTable(tblComponentTypes::ID, id, tblComponentTypes::Name).ToText();
+}
 
-QString ModelName(int id) { return ModelField(id, u"Name"_s).ToText(); }
-int ModelType(int id) { return ModelField(id, u"TypeID"_s).ToInt(); }
-Money ModelPrice(int id) { return ModelField(id, u"Price"_s).ToMoney(); }
-int ModelManufacturer(int id) { return ModelField(id, u"ManfID"_s).ToInt(); }
-bool ModelExists(int id) { return id != 0 && ModelField(id, u"ID"_s).ToInt() == id; }
-int ServiceLife(int modelId) { return ModelField(modelId, u"ServiceLife"_s).ToInt(); }
+QString ModelName(int id) { return ModelField(id, tblModels::Name).ToText(); }
+int ModelType(int id) { return ModelField(id, tblModels::TypeID).ToInt(); }
+Money ModelPrice(int id) { return ModelField(id, tblModels::Price).ToMoney(); }
+int ModelManufacturer(int id) { return ModelField(id, tblModels::ManfID).ToInt(); }
+bool ModelExists(int id) { return id != 0 && ModelField(id, tblModels::ID).ToInt() == id; }
+int ServiceLife(int modelId) { return ModelField(modelId, tblModels::ServiceLife).ToInt(); }
 
 QString ManufacturerName(int id) {
-  return GetValueFromTableBySQL(u"select * from tblManufacturers where id = "_s + QString::number(id), u"Name"_s)
-      .ToText();
+  return GetValueFromTableBySQL(tblManufacturers::ID == id, tblManufacturers::Name).ToText();
 }
+
+void DeleteModelRow(int id) { DeleteRecordsFromTable(tblModels::ID, id); }
 
 int AddModel(const QString& name, int type) { return InsertModel(name, type, 0); }
 

@@ -15,6 +15,8 @@ bool ModelExists(int id);
 int ServiceLife(int modelId);
 QString ManufacturerName(int id);
 
+/// Deletes the row alone.
+void DeleteModelRow(int id);
 /// Adds a model with nothing but a name and a type; its id. An empty name adds nothing and returns 0.
 int AddModel(const QString& name, int type);
 /// The same with the name trimmed and a maker.

@@ -7,6 +7,7 @@
 #include "core/format.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "core/text.h"
 #include "core/text_files.h"
 #include "core/trap.h"
@@ -36,33 +37,28 @@ class Reader {
 };
 
 void ReadManufacturers(Reader& reader) {
-  Recordset manufacturers(u"tblManufacturers"_s);
   if (reader.Next() != kStart) return;
   while (!reader.AtEnd()) {
     const QString name = reader.Next();
     if (name == kEnd) return;
-    manufacturers.AddNew();
-    manufacturers.Set(u"ID", reader.NextNumber());
-    manufacturers.Set(u"Name", name);
-    manufacturers.Update();
+    AddRow(tblManufacturers::kTable, {{tblManufacturers::ID, reader.NextNumber()}, {tblManufacturers::Name, name}});
   }
 }
 
 void ReadModels(Reader& reader) {
-  Recordset models(u"tblModels"_s);
   while (!reader.AtEnd()) {
-    models.AddNew();
-    models.Set(u"Name", reader.Next());
-    models.Set(u"ManfID", reader.NextNumber());
-    models.Set(u"TypeID", reader.NextNumber());
+    RowValues model;
+    model.Set(tblModels::Name, reader.Next());
+    model.Set(tblModels::ManfID, reader.NextNumber());
+    model.Set(tblModels::TypeID, reader.NextNumber());
     reader.Next();  // the price of whoever wrote the file is not this shop's
-    models.Set(u"Price", Money());
-    models.Set(u"servicelife", 0);
-    models.Update();
+    model.Set(tblModels::Price, Money());
+    model.Set(tblModels::ServiceLife, 0);
+    AddRow(tblModels::kTable, model);
   }
 }
 
-bool HasModels() { return GetNumberRecordsInTable(u"tblModels"_s) > 0; }
+bool HasModels() { return GetNumberRecordsInTable(tblModels::kTable) > 0; }
 
 }  // namespace
 
@@ -72,15 +68,13 @@ void ExportModels() {
   if (!AskYes(u"ready to export to file?"_s, kProgramTitle)) return;
   const bool written = Operation(u"Sub ExportModels"_s, [] {
     QStringList lines(kStart);
-    const auto add = [&lines](const QString& table, const QList<QStringView>& fields) {
-      Recordset rows(table);
-      if (!RecordsetHasRows(rows)) return;
-      for (; !rows.Eof(); rows.MoveNext())
-        for (QStringView field : fields) lines << rows[field].ToText();
+    const auto add = [&lines](const Table& table, const std::vector<Column>& columns) {
+      for (const Recordset& row : Rows(table))
+        for (const Column& column : columns) lines << row[column].ToText();
     };
-    add(u"tblManufacturers"_s, {u"Name", u"ID"});
+    add(tblManufacturers::kTable, {tblManufacturers::Name, tblManufacturers::ID});
     lines << kEnd;
-    add(u"tblModels"_s, {u"Name", u"ManfID", u"TypeID", u"Price"});
+    add(tblModels::kTable, {tblModels::Name, tblModels::ManfID, tblModels::TypeID, tblModels::Price});
     WriteLines(LocalFile(), lines);
   });
   if (written) MsgBox(u"models.txt created in local directory"_s);

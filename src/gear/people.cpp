@@ -17,27 +17,27 @@ struct Names {
 Names ReadNames(int id) {
   Names names;
   Operation(u"Function ReadNames"_s, [&] {
-    Recordset person(u"select * from tblPeople where id = "_s + QString::number(id));
+    Recordset person(tblPeople::ID == id);
     if (RecordsetHasRows(person))
-      names = {true, person[u"FirstName"].ToText().trimmed(), person[u"LastName"].ToText().trimmed(),
-               person[u"OrgName"].ToText().trimmed()};
+      names = {true, person[tblPeople::firstname].ToText().trimmed(), person[tblPeople::lastname].ToText().trimmed(),
+               person[tblPeople::OrgName].ToText().trimmed()};
   });
   return names;
 }
 
-QString PersonText(int id, const QString& field) {
-  return GetValueFromTable(u"tblPeople"_s, u"ID"_s, id, field).ToText();
-}
+QString PersonText(int id, const Column& field) { return GetValueFromTable(tblPeople::ID, id, field).ToText(); }
 
-QList<int> IdsInOrder(const QString& order) {
+QList<int> IdsInOrder(const std::vector<Column>& order) {
   QList<int> ids;
   Operation(u"Function IdsInOrder"_s, [&] {
-    for (const Recordset& person : Rows(u"Select * from tblPeople order by "_s + order)) ids << person[u"ID"].ToInt();
+    Select people(tblPeople::kTable);
+    for (const Column& column : order) people.OrderBy(column);
+    for (const Recordset& person : Rows(people)) ids << person[tblPeople::ID].ToInt();
   });
   return ids;
 }
 
-QList<int> IdsInWalkingOrder() { return IdsInOrder(u"LastName, FirstName, OrgName"_s); }
+QList<int> IdsInWalkingOrder() { return IdsInOrder({tblPeople::lastname, tblPeople::firstname, tblPeople::OrgName}); }
 
 }  // namespace
 
@@ -57,23 +57,23 @@ QString PersonSortName(int id) {
   return !one.isEmpty() ? one : names.organization;
 }
 
-QString PersonLastName(int id) { return PersonText(id, u"LastName"_s); }
+QString PersonLastName(int id) { return PersonText(id, tblPeople::lastname); }
 
 QString PersonPhone(int id) {
-  for (const auto& field : {u"PhoneHome"_s, u"PhoneCell"_s, u"phoneOther"_s}) {
-    const QString phone = PersonText(id, field);
+  for (const auto& field : {tblPeople::phonehome, tblPeople::phonecell, tblPeople::phoneother}) {
+    QString phone = PersonText(id, field);
     if (!phone.trimmed().isEmpty()) return phone;
   }
   return {};
 }
 
 QString PersonCityLine(int id) {
-  const QString city = PersonText(id, u"City"_s);
+  const QString city = PersonText(id, tblPeople::city);
   if (city.trimmed().isEmpty()) return {};
-  return city + u", "_s + PersonText(id, u"State"_s) + u"   "_s + PersonText(id, u"Zip"_s);
+  return city + u", "_s + PersonText(id, tblPeople::state) + u"   "_s + PersonText(id, tblPeople::zip);
 }
 
-QString PersonEmail(int id) { return PersonText(id, u"email1"_s); }
+QString PersonEmail(int id) { return PersonText(id, tblPeople::email1); }
 
 bool PersonExists(int id) { return ReadNames(id).exists; }
 
@@ -91,12 +91,12 @@ int PreviousPerson(int id) {
 }
 
 int FirstPerson() {
-  const QList<int> ids = IdsInOrder(u"LastName, FirstName"_s);
+  const QList<int> ids = IdsInOrder({tblPeople::lastname, tblPeople::firstname});
   return ids.isEmpty() ? 0 : ids.first();
 }
 
 std::pair<int, int> EndsByLastName() {
-  const QList<int> ids = IdsInOrder(u"lastname"_s);
+  const QList<int> ids = IdsInOrder({tblPeople::lastname});
   return ids.isEmpty() ? std::pair(0, 0) : std::pair(ids.first(), ids.last());
 }
 
@@ -108,21 +108,21 @@ bool RiggersExist() {
   return false;
 }
 
-int NumberOfRiggers() { return GetNumberRecordsComplex(u"Select * from tblPeople where rigger = true"_s).ToInt(); }
+int NumberOfRiggers() { return GetNumberRecordsComplex(tblPeople::rigger == true).ToInt(); }
 
 int DefaultRigger() {
-  const int id = GetValueFromTableBySQL(u"Select DefaultRiggerID from TblMisc"_s, u"DefaultRiggerID"_s).ToInt();
+  const int id = GetValueFromTableBySQL(tblMisc::kTable, tblMisc::DefaultRiggerID).ToInt();
   if (id != 0 && !PersonExists(id)) Upkeep(u"Function DefaultRigger"_s, [] { SetDefaultRigger(0); });
   return id;
 }
 
-void SetDefaultRigger(int id) { UpdateTableBySQL(u"Update tblMisc set defaultRiggerId = "_s + QString::number(id)); }
+void SetDefaultRigger(int id) { UpdateRows(tblMisc::DefaultRiggerID, id); }
 
 int EffectiveRigger() {
   const int riggers = NumberOfRiggers();
   if (riggers == 0) return 0;
   if (riggers > 1) return DefaultRigger();
-  const int id = GetValueFromTableBySQL(u"Select * from tblPeople where rigger = true"_s, u"ID"_s).ToInt();
+  const int id = GetValueFromTableBySQL(tblPeople::rigger == true, tblPeople::ID).ToInt();
   if (id != DefaultRigger()) Upkeep(u"Function EffectiveRigger"_s, [&] { SetDefaultRigger(id); });
   return id;
 }

@@ -11,14 +11,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Entries come in the order of their due date, so the first of each rig or component is its earliest.
-void FindEarliest(const QString& table, const QString& field, int person, std::optional<Date>& earliest) {
-  Recordset owned(u"Select * from "_s + table + u" where OwnerID = "_s + QString::number(person));
-  if (!RecordsetHasRows(owned)) return;
-  for (; !owned.Eof(); owned.MoveNext()) {
-    Recordset entries(u"Select * from tblSchedules where "_s + field + u" = "_s + owned[u"ID"].ToText() +
-                      u" Order by DateDue"_s);
-    if (!RecordsetHasRows(entries)) continue;
-    const Date due = entries[u"DateDue"].ToDate();
+void FindEarliest(const Condition& owned, const Column& id, const Column& scheduled, std::optional<Date>& earliest) {
+  for (const Recordset& gear : Rows(owned)) {
+    const Recordset entries(Select(scheduled == gear[id].ToInt()).OrderBy(tblSchedules::DateDue));
+    if (entries.Eof()) continue;
+    const Date due = entries[tblSchedules::DateDue].ToDate();
     if (!earliest || due < *earliest) earliest = due;
   }
 }
@@ -43,8 +40,8 @@ QString RigCountText(int person) {
 std::optional<int> DaysToSoonestDue(int person) {
   std::optional<Date> earliest;
   Operation(u"Function DaysToSoonestDue"_s, [&] {
-    FindEarliest(u"tblComponents"_s, u"ComponentID"_s, person, earliest);
-    FindEarliest(u"tblRig"_s, u"rigID"_s, person, earliest);
+    FindEarliest(tblComponents::OwnerID == person, tblComponents::ID, tblSchedules::ComponentID, earliest);
+    FindEarliest(tblRig::OwnerID == person, tblRig::ID, tblSchedules::rigID, earliest);
   });
   if (!earliest) return std::nullopt;
   return DaysBetween(Today(), *earliest);

@@ -47,6 +47,6 @@ bool AskForStatementEmail(int person) {
     MsgBox(address + u" is not a valid email address"_s);
     return false;
   }
-  UpdateTable(u"tblPeople"_s, u"Email1"_s, address, u"ID"_s, person);
+  UpdateTable(tblPeople::email1, address, tblPeople::ID, person);
   return true;
 }

@@ -34,14 +34,14 @@ bool DuplicateNameCheck(const QString& name, int& id) {
   first = first.trimmed().toLower();
   QStringList close;
   Operation(u"Function DuplicateNameCheck"_s, [&] {
-    Recordset people(u"tblPeople"_s);
+    Recordset people(tblPeople::kTable);
     if (RecordsetHasRows(people)) {
       for (; id == 0 && !people.Eof(); people.MoveNext()) {
-        const QString otherLast = people[u"LastName"].ToText();
-        const QString otherFirst = people[u"FirstName"].ToText();
+        const QString otherLast = people[tblPeople::lastname].ToText();
+        const QString otherFirst = people[tblPeople::firstname].ToText();
         if (otherLast.trimmed().toLower() != last) continue;
         if (otherFirst.trimmed().toLower() == first)
-          id = people[u"ID"].ToInt();
+          id = people[tblPeople::ID].ToInt();
         else
           close << otherFirst + u' ' + otherLast;
       }
@@ -60,12 +60,12 @@ int FindPersonByTypedName(const QString& typed) {
   SplitName(typed, last, first);
   int found = 0;
   Operation(u"Function FindPersonByTypedName"_s, [&] {
-    for (const Recordset& person : Rows(u"Select * from tblPeople order by Lastname"_s)) {
+    for (const Recordset& person : Rows(Select(tblPeople::kTable).OrderBy(tblPeople::lastname))) {
       const auto matches = [&](QStringView field, const QString& name) {
         return person[field].ToText().trimmed().compare(name, Qt::CaseInsensitive) == 0;
       };
       if (!matches(u"LastName", last) || !(first.isEmpty() || matches(u"FirstName", first))) continue;
-      found = person[u"ID"].ToInt();
+      found = person[tblPeople::ID].ToInt();
       break;
     }
   });

@@ -2,6 +2,7 @@
 
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "core/text.h"
 #include "gear/person_names.h"
 
@@ -10,28 +11,30 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct TextField {
-  QStringView name;
+  Column column;
   QString Person::*text;
 };
-const TextField kTextFields[] = {{u"OrgName", &Person::organization},
-                                 {u"LastName", &Person::lastName},
-                                 {u"FirstName", &Person::firstName},
-                                 {u"PhoneHome", &Person::phoneHome},
-                                 {u"PhoneCell", &Person::phoneCell},
-                                 {u"phoneOther", &Person::phoneOther},
-                                 {u"email1", &Person::email1},
-                                 {u"email2", &Person::email2},
-                                 {u"Address1", &Person::address1},
-                                 {u"Address2", &Person::address2},
-                                 {u"City", &Person::city},
-                                 {u"State", &Person::state},
-                                 {u"Zip", &Person::zip},
-                                 {u"Country", &Person::country}};
+const TextField kTextFields[] = {{tblPeople::OrgName, &Person::organization},
+                                 {tblPeople::lastname, &Person::lastName},
+                                 {tblPeople::firstname, &Person::firstName},
+                                 {tblPeople::phonehome, &Person::phoneHome},
+                                 {tblPeople::phonecell, &Person::phoneCell},
+                                 {tblPeople::phoneother, &Person::phoneOther},
+                                 {tblPeople::email1, &Person::email1},
+                                 {tblPeople::email2, &Person::email2},
+                                 {tblPeople::address1, &Person::address1},
+                                 {tblPeople::address2, &Person::address2},
+                                 {tblPeople::city, &Person::city},
+                                 {tblPeople::state, &Person::state},
+                                 {tblPeople::zip, &Person::zip},
+                                 {tblPeople::country, &Person::country}};
 
-void WriteFields(Recordset& row, const Person& person) {
-  for (const TextField& field : kTextFields) row.Set(field.name, person.*field.text);
-  row.Set(u"Comment", person.comment.trimmed().isEmpty() ? u" "_s : person.comment);
-  row.Set(u"rigger", person.rigger);
+RowValues FieldsOf(const Person& person) {
+  RowValues values;
+  for (const TextField& field : kTextFields) values.Set(field.column, person.*field.text);
+  values.Set(tblPeople::comment, person.comment.trimmed().isEmpty() ? u" "_s : person.comment);
+  values.Set(tblPeople::rigger, person.rigger);
+  return values;
 }
 
 bool HasName(const Person& person) {
@@ -45,20 +48,18 @@ bool RefuseNameless(const Person& person) {
   return true;
 }
 
-QString RowStatement(int id) { return u"Select * from tblPeople where id = "_s + QString::number(id); }
-
 }  // namespace
 
 bool LoadPerson(int id, Person& person) {
   person = {};
   bool exists = false;
   Operation(u"Function LoadPerson"_s, [&] {
-    Recordset row(RowStatement(id));
+    Recordset row(tblPeople::ID == id);
     exists = RecordsetHasRows(row);
     if (exists) {
-      for (const TextField& field : kTextFields) person.*field.text = row[field.name].ToText();
-      person.comment = row[u"Comment"].ToText();
-      person.rigger = row[u"rigger"].ToBool();
+      for (const TextField& field : kTextFields) person.*field.text = row[field.column].ToText();
+      person.comment = row[tblPeople::comment].ToText();
+      person.rigger = row[tblPeople::rigger].ToBool();
     }
   });
   return exists;
@@ -67,12 +68,9 @@ bool LoadPerson(int id, Person& person) {
 int InsertPerson(const Person& person) {
   int id = 0;
   const bool written = Operation(u"Function InsertPerson"_s, [&] {
-    Recordset row(u"tblPeople"_s);
-    row.AddNew();
-    WriteFields(row, person);
-    row.Set(u"PhotoName", QString());
-    row.Update();
-    id = row[u"ID"].ToInt();
+    RowValues values = FieldsOf(person);
+    values.Set(tblPeople::PhotoName, QString());
+    id = AddRow(tblPeople::kTable, values);
   });
   return written ? id : 0;
 }
@@ -82,30 +80,18 @@ int SaveNewOwner(const Person& person, bool isProgramOwner) {
   int id = 0;
   const bool written = Operation(u"Function SaveNewOwner"_s, [&] {
     id = InsertPerson(person);
-    if (isProgramOwner && id != 0) UpdateTableBySQL(u"update tblMisc set UserID = "_s + QString::number(id));
+    if (isProgramOwner && id != 0) UpdateRows(tblMisc::UserID, id);
   });
   return written ? id : 0;
 }
 
 void UpdateOwner(int id, const Person& person) {
   if (RefuseNameless(person)) return;
-  Operation(u"Sub UpdateOwner"_s, [&] {
-    Recordset row(RowStatement(id));
-    if (RecordsetHasRows(row)) {
-      WriteFields(row, person);
-      row.Update();
-    }
-  });
+  Operation(u"Sub UpdateOwner"_s, [&] { EditRow(tblPeople::ID == id, FieldsOf(person)); });
 }
 
 void SetRiggerFlag(int id, bool rigger) {
-  Operation(u"Sub SetRiggerFlag"_s, [&] {
-    Recordset row(RowStatement(id));
-    if (RecordsetHasRows(row)) {
-      row.Set(u"rigger", rigger);
-      row.Update();
-    }
-  });
+  Operation(u"Sub SetRiggerFlag"_s, [&] { EditRow(tblPeople::ID == id, {{tblPeople::rigger, rigger}}); });
 }
 
 bool CheckPersonEntries(Person& person, bool isNew) {
@@ -130,8 +116,10 @@ bool CheckPersonEntries(Person& person, bool isNew) {
   return true;
 }
 
-int ProgramOwner() { return GetValueFromTableBySQL(u"tblMisc"_s, u"UserID"_s).ToInt(); }
+void DeletePersonRow(int id) { DeleteRecordsFromTable(tblPeople::ID, id); }
 
-int LastCustomerID() { return GetValueFromTableBySQL(u"tblMisc"_s, u"LastCustomerID"_s).ToInt(); }
+int ProgramOwner() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::UserID).ToInt(); }
 
-void SetLastCustomerID(int id) { UpdateTableBySQL(u"update tblMisc set LastCustomerID = "_s + QString::number(id)); }
+int LastCustomerID() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::LastCustomerID).ToInt(); }
+
+void SetLastCustomerID(int id) { UpdateRows(tblMisc::LastCustomerID, id); }

@@ -28,6 +28,8 @@ void SetRiggerFlag(int id, bool rigger);
 /// editor open.
 bool CheckPersonEntries(Person& person, bool isNew);
 
+/// Deletes the row alone.
+void DeletePersonRow(int id);
 /// The owner of the program, 0 as long as there is none.
 int ProgramOwner();
 /// The person shown last.

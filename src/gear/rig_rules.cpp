@@ -17,19 +17,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString RigText(const Recordset& rig) { return WithId(rig[u"rigAlias"].ToText(), rig[u"ID"].ToInt()); }
+QString RigText(const Recordset& rig) { return WithId(rig[tblRig::rigAlias].ToText(), rig[tblRig::ID].ToInt()); }
 
 void TellDoubledTypes(int rig) {
   QList<int> types;
   {
-    Recordset rows(u"tblComponentTypes"_s);
+    Recordset rows(tblComponentTypes::kTable);
     if (!RecordsetHasRows(rows)) return;
-    for (; !rows.Eof(); rows.MoveNext()) types << rows[u"ID"].ToInt();
+    for (; !rows.Eof(); rows.MoveNext()) types << rows[tblComponentTypes::ID].ToInt();
   }
   for (int type : types) {
-    const int count =
-        GetNumberRecordsComplex(u"Select * from tblComponents where rigID = %1 and TypeID = %2"_s.arg(rig).arg(type))
-            .ToInt();
+    const int count = GetNumberRecordsComplex(tblComponents::RigID == rig && tblComponents::TypeID == type).ToInt();
     if (count > 1)
       MsgBox(RigName(rig) + u" has "_s + QString::number(count) + u' ' + ComponentTypeName(type), u"uh oh!"_s,
              Icon::Exclamation);
@@ -50,7 +48,7 @@ RigComponentRow ReadRow(int rig, int type) {
 QHash<int, int> CountRigs() {
   QHash<int, int> counts;
   Operation(u"Function CountRigs"_s, [&] {
-    for (const Recordset& rig : Rows(u"select * from tblRig"_s)) ++counts[rig[u"OwnerID"].ToInt()];
+    for (const Recordset& rig : Rows(tblRig::kTable)) ++counts[rig[tblRig::OwnerID].ToInt()];
   });
   return counts;
 }
@@ -67,9 +65,8 @@ bool NameIsFree(const QString& name, int owner, Icon icon) {
 IdList LoadRigs(int owner, int type) {
   IdList list;
   Operation(u"Function LoadRigs"_s, [&] {
-    for (const Recordset& rig : Rows(owner == 0 ? u"select * from tblRig"_s
-                                                : u"select * from tblRig where Ownerid = "_s + QString::number(owner)))
-      if (type == 0 || rig[u"TypeID"].ToInt() == type) list.Add(RigText(rig), rig[u"ID"].ToInt());
+    for (const Recordset& rig : Rows(owner == 0 ? Select(tblRig::kTable) : Select(tblRig::OwnerID == owner)))
+      if (type == 0 || rig[tblRig::TypeID].ToInt() == type) list.Add(RigText(rig), rig[tblRig::ID].ToInt());
   });
   return list;
 }
@@ -91,12 +88,10 @@ IdList LoadCustomers(bool withRigCounts) {
 
 int FirstRigOf(int owner) { return LoadRigs(owner, 0).ids.value(0); }
 
-bool PhotosAreHidden() { return GetValueFromTableBySQL(u"tblMisc"_s, u"HidePhotos"_s).ToBool(); }
+bool PhotosAreHidden() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::HidePhotos).ToBool(); }
 
 void SetPhotosHidden(bool hidden) {
-  UnrecordedOperation(u"Sub SetPhotosHidden"_s, [&] {
-    UpdateTableBySQL(u"update tblMisc set HidePhotos = "_s + (hidden ? u"true"_s : u"false"_s));
-  });
+  UnrecordedOperation(u"Sub SetPhotosHidden"_s, [&] { UpdateRows(tblMisc::HidePhotos, hidden); });
 }
 
 QList<RigComponentRow> LoadRigComponents(int rig) {
@@ -152,46 +147,11 @@ bool ChangeRigType(int rig, int newType) {
   return Operation(u"Sub ChangeRigType"_s, [&] { SetRigType(rig, newType); });
 }
 
-bool RemoveComponentFromRig(int rig, int component) {
-  const int type = ComponentTypeOf(component);
-  if (!AskYes(Lines({u"Remove "_s + ComponentDescription(component) + u" from "_s + RigName(rig) + u'?', QString(),
-                     u"(component will still be in the database)"_s}),
-              u"Remove "_s + ComponentTypeName(type) + u'?'))
-    return false;
-  return Operation(u"Sub RemoveComponentFromRig"_s, [&] {
-    DetachComponent(rig, component, type);
-    SetComponentRig(component, 0);
-  });
-}
-
-bool DeleteRig(int rig) {
-  return Operation(u"Sub DeleteRig"_s, [&] {
-    DeleteRepackEntries(rig);
-    DeleteRigRow(rig);
-  });
-}
-
-QString RigComment(int rig) { return GetValueFromTable(u"tblRig"_s, u"id"_s, rig, u"comment"_s).ToText(); }
+QString RigComment(int rig) { return GetValueFromTable(tblRig::ID, rig, tblRig::Comment).ToText(); }
 
 void SetRigComment(int rig, const QString& comment) {
-  Operation({u"Sub SetRigComment"_s, u"Edit rig comment"_s}, [&] {
-    UpdateTable(u"tblRig"_s, u"comment"_s, comment.trimmed().isEmpty() ? u" "_s : comment, u"id"_s, rig);
-  });
-}
-
-bool InstallChosenComponent(int rig, int component, Date today) {
-  bool installed = false;
-  const bool written = Operation(u"Sub InstallChosenComponent"_s, [&] {
-    SetLastComponentID(component);
-    const int type = ComponentTypeOf(component);
-    if (!CheckMove(type, rig, component, false, today) || !CheckOwner(rig, component)) return;
-    if (ComponentRig(component) != rig) FreePlace(rig, type);
-    SetComponentRig(component, rig);
-    UpdateTable(u"tblPhotos"_s, u"rigid"_s, rig, u"componentid"_s, component);
-    CheckComponentType(component);
-    installed = true;
-  });
-  return written && installed;
+  Operation({u"Sub SetRigComment"_s, u"Edit rig comment"_s},
+            [&] { UpdateTable(tblRig::Comment, comment.trimmed().isEmpty() ? u" "_s : comment, tblRig::ID, rig); });
 }
 
 int RepackPartnerInRig(int rig, int component) {
@@ -207,7 +167,7 @@ int RepackPartnerInRig(int rig, int component) {
 
 bool AskAddRepackToSchedule(Date repack) {
   const QString pattern = u"mm/dd/yyyy"_s;
-  const int cycle = GetValueFromTableBySQL(u"tblMisc"_s, u"RepackCycle"_s).ToInt();
+  const int cycle = GetValueFromTableBySQL(tblMisc::kTable, tblMisc::RepackCycle).ToInt();
   return AskYes(
       Lines({u"There is a reserve repack task found for this"_s, u"container and reserve.   "_s, QString(),
              u"Repack date: "_s + Format(repack, pattern), u"Expiration date: "_s + Format(repack + cycle, pattern),

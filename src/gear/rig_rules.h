@@ -42,17 +42,10 @@ bool ChangeRigOwner(int rig, int newOwner);
 bool AssignRig(int rig, int owner);
 /// Asks, then changes the type alone. True when it was written.
 bool ChangeRigType(int rig, int newType);
-/// Takes a component out of a rig after a question; it stays in the database. True when it was taken out.
-bool RemoveComponentFromRig(int rig, int component);
-/// Deletes the rig and its repack entries. Its components keep pointing at it. True when it is gone.
-bool DeleteRig(int rig);
 
 QString RigComment(int rig);
 void SetRigComment(int rig, const QString& comment);
 
-/// Puts a chosen component into a rig: the questions of CheckMove and CheckOwner, the component and its photos into the
-/// rig. False when the person refused.
-bool InstallChosenComponent(int rig, int component, Date today);
 /// The other of the pair that a repack binds together, as it is in the rig: 0 when the component is neither container
 /// nor reserve canopy or the rig lacks its partner.
 int RepackPartnerInRig(int rig, int component);

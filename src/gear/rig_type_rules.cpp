@@ -4,22 +4,15 @@
 
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/rig_types.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString RowStatement(int id) { return u"Select * from tblRigTypes where id = "_s + QString::number(id); }
-
-bool WriteField(int id, QStringView field, const Value& value) {
-  return Operation(u"Sub WriteField"_s, [&] {
-    Recordset row(RowStatement(id));
-    if (RecordsetHasRows(row)) {
-      row.Set(field, value);
-      row.Update();
-    }
-  });
+bool WriteField(int id, const Column& field, const Value& value) {
+  return Operation(u"Sub WriteField"_s, [&] { EditRow(tblRigTypes::ID == id, {{field, value}}); });
 }
 
 }  // namespace
@@ -27,8 +20,8 @@ bool WriteField(int id, QStringView field, const Value& value) {
 IdList LoadRigTypesById() {
   IdList list;
   Operation(u"Function LoadRigTypesById"_s, [&] {
-    for (const Recordset& type : Rows(u"Select * from tblRigTypes order by ID"_s))
-      list.Add(type[u"Name"].ToText(), type[u"ID"].ToInt());
+    for (const Recordset& type : Rows(Select(tblRigTypes::kTable).OrderBy(tblRigTypes::ID)))
+      list.Add(type[tblRigTypes::Name].ToText(), type[tblRigTypes::ID].ToInt());
   });
   return list;
 }
@@ -49,12 +42,7 @@ int AddRigType() {
   }
   int id = 0;
   const bool written = Operation(u"Function AddRigType"_s, [&] {
-    Recordset types(u"tblRigTypes"_s);
-    types.AddNew();
-    types.Set(u"Name", name);
-    types.Set(u"ReserveLocation", 0);
-    types.Update();
-    id = types[u"ID"].ToInt();
+    id = AddRow(tblRigTypes::kTable, {{tblRigTypes::Name, name}, {tblRigTypes::ReserveLocation, 0}});
   });
   return written ? id : 0;
 }
@@ -65,29 +53,10 @@ bool RenameRigType(int id) {
     return false;
   }
   const QString name = InputBox(u"Enter rig type name"_s, u"Rename rig type"_s, RigTypeName(id));
-  return !name.isEmpty() && WriteField(id, u"Name", name);
+  return !name.isEmpty() && WriteField(id, tblRigTypes::Name, name);
 }
 
-RigTypeDeletion DeleteRigType(int id) {
-  if (id == 0) {
-    MsgBox(u"You must select a rig type"_s);
-    return RigTypeDeletion::Kept;
-  }
-  if (const int rigs = NumberOfRigsOfType(id); rigs > 0) {
-    const QString text =
-        Lines({(rigs == 1 ? u"There is one rig"_s : u"There are "_s + QString::number(rigs) + u" rigs"_s) +
-                   u" of that type in your rig database"_s,
-               QString(), u"This rig type cannot be deleted while being used."_s, QString(),
-               u"Would you like to see of list of rigs of this type?"_s});
-    return AskYes(text, u"Rig Type:  "_s + RigTypeName(id)) ? RigTypeDeletion::ShowRigs : RigTypeDeletion::Kept;
-  }
-  if (!AskYes(u"Delete "_s + RigTypeName(id) + u'?', u"Are you sure?"_s)) return RigTypeDeletion::Kept;
-  const bool deleted = Operation(u"Sub DeleteRigType"_s, [&] {
-    DeleteRecordsFromTable(u"tblRepackByType"_s, u"TypeID"_s, id);
-    DeleteRecordsFromTable(u"tblRigTypes"_s, u"id"_s, id);
-  });
-  return deleted ? RigTypeDeletion::Deleted : RigTypeDeletion::Kept;
-}
+void DeleteRigTypeRow(int id) { DeleteRecordsFromTable(tblRigTypes::ID, id); }
 
 bool SetComponentTypesOfRigType(int id, const QList<int>& types, bool listIsEmpty) {
   if (listIsEmpty || id == 0) {
@@ -95,23 +64,18 @@ bool SetComponentTypesOfRigType(int id, const QList<int>& types, bool listIsEmpt
     return false;
   }
   return Operation(u"Sub SetComponentTypesOfRigType"_s, [&] {
-    DeleteRecordsFromTableBySQL(u"Delete * from tblRigTypeComponents where RigTypeid = "_s + QString::number(id));
-    {
-      Recordset components(u"tblRigTypeComponents"_s);
-      for (int type : types) {
-        components.AddNew();
-        components.Set(u"rigTypeID", id);
-        components.Set(u"ComponentTypeID", type);
-        components.Update();
-      }
+    DeleteRows(tblRigTypeComponents::RigTypeID == id);
+    for (int type : types) {
+      AddRow(tblRigTypeComponents::kTable,
+             {{tblRigTypeComponents::RigTypeID, id}, {tblRigTypeComponents::ComponentTypeID, type}});
     }
   });
 }
 
 void SetReserveLocation(int id, int location) {
-  if (id != 0) WriteField(id, u"ReserveLocation", location);
+  if (id != 0) WriteField(id, tblRigTypes::ReserveLocation, location);
 }
 
 void SaveRequiredSum(int id, const QList<int>& types) {
-  if (id != 0) WriteField(id, u"Req", std::accumulate(types.cbegin(), types.cend(), 0));
+  if (id != 0) WriteField(id, tblRigTypes::Req, std::accumulate(types.cbegin(), types.cend(), 0));
 }

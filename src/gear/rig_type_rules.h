@@ -14,10 +14,8 @@ bool IsDuplicateRigType(const QString& NewType);
 int AddRigType();
 /// Asks for another name; duplicates are not looked for. 0 is no selection. True when it was written.
 bool RenameRigType(int id);
-/// How deleting a rig type ended.
-enum class RigTypeDeletion { Kept, Deleted, ShowRigs };
-/// A type that rigs have is kept, and the person may ask to see them. 0 is no selection.
-RigTypeDeletion DeleteRigType(int id);
+/// Deletes the row alone.
+void DeleteRigTypeRow(int id);
 /// Replaces the list of component types. `listIsEmpty` and a type of 0 are told and change nothing.
 bool SetComponentTypesOfRigType(int id, const QList<int>& types, bool listIsEmpty = false);
 void SetReserveLocation(int id, int location);

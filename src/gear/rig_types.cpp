@@ -5,30 +5,26 @@
 
 using namespace Qt::StringLiterals;
 
-QString RigTypeName(int id) { return GetValueFromTable(u"tblrigTypes"_s, u"ID"_s, id, u"name"_s).ToText(); }
-bool RigTypeExists(int id) {
-  return id != 0 && GetValueFromTable(u"tblRigTypes"_s, u"ID"_s, id, u"ID"_s).ToInt() == id;
-}
+QString RigTypeName(int id) { return GetValueFromTable(tblRigTypes::ID, id, tblRigTypes::Name).ToText(); }
+bool RigTypeExists(int id) { return id != 0 && GetValueFromTable(tblRigTypes::ID, id, tblRigTypes::ID).ToInt() == id; }
 
 int ReserveLocation(int id) {
-  return GetValueFromTableBySQL(u"Select * from tblRigTypes where id = "_s + QString::number(id), u"ReserveLocation"_s)
-      .ToInt();
+  return GetValueFromTableBySQL(tblRigTypes::ID == id, tblRigTypes::ReserveLocation).ToInt();
 }
 
 bool RigTypeHasComponentType(int rigType, int componentType) {
-  return GetNumberRecordsComplex(
-             u"Select * from tblRigTypeComponents where RigTypeID = %1 and ComponentTypeID = %2"_s.arg(rigType).arg(
-                 componentType))
+  return GetNumberRecordsComplex(tblRigTypeComponents::RigTypeID == rigType &&
+                                 tblRigTypeComponents::ComponentTypeID == componentType)
              .ToInt() > 0;
 }
 
 QList<int> ComponentTypesOfRigType(int id, bool orderedById) {
   QList<int> types;
   Operation(u"Function ComponentTypesOfRigType"_s, [&] {
-    for (const Recordset& component :
-         Rows(u"Select * from tblRigTypeComponents where rigTypeID = "_s + QString::number(id) +
-              (orderedById ? u" order by ComponentTypeID"_s : QString()))) {
-      const int type = component[u"ComponentTypeID"].ToInt();
+    Select components(tblRigTypeComponents::RigTypeID == id);
+    if (orderedById) components.OrderBy(tblRigTypeComponents::ComponentTypeID);
+    for (const Recordset& component : Rows(components)) {
+      const int type = component[tblRigTypeComponents::ComponentTypeID].ToInt();
       if (type != 0) types << type;
     }
   });
@@ -36,14 +32,11 @@ QList<int> ComponentTypesOfRigType(int id, bool orderedById) {
 }
 
 int NumberOfComponentTypes(int rigType) {
-  return GetNumberRecordsComplex(u"Select * from tblRigTypeComponents where RigTypeid = "_s + QString::number(rigType))
-      .ToInt();
+  return GetNumberRecordsComplex(tblRigTypeComponents::RigTypeID == rigType).ToInt();
 }
 
-int NumberOfRigsOfType(int id) {
-  return GetNumberRecordsComplex(u"Select * from tblRig where Typeid = "_s + QString::number(id)).ToInt();
-}
+int NumberOfRigsOfType(int id) { return GetNumberRecordsComplex(tblRig::TypeID == id).ToInt(); }
 
-int DefaultRigType() { return GetValueFromTableBySQL(u"tblMisc"_s, u"DefaultRigTypeID"_s).ToInt(); }
+int DefaultRigType() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::DefaultRigTypeID).ToInt(); }
 
-void SetDefaultRigType(int id) { UpdateTableBySQL(u"update tblMisc set defaultrigtypeID = "_s + QString::number(id)); }
+void SetDefaultRigType(int id) { UpdateRows(tblMisc::DefaultRigTypeID, id); }

@@ -24,8 +24,6 @@ bool RigNameIsTaken(const QString& name, int owner, QString* list = nullptr);
 int CreateRig(int owner, int type, const QString& name);
 /// Deletes the row alone: the components keep pointing at it.
 void DeleteRigRow(int id);
-/// Takes the rig's reserve repack off the schedule.
-void DeleteRepackEntries(int rig);
 /// The rig shown last.
 int LastSystemID();
 void SetLastSystemID(int id);

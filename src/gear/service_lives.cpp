@@ -18,8 +18,7 @@ ServiceLifeEntry ServiceLifeOfModel(int model) {
 int ServiceLifeMonths(const QString& number, bool inYears) { return Value(Val(number) * (inYears ? 12 : 1)).ToInt(); }
 
 void SaveServiceLife(int model, int months) {
-  Operation(u"Sub SaveServiceLife"_s,
-            [&] { UpdateTableBySQL(u"update tblModels set ServiceLife = %1 where id = %2"_s.arg(months).arg(model)); });
+  Operation(u"Sub SaveServiceLife"_s, [&] { UpdateRows(tblModels::ServiceLife, months, tblModels::ID == model); });
 }
 
 void ShowServiceLifeHelp() {

@@ -12,28 +12,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString TasksOfRig(int rigID) { return u"Select * from tbltasks where systemID = %1"_s.arg(rigID); }
+Condition TasksOfRig(int rigID) { return tblTasks::SystemID == rigID; }
 
 /// The components whose lives make up a rig's history, in the order in which they are found.
 class ComponentArray {
  public:
   void GetJobComponents(int rigID) {
-    for (const Recordset& job : Rows(u"Select * from tblJobs where Systemid = %1"_s.arg(rigID)))
-      AddAll(u"Select * from tblJobComponents where Jobid = %1 order by componentid"_s.arg(job[u"ID"].ToInt()),
-             u"ComponentID");
+    for (const Recordset& job : Rows(tblJobs::SystemID == rigID))
+      AddAll(Select(tblJobComponents::JobID == job[tblJobs::ID].ToInt()).OrderBy(tblJobComponents::ComponentID),
+             tblJobComponents::ComponentID);
   }
-  void AddCurrentRigComponentsToArray(int rigID) {
-    AddAll(u"Select * from tblComponents where rigID = %1"_s.arg(rigID), u"ID");
-  }
+  void AddCurrentRigComponentsToArray(int rigID) { AddAll(tblComponents::RigID == rigID, tblComponents::ID); }
   void AddAllRigTaskCompsToArray(int rigID) {
     for (const Recordset& task : Rows(TasksOfRig(rigID)))
-      AddAll(u"Select * from tblTaskComponents where TaskID = %1"_s.arg(task[u"ID"].ToInt()), u"CompID");
+      AddAll(tblTaskComponents::TaskID == task[tblTasks::ID].ToInt(), tblTaskComponents::CompID);
   }
   const QList<int>& Components() const { return components_; }
 
  private:
-  void AddAll(const QString& statement, QStringView field) {
-    for (const Recordset& row : Rows(statement)) Add2Array(row[field].ToInt());
+  void AddAll(const QString& statement, const Column& column) {
+    for (const Recordset& row : Rows(statement)) Add2Array(row[column].ToInt());
   }
   void Add2Array(int component) {
     if (component != 0 && !components_.contains(component)) components_ << component;
@@ -51,12 +49,12 @@ class LineCollector {
   template <class WantedRig>
   void AddComponent(int component, WantedRig ShowThisRigID) {
     const QString text = HistoryComponentText(component);
-    for (const Recordset& row : Rows(u"Select * from tblTaskComponents where CompID = %1"_s.arg(component))) {
-      const int taskID = row[u"TaskID"].ToInt();
+    for (const Recordset& row : Rows(tblTaskComponents::CompID == component)) {
+      const int taskID = row[tblTaskComponents::TaskID].ToInt();
       if (!OK2ShowTask(taskID)) continue;
       const Task task = ReadTask(taskID);
       if (!ShowThisRigID(task.rigID)) continue;
-      Add(taskID, task, row[u"Complete"].ToBool(), component, text);
+      Add(taskID, task, row[tblTaskComponents::Complete].ToBool(), component, text);
     }
   }
 
@@ -79,11 +77,11 @@ class LineCollector {
   };
 
   static Task ReadTask(int taskID) {
-    Recordset task(u"Select * from tblTasks where ID = %1"_s.arg(taskID));
+    Recordset task(tblTasks::ID == taskID);
     if (!RecordsetHasRows(task)) return {};
-    return {task[u"TaskName"].ToText(),        task[u"JobID"].ToInt(),
-            task[u"SystemID"].ToInt(),         task[u"IsEvent"].ToBool(),
-            task[u"DateTaskStarted"].ToDate(), task[u"DateTaskCompleted"].ToDate()};
+    return {task[tblTasks::TaskName].ToText(),        task[tblTasks::JobID].ToInt(),
+            task[tblTasks::SystemID].ToInt(),         task[tblTasks::IsEvent].ToBool(),
+            task[tblTasks::DateTaskStarted].ToDate(), task[tblTasks::DateTaskCompleted].ToDate()};
   }
 
   bool OK2ShowTask(int taskID) const { return !hideDuplicates_ || !shown_.contains(taskID); }
@@ -115,8 +113,8 @@ void HxbyArray(LineCollector& collector, const QList<int>& components, int rigID
 
 void DoLooseTasks(LineCollector& collector, int rigID) {
   for (const Recordset& task : Rows(TasksOfRig(rigID))) {
-    const int id = task[u"ID"].ToInt();
-    if (GetNumberRecords(u"tblTaskComponents"_s, u"TaskID"_s, id) == 0) collector.AddEntryToGrid(id);
+    const int id = task[tblTasks::ID].ToInt();
+    if (GetNumberRecords(tblTaskComponents::TaskID, id) == 0) collector.AddEntryToGrid(id);
   }
 }
 

@@ -118,7 +118,7 @@ bool DeleteHistoryEntry(const HistoryLine& line) {
   return Operation(u"Sub DeleteEvent"_s, [&] {
     const int taskLibID = TaskLibIDOf(line.taskID);
     DeleteTask(line.taskID);
-    DeleteRecordsFromTable(u"tblSchedules"_s, u"TaskID"_s, line.taskID);
+    DeleteSchedulesOfTask(line.taskID);
     RescheduleWithout(taskLibID, line);
   });
 }

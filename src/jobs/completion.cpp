@@ -5,6 +5,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
 #include "jobs/schedule_key.h"
@@ -23,27 +24,22 @@ struct LineState {
 };
 
 LineState StateOf(const Recordset& line) {
-  return {line[u"IsEvent"].ToBool(), line[u"Status"].ToInt() == kComplete, line[u"DateTaskCompleted"].ToDate()};
+  return {line[tblTasks::IsEvent].ToBool(), line[tblTasks::Status].ToInt() == kComplete,
+          line[tblTasks::DateTaskCompleted].ToDate()};
 }
 
 /// False, after a box, when they could not be read.
 bool ReadLines(int jobID, QList<LineState>& lines) {
   return Operation(u"Sub LoadTasksGrid"_s, [&] {
-    for (const Recordset& line : Rows(u"Select * from tblTasks where Jobid = %1"_s.arg(jobID)))
-      lines.append(StateOf(line));
+    for (const Recordset& line : Rows(tblTasks::JobID == jobID)) lines.append(StateOf(line));
   });
 }
 
-QString LineByID(int taskID) { return u"Select * from tblTasks where ID = %1"_s.arg(taskID); }
-
 /// Writes the status of the line that a recordset stands on, and of its ties to components.
 void WriteStatus(Recordset& line, bool complete, Date date) {
-  line.Set(u"status", static_cast<int>(complete ? kComplete : kIncomplete));
-  line.Set(u"DateTaskCompleted", complete ? date : Date());
-  line.Update();
-  UpdateTableBySQL(
-      u"update tblTaskComponents set Complete = %1 where TaskID = %2"_s.arg(complete ? u"true"_s : u"false"_s)
-          .arg(line[u"ID"].ToInt()));
+  EditRow(line, {{tblTasks::Status, static_cast<int>(complete ? kComplete : kIncomplete)},
+                 {tblTasks::DateTaskCompleted, complete ? date : Date()}});
+  UpdateRows(tblTaskComponents::Complete, complete, tblTaskComponents::TaskID == line[tblTasks::ID].ToInt());
 }
 
 /// The completion date of a job whose lines are all complete. A line whose status and date disagree is told; what
@@ -62,20 +58,20 @@ Date CompletionOf(const QList<LineState>& lines, bool& complete) {
 
 void SetTaskStatus(int taskID, bool complete, Date date) {
   Operation(u"Sub SetTaskStatus"_s, [&] {
-    Recordset line(LineByID(taskID));
+    Recordset line(tblTasks::ID == taskID);
     if (RecordsetHasRows(line)) WriteStatus(line, complete, date);
   });
 }
 
 int GetThisComponentID(int taskID) {
   QList<int> components;
-  GetRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID, u"CompID"_s, components);
+  GetRecordsFromTable(tblTaskComponents::TaskID, taskID, tblTaskComponents::CompID, components);
   return components.size() == 1 ? components.first() : 0;
 }
 
 bool ShouldAdd2Schedule(int rigID, bool rigComponentsCurrent) { return rigComponentsCurrent || rigID == 0; }
 
-bool LineIsDone(int taskID) { return TaskIsEvent(taskID) || LineField(taskID, u"Status"_s).ToInt() == kComplete; }
+bool LineIsDone(int taskID) { return TaskIsEvent(taskID) || LineField(taskID, tblTasks::Status).ToInt() == kComplete; }
 
 bool AllChecked(int jobID) {
   QList<LineState> lines;
@@ -86,10 +82,10 @@ bool AllChecked(int jobID) {
 bool ToggleComplete(int taskID, Date date, bool rigComponentsCurrent) {
   bool flipped = false;
   const bool written = Operation(u"Sub ToggleComplete"_s, [&] {
-    Recordset line(LineByID(taskID));
+    Recordset line(tblTasks::ID == taskID);
     if (!RecordsetHasRows(line) || StateOf(line).isEvent) return;
-    const int jobID = line[u"JobID"].ToInt();
-    const ScheduleKey key = KeyOfLine(taskID, jobID, line[u"TaskLibID"].ToInt());
+    const int jobID = line[tblTasks::JobID].ToInt();
+    const ScheduleKey key = KeyOfLine(taskID, jobID, line[tblTasks::TaskLibID].ToInt());
     WriteStatus(line, !StateOf(line).isComplete, date);
     if (ShouldAdd2Schedule(key.rigID, rigComponentsCurrent)) UpdateSchedule(key);
     CheckJobStatus(jobID, date);

@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int NumberOfLines(int jobID, const QString& which) {
-  return GetNumberRecordsComplex(u"Select * from tblTasks where Jobid = %1 and PartID "_s.arg(jobID) + which).ToInt();
+int NumberOfLines(int jobID, const Condition& which) {
+  return GetNumberRecordsComplex(tblTasks::JobID == jobID && which).ToInt();
 }
 
 bool IsConfirmed(int jobID, bool ask) {
-  const int tasks = NumberOfLines(jobID, u" = 0"_s);
-  const int parts = NumberOfLines(jobID, u"<> 0"_s);
+  const int tasks = NumberOfLines(jobID, tblTasks::PartID == 0);
+  const int parts = NumberOfLines(jobID, tblTasks::PartID != 0);
   const QString title = u"Delete "_s + JobTitle(jobID);
   const QString question = u"Are you sure you want to delete this job?"_s;
   if (tasks + parts == 0) return AskYes(question, title);
@@ -41,7 +41,7 @@ bool IsEmpty(int jobID) { return LinesOfJob(jobID).isEmpty(); }
 QList<int> EmptyJobs() {
   QList<int> empty;
   QList<Value> jobs;
-  GetRecordsFromTableBySQL(u"select * from tblJobs order by ID"_s, u"ID"_s, jobs);
+  GetRecordsFromTableBySQL(Select(tblJobs::kTable).OrderBy(tblJobs::ID), tblJobs::ID, jobs);
   for (const Value& job : jobs)
     if (!job.IsEmpty() && IsEmpty(job.ToInt())) empty.append(job.ToInt());
   return empty;
@@ -68,15 +68,15 @@ void DeleteJob(int jobID, bool ask, bool& cancelled) {
 
 void DeleteJobRow(int jobID) {
   Operation(u"Sub DeleteJobRow"_s, [&] {
-    DeleteRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID);
-    DeleteRecordsFromTable(u"tblJobs"_s, u"ID"_s, jobID);
+    DeleteRecordsFromTable(tblJobComponents::JobID, jobID);
+    DeleteRecordsFromTable(tblJobs::ID, jobID);
   });
 }
 
 void AuditJobs() {
-  const QString remnants = u"from tblJobs where JobTitle = '' or JobTitle = 'loadme'"_s;
-  if (GetNumberRecordsComplex(u"Select ID "_s + remnants).ToInt() == 0) return;
-  Upkeep(u"Sub AuditJobs"_s, [&] { DeleteRecordsFromTableBySQL(u"Delete * "_s + remnants); });
+  const Condition remnants = tblJobs::JobTitle == u"" || tblJobs::JobTitle == u"loadme";
+  if (GetNumberRecordsComplex(remnants).ToInt() == 0) return;
+  Upkeep(u"Sub AuditJobs"_s, [&] { DeleteRows(remnants); });
 }
 
 bool DeleteAllEmptyJobs() {

@@ -26,7 +26,7 @@ void TellWhatStays(int taskLibID) {
 }
 
 void RemoveLine(int taskID) {
-  const int jobID = LineField(taskID, u"JobID"_s).ToInt();
+  const int jobID = JobOfLine(taskID);
   ScheduleKey key = KeyOfLine(taskID);
   key.componentID = JobComponentID(jobID);  // on a job without a rig, the rows of its own component are looked at
   DeleteTask(taskID);
@@ -38,13 +38,13 @@ void RemoveLine(int taskID) {
 
 void DeleteTask(int taskID) {
   Operation(u"Sub DeleteTask"_s, [&] {
-    DeleteRecordsFromTable(u"tblTasks"_s, u"ID"_s, taskID);
-    DeleteRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID);
+    DeleteRecordsFromTable(tblTasks::ID, taskID);
+    DeleteRecordsFromTable(tblTaskComponents::TaskID, taskID);
   });
 }
 
 bool DeleteLine(int taskID, bool quiet) {
-  const QString name = LineField(taskID, u"TaskName"_s).ToText();
+  const QString name = LineField(taskID, tblTasks::TaskName).ToText();
   if (!quiet && !AskYes(u"Are you sure you want to delete this entry?"_s, u"Delete "_s + name + u'?')) return false;
   TellWhatStays(TaskLibIDOf(taskID));
   return Operation(u"Sub DeleteCurrentTask"_s, [&] { RemoveLine(taskID); });

@@ -15,17 +15,13 @@ namespace {
 
 constexpr int kLongestSerial = 50;
 
-void Write(int componentID, const QString& field, const Value& value) {
-  UpdateTable(u"tblComponents"_s, field, value, u"ID"_s, componentID);
-}
-
 }  // namespace
 
 bool EditGearSerial(int componentID) {
   const QString old = ComponentSerial(componentID);
   const QString serial = InputBox(u"Enter serial number"_s, u"Serial Number"_s, old).trimmed().left(kLongestSerial);
   if (serial.isEmpty() || serial == old) return false;
-  Write(componentID, u"SerialNumber"_s, serial);
+  SetComponentSerial(componentID, serial);
   return true;
 }
 
@@ -35,7 +31,7 @@ bool EditGearDom(int componentID) {
   const QString typed = InputBox(u"Enter date of manufacture"_s, u"Date of Manufacture"_s, shown).trimmed();
   Date dom;
   if (typed.isEmpty() || typed == shown || !ReadDom(typed, dom)) return false;
-  Write(componentID, u"DOM"_s, dom);
+  SetComponentDom(componentID, dom);
   return true;
 }
 

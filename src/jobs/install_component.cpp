@@ -11,6 +11,7 @@
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
 #include "jobs/job_components.h"
+#include "schedule/gear_moves.h"
 
 using namespace Qt::StringLiterals;
 

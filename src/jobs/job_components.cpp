@@ -4,6 +4,7 @@
 
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rig_types.h"
@@ -16,7 +17,7 @@ namespace {
 
 void DeleteVanishedComponents(int jobID) {
   QList<int> components;
-  GetRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID, u"ComponentID"_s, components);
+  GetRecordsFromTable(tblJobComponents::JobID, jobID, tblJobComponents::ComponentID, components);
   components.removeIf([](int component) { return component == 0 || ComponentExists(component); });
   if (components.isEmpty()) return;
   Upkeep(u"Sub LoadJobGear"_s, [&] {
@@ -28,7 +29,7 @@ void DeleteVanishedComponents(int jobID) {
 
 QList<int> ComponentsOfJob(int jobID) {
   QList<int> components;
-  GetRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID, u"ComponentID"_s, components);
+  GetRecordsFromTable(tblJobComponents::JobID, jobID, tblJobComponents::ComponentID, components);
   components.removeIf([](int component) { return !ComponentExists(component); });
   return components;
 }
@@ -42,23 +43,18 @@ int JobComponentOfType(int jobID, int componentType) {
 
 void AddJobComponent(int jobID, int componentID) {
   Operation(u"Sub AddJobComponent"_s, [&] {
-    Recordset rows(u"tblJobComponents"_s);
-    rows.AddNew();
-    rows.Set(u"JobID", jobID);
-    rows.Set(u"ComponentID", componentID);
-    rows.Update();
+    AddRow(tblJobComponents::kTable, {{tblJobComponents::JobID, jobID}, {tblJobComponents::ComponentID, componentID}});
   });
 }
 
 void RemoveJobComponent(int jobID, int componentID) {
-  DeleteRecordsFromTableBySQL(
-      u"delete * from tblJobComponents where Jobid = %1 and componentID = %2"_s.arg(jobID).arg(componentID));
+  DeleteRows(tblJobComponents::JobID == jobID && tblJobComponents::ComponentID == componentID);
 }
 
 void SnapshotRig(int jobID, int rigID) {
   Operation(u"Sub SnapshotRig"_s, [&] {
-    for (const Recordset& component : Rows(u"Select * from tblComponents where Rigid = %1"_s.arg(rigID)))
-      AddJobComponent(jobID, component[u"ID"].ToInt());
+    for (const Recordset& component : Rows(tblComponents::RigID == rigID))
+      AddJobComponent(jobID, component[tblComponents::ID].ToInt());
   });
 }
 

@@ -67,8 +67,7 @@ EditResult SaveInvoiceNumber(int jobID, const QString& text) {
 }
 
 bool JobHasTasksByOtherRiggers(int jobID, int riggerID) {
-  return GetNumberRecordsComplex(
-             u"Select * from tblTasks where JobID = %1 and RiggerID > 0 and RiggerID <> %2"_s.arg(jobID).arg(riggerID))
+  return GetNumberRecordsComplex(tblTasks::JobID == jobID && tblTasks::RiggerID > 0 && tblTasks::RiggerID != riggerID)
              .ToInt() > 0;
 }
 
@@ -90,7 +89,6 @@ bool ChangeJobRigger(int jobID, int riggerID) {
   return Operation(u"Sub ChangeRigger"_s, [&] {
     SetJobRiggerID(jobID, riggerID);
     if (!tasksToo) return;
-    UpdateTableBySQL(
-        u"update tblTasks set riggerID = %1 where isEvent = false and JobID = %2"_s.arg(riggerID).arg(jobID));
+    UpdateRows(tblTasks::RiggerID, riggerID, tblTasks::IsEvent == false && tblTasks::JobID == jobID);
   });
 }

@@ -11,16 +11,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 JobLine LineOf(const Recordset& row) {
-  const int riggerID = row[u"RiggerID"].ToInt();
-  const int partID = row[u"PartID"].ToInt();
-  const bool isEvent = row[u"IsEvent"].ToBool();
-  const bool isComplete = row[u"status"].ToInt() == kComplete;
-  JobLine line{.taskID = row[u"ID"].ToInt(),
+  const int riggerID = row[tblTasks::RiggerID].ToInt();
+  const int partID = row[tblTasks::PartID].ToInt();
+  const bool isEvent = row[tblTasks::IsEvent].ToBool();
+  const bool isComplete = row[tblTasks::Status].ToInt() == kComplete;
+  JobLine line{.taskID = row[tblTasks::ID].ToInt(),
                .riggerID = riggerID,
                .partID = partID,
-               .task = (partID == 0 ? QString() : kPartIndent) + row[u"TaskName"].ToText(),
+               .task = (partID == 0 ? QString() : kPartIndent) + row[tblTasks::TaskName].ToText(),
                .rigger = {},
-               .price = row[u"FlatRate"].ToMoney(),
+               .price = row[tblTasks::FlatRate].ToMoney(),
                .status = {},
                .date = {}};
   if (!isEvent && partID == 0 && riggerID > 0) line.rigger = PersonLastName(riggerID);
@@ -28,7 +28,7 @@ JobLine LineOf(const Recordset& row) {
     line.status = u"   (event)"_s;
   else if (isComplete)
     line.status = partID == 0 ? u"Completed"_s : u"Installed"_s;
-  if (const Date done = row[u"DateTaskCompleted"].ToDate(); (isEvent || isComplete) && !done.IsNone())
+  if (const Date done = row[tblTasks::DateTaskCompleted].ToDate(); (isEvent || isComplete) && !done.IsNone())
     line.date = Format(done, u"mm/dd/yyyy"_s);
   return line;
 }
@@ -43,8 +43,6 @@ QList<JobLine> LinesFrom(const QString& statement) {
 
 }  // namespace
 
-QList<JobLine> LoadJobLines(int jobID) {
-  return LinesFrom(u"Select * from tblTasks where JobID = %1 order by ID"_s.arg(jobID));
-}
+QList<JobLine> LoadJobLines(int jobID) { return LinesFrom(Select(tblTasks::JobID == jobID).OrderBy(tblTasks::ID)); }
 
-JobLine LoadJobLine(int taskID) { return LinesFrom(u"Select * from tblTasks where ID = %1"_s.arg(taskID)).value(0); }
+JobLine LoadJobLine(int taskID) { return LinesFrom(tblTasks::ID == taskID).value(0); }

@@ -18,10 +18,10 @@ bool OK2ShowByJob(Status status, Date completed) {
 
 /// All dates are of one width, so the titles line up behind them.
 QString RowText(const Recordset& job, Status status, Date completed) {
-  QString invoice = job[u"InvoiceNumber"].ToText();
-  if (invoice.trimmed().isEmpty()) invoice = job[u"ID"].ToText();  // it could not be written
-  return Format(job[u"DateStarted"].ToDate(), u"mm/dd/yy"_s) + u"    "_s + job[u"JobTitle"].ToText() + u" - "_s +
-         invoice + (status == Status::Any && !completed.IsNone() ? u" (completed)"_s : QString());
+  QString invoice = job[tblJobs::InvoiceNumber].ToText();
+  if (invoice.trimmed().isEmpty()) invoice = job[tblJobs::ID].ToText();  // it could not be written
+  return Format(job[tblJobs::DateStarted].ToDate(), u"mm/dd/yy"_s) + u"    "_s + job[tblJobs::JobTitle].ToText() +
+         u" - "_s + invoice + (status == Status::Any && !completed.IsNone() ? u" (completed)"_s : QString());
 }
 
 }  // namespace
@@ -30,12 +30,11 @@ IdList LoadListJobs(const JobListFilter& filter) {
   IdList list;
   AssignInvoiceNumbers();
   Operation(u"Sub LoadListJobs"_s, [&] {
-    const QString whose =
-        filter.customer == 0 ? QString() : u" where CustomerID = "_s + QString::number(filter.customer);
-    for (const Recordset& job : Rows(u"Select * from tblJobs"_s + whose + u" order by DateStarted desc, ID DESC"_s)) {
-      const int id = job[u"ID"].ToInt();
-      const Date completed = job[u"DateCompleted"].ToDate();
-      if (!OK2ShowByJob(filter.status, completed) || job[u"JobTitle"].ToText().trimmed().isEmpty()) continue;
+    Select jobs = filter.customer == 0 ? Select(tblJobs::kTable) : Select(tblJobs::CustomerID == filter.customer);
+    for (const Recordset& job : Rows(jobs.OrderByLatest(tblJobs::DateStarted).OrderByLatest(tblJobs::ID))) {
+      const int id = job[tblJobs::ID].ToInt();
+      const Date completed = job[tblJobs::DateCompleted].ToDate();
+      if (!OK2ShowByJob(filter.status, completed) || job[tblJobs::JobTitle].ToText().trimmed().isEmpty()) continue;
       if (filter.taskLibID == 0 || TaskOnJob(id, filter.taskLibID))
         list.Add(RowText(job, filter.status, completed), id);
     }

@@ -7,16 +7,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-IdList ReadRows(const QString& statement, QStringView field) {
+IdList ReadRows(const QString& statement, const Column& id, const Column& text) {
   IdList list;
   Operation(u"Sub PickerRows"_s, [&] {
-    for (const Recordset& row : Rows(statement)) list.Add(row[field].ToText(), row[u"ID"].ToInt());
+    for (const Recordset& row : Rows(statement)) list.Add(row[text].ToText(), row[id].ToInt());
   });
   return list;
 }
 
 }  // namespace
 
-IdList PickerJobs() { return ReadRows(u"Select * from tblJobs"_s, u"JobTitle"); }
-IdList PickerInvoices() { return ReadRows(u"Select * from tbljobs order by InvoiceNumber"_s, u"InvoiceNumber"); }
-IdList PickerTasks() { return ReadRows(u"Select * from tblTaskLib"_s, u"Name"); }
+IdList PickerJobs() { return ReadRows(tblJobs::kTable, tblJobs::ID, tblJobs::JobTitle); }
+IdList PickerInvoices() {
+  return ReadRows(Select(tblJobs::kTable).OrderBy(tblJobs::InvoiceNumber), tblJobs::ID, tblJobs::InvoiceNumber);
+}
+IdList PickerTasks() { return ReadRows(tblTaskLib::kTable, tblTaskLib::ID, tblTaskLib::Name); }

@@ -2,54 +2,51 @@
 
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-Value JobField(int jobID, const QString& field) { return GetValueFromTable(u"tblJobs"_s, u"ID"_s, jobID, field); }
+Value JobField(int jobID, const Column& field) { return GetValueFromTable(tblJobs::ID, jobID, field); }
 
-void SetJobField(int jobID, const QString& field, const Value& value) {
-  UpdateTable(u"tblJobs"_s, field, value, u"ID"_s, jobID);
-}
-
-QString JobByID(int jobID) { return u"Select * from tblJobs where ID = %1"_s.arg(jobID); }
+void SetJobField(int jobID, const Column& field, const Value& value) { UpdateTable(field, value, tblJobs::ID, jobID); }
 
 }  // namespace
 
-int JobCustomerID(int jobID) { return JobField(jobID, u"CustomerID"_s).ToInt(); }
-int JobSystemID(int jobID) { return JobField(jobID, u"SystemID"_s).ToInt(); }
-int JobComponentID(int jobID) { return JobField(jobID, u"ComponentID"_s).ToInt(); }
-int JobRiggerID(int jobID) { return JobField(jobID, u"RiggerID"_s).ToInt(); }
-int JobLocationID(int jobID) { return JobField(jobID, u"LocationID"_s).ToInt(); }
-Date JobDateStarted(int jobID) { return JobField(jobID, u"DateStarted"_s).ToDate(); }
-Date JobDatePromised(int jobID) { return JobField(jobID, u"DatePromised"_s).ToDate(); }
-Date JobDateCompleted(int jobID) { return JobField(jobID, u"DateCompleted"_s).ToDate(); }
-QString JobTitle(int jobID) { return JobField(jobID, u"JobTitle"_s).ToText(); }
-QString JobComments(int jobID) { return JobField(jobID, u"Comments"_s).ToText(); }
-bool JobExists(int jobID) { return JobField(jobID, u"ID"_s).ToInt() != 0; }
+int JobCustomerID(int jobID) { return JobField(jobID, tblJobs::CustomerID).ToInt(); }
+int JobSystemID(int jobID) { return JobField(jobID, tblJobs::SystemID).ToInt(); }
+int JobComponentID(int jobID) { return JobField(jobID, tblJobs::ComponentID).ToInt(); }
+int JobRiggerID(int jobID) { return JobField(jobID, tblJobs::RiggerID).ToInt(); }
+int JobLocationID(int jobID) { return JobField(jobID, tblJobs::LocationID).ToInt(); }
+Date JobDateStarted(int jobID) { return JobField(jobID, tblJobs::DateStarted).ToDate(); }
+Date JobDatePromised(int jobID) { return JobField(jobID, tblJobs::DatePromised).ToDate(); }
+Date JobDateCompleted(int jobID) { return JobField(jobID, tblJobs::DateCompleted).ToDate(); }
+QString JobTitle(int jobID) { return JobField(jobID, tblJobs::JobTitle).ToText(); }
+QString JobComments(int jobID) { return JobField(jobID, tblJobs::Comments).ToText(); }
+bool JobExists(int jobID) { return JobField(jobID, tblJobs::ID).ToInt() != 0; }
 
-bool JobsExist() { return GetNumberRecordsInTable(u"tblJobs"_s) > 0; }
+bool JobsExist() { return GetNumberRecordsInTable(tblJobs::kTable) > 0; }
 
-void SetJobDateStarted(int jobID, Date date) { SetJobField(jobID, u"DateStarted"_s, date); }
-void SetJobDatePromised(int jobID, Date date) { SetJobField(jobID, u"DatePromised"_s, date); }
-void SetJobDateCompleted(int jobID, Date date) { SetJobField(jobID, u"DateCompleted"_s, date); }
-void SetJobRiggerID(int jobID, int riggerID) { SetJobField(jobID, u"RiggerID"_s, riggerID); }
-void SetJobLocationID(int jobID, int locationID) { SetJobField(jobID, u"LocationID"_s, locationID); }
-void SetJobSystemID(int jobID, int rigID) { SetJobField(jobID, u"SystemID"_s, rigID); }
-void SetJobInvoiceNumber(int jobID, const QString& number) { SetJobField(jobID, u"InvoiceNumber"_s, number); }
+void SetJobDateStarted(int jobID, Date date) { SetJobField(jobID, tblJobs::DateStarted, date); }
+void SetJobDatePromised(int jobID, Date date) { SetJobField(jobID, tblJobs::DatePromised, date); }
+void SetJobDateCompleted(int jobID, Date date) { SetJobField(jobID, tblJobs::DateCompleted, date); }
+void SetJobRiggerID(int jobID, int riggerID) { SetJobField(jobID, tblJobs::RiggerID, riggerID); }
+void SetJobLocationID(int jobID, int locationID) { SetJobField(jobID, tblJobs::LocationID, locationID); }
+void SetJobSystemID(int jobID, int rigID) { SetJobField(jobID, tblJobs::SystemID, rigID); }
+void SetJobInvoiceNumber(int jobID, const QString& number) { SetJobField(jobID, tblJobs::InvoiceNumber, number); }
 void SetJobComments(int jobID, const QString& comments) {
-  SetJobField(jobID, u"Comments"_s, comments.isEmpty() ? u" "_s : comments);
+  SetJobField(jobID, tblJobs::Comments, comments.isEmpty() ? u" "_s : comments);
 }
 
 void SetLastJobID(int jobID) {
-  if (LastJobID() != jobID) UpdateTableBySQL(u"update tblMisc set LastJobID = %1"_s.arg(jobID));
+  if (LastJobID() != jobID) UpdateRows(tblMisc::LastJobID, jobID);
 }
-int LastJobID() { return GetValueFromTableBySQL(u"tblMisc"_s, u"LastJobID"_s).ToInt(); }
+int LastJobID() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::LastJobID).ToInt(); }
 
 QString GetInvoiceNumber(int jobID) {
   if (!JobExists(jobID)) return {};
-  const QString number = JobField(jobID, u"InvoiceNumber"_s).ToText();
+  const QString number = JobField(jobID, tblJobs::InvoiceNumber).ToText();
   if (!number.trimmed().isEmpty()) return number;
   Upkeep(u"Function GetInvoiceNumber"_s, [&] { SetJobInvoiceNumber(jobID, QString::number(jobID)); });
   return QString::number(jobID);
@@ -58,8 +55,8 @@ QString GetInvoiceNumber(int jobID) {
 void AssignInvoiceNumbers() {
   QList<int> blank;
   Operation(u"Sub AssignInvoiceNumbers"_s, [&] {
-    for (const Recordset& job : Rows(u"Select ID, InvoiceNumber from tblJobs"_s))
-      if (job[u"InvoiceNumber"].ToText().trimmed().isEmpty()) blank << job[u"ID"].ToInt();
+    for (const Recordset& job : Rows(Select({tblJobs::ID, tblJobs::InvoiceNumber})))
+      if (job[tblJobs::InvoiceNumber].ToText().trimmed().isEmpty()) blank << job[tblJobs::ID].ToInt();
   });
   if (blank.isEmpty()) return;
   Upkeep(u"Sub AssignInvoiceNumbers"_s, [&] {
@@ -69,22 +66,21 @@ void AssignInvoiceNumbers() {
 
 void SetJobTitle(int jobID, const QString& title) {
   Operation(u"Sub SetJobTitle"_s, [&] {
-    Recordset job(JobByID(jobID));
-    if (RecordsetHasRows(job)) {
-      job.Set(u"JobTitle", title.left(kJobTextLength));
-      if (job[u"InvoiceNumber"].ToText() == u"0"_s) job.Set(u"InvoiceNumber", QString::number(jobID));
-      job.Update();
-    }
+    RowValues values = {{tblJobs::JobTitle, title.left(kJobTextLength)}};
+    if (JobField(jobID, tblJobs::InvoiceNumber).ToText() == u"0"_s)
+      values.Set(tblJobs::InvoiceNumber, QString::number(jobID));
+    EditRow(tblJobs::ID == jobID, values);
   });
 }
 
 bool JobTitleExists(const QString& title) {
   bool exists = false;
   Operation(u"Function JobTitleExists"_s, [&] {
-    Recordset jobs(u"Select * from tblJobs"_s);
+    Recordset jobs(tblJobs::kTable);
     const QString wanted = title.trimmed().toLower();
     if (RecordsetHasRows(jobs)) {
-      for (; !jobs.Eof() && !exists; jobs.MoveNext()) exists = jobs[u"JobTitle"].ToText().trimmed().toLower() == wanted;
+      for (; !jobs.Eof() && !exists; jobs.MoveNext())
+        exists = jobs[tblJobs::JobTitle].ToText().trimmed().toLower() == wanted;
     }
   });
   return exists;
@@ -95,28 +91,26 @@ int JobOfCustomerNamed(int customerID, const QString& name, int exceptJob) {
   const QString wanted = name.trimmed().toUpper();
   if (wanted.isEmpty()) return found;
   Operation(u"Function CheckDuplicateName"_s, [&] {
-    for (const Recordset& job : Rows(u"Select * from tblJobs where Customerid = %1"_s.arg(customerID))) {
-      const int id = job[u"ID"].ToInt();
-      if (found == 0 && id != exceptJob && job[u"JobTitle"].ToText().trimmed().toUpper() == wanted) found = id;
+    for (const Recordset& job : Rows(tblJobs::CustomerID == customerID)) {
+      const int id = job[tblJobs::ID].ToInt();
+      if (found == 0 && id != exceptJob && job[tblJobs::JobTitle].ToText().trimmed().toUpper() == wanted) found = id;
     }
   });
   return found;
 }
 
 bool InvoiceNumberIsFree(const QString& number) {
-  return GetNumberRecordsComplex(u"Select * from tblJobs where InvoiceNumber = '"_s + number + u'\'').ToInt() == 0;
+  return GetNumberRecordsComplex(tblJobs::InvoiceNumber == number).ToInt() == 0;
 }
 
 void SetJobStatus(int jobID, bool complete, Date date) {
   Operation(u"Sub SetJobStatus"_s, [&] {
     const int status = complete ? -1 : 0;
     const Date completed = complete ? date : Date();
-    Recordset job(JobByID(jobID));
+    Recordset job(tblJobs::ID == jobID);
     if (!RecordsetHasRows(job)) return;
-    if (job[u"JobStatus"].ToInt() == status && job[u"DateCompleted"].ToDate() == completed) return;
-    job.Set(u"JobStatus", status);
-    job.Set(u"DateCompleted", completed);
-    job.Update();
+    if (job[tblJobs::JobStatus].ToInt() == status && job[tblJobs::DateCompleted].ToDate() == completed) return;
+    EditRow(job, {{tblJobs::JobStatus, status}, {tblJobs::DateCompleted, completed}});
   });
 }
 
@@ -124,40 +118,40 @@ int PreviousJobID(int jobID, bool& noneLeft) {
   int id = jobID;
   noneLeft = true;
   Operation(u"Function PreviousJobID"_s, [&] {
-    Recordset jobs(u"Select * from tblJobs where ID < %1 order by id"_s.arg(jobID));
+    Recordset jobs(Select(tblJobs::ID < jobID).OrderBy(tblJobs::ID));
     noneLeft = !RecordsetHasRows(jobs);
     if (!noneLeft) {
       jobs.MoveLast();
-      id = jobs[u"ID"].ToInt();
+      id = jobs[tblJobs::ID].ToInt();
     }
   });
   return id;
 }
 
 int NextJobID(int jobID, bool& noneLeft) {
-  const Value id = GetValueFromTableBySQL(u"Select * from tblJobs where ID > %1 order by id"_s.arg(jobID), u"ID"_s);
+  const Value id = GetValueFromTableBySQL(Select(tblJobs::ID > jobID).OrderBy(tblJobs::ID), tblJobs::ID);
   noneLeft = id.IsEmpty();
   return noneLeft ? jobID : id.ToInt();
 }
 
 bool IsFirstJob(int jobID) {
-  return GetValueFromTableBySQL(u"select id from tblJobs order by ID"_s, u"ID"_s).ToInt() == jobID;
+  return GetValueFromTableBySQL(Select({tblJobs::ID}).OrderBy(tblJobs::ID), tblJobs::ID).ToInt() == jobID;
 }
 
 bool IsLastJob(int jobID) {
   bool isLast = false;
   Operation(u"Function IsLastJob"_s, [&] {
-    Recordset jobs(u"select id from tblJobs order by ID"_s);
+    Recordset jobs(Select({tblJobs::ID}).OrderBy(tblJobs::ID));
     if (RecordsetHasRows(jobs)) {
       jobs.MoveLast();
-      isLast = jobs[u"ID"].ToInt() == jobID;
+      isLast = jobs[tblJobs::ID].ToInt() == jobID;
     }
   });
   return isLast;
 }
 
 int GetNextValidJobID(int jobID) {
-  const Value next = GetValueFromTableBySQL(u"Select * from tblJobs where id > %1 order by ID"_s.arg(jobID), u"ID"_s);
+  const Value next = GetValueFromTableBySQL(Select(tblJobs::ID > jobID).OrderBy(tblJobs::ID), tblJobs::ID);
   if (!next.IsEmpty()) return next.ToInt();
-  return GetValueFromTableBySQL(u"Select * from tblJobs where id < %1 order by ID desc"_s.arg(jobID), u"ID"_s).ToInt();
+  return GetValueFromTableBySQL(Select(tblJobs::ID < jobID).OrderByLatest(tblJobs::ID), tblJobs::ID).ToInt();
 }

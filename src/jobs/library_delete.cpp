@@ -3,6 +3,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "schedule/schedule.h"
 #include "schedule/task_library.h"
 
 using namespace Qt::StringLiterals;
@@ -24,7 +25,7 @@ bool DeleteAfterUsage(int taskLibID) {
 }  // namespace
 
 QString TaskTypeUsage(int taskLibID) {
-  const int lines = GetNumberRecordsComplex(u"Select * from tblTasks where TaskLibID = %1"_s.arg(taskLibID)).ToInt();
+  const int lines = GetNumberRecordsComplex(tblTasks::TaskLibID == taskLibID).ToInt();
   if (lines == 0) return {};
   const QString kind = TaskLibKind(taskLibID);
   const QString question = u"Are you sure you want to delete this %1 type?"_s.arg(kind);
@@ -42,14 +43,15 @@ void DeleteTaskType(int taskLibID, bool Ask, bool& cancelled) {
   const QString usage = Ask ? TaskTypeUsage(taskLibID) : QString();
   if (!usage.isEmpty() && !AskYes(usage, u"Delete %1?"_s.arg(TaskLibName(taskLibID)))) return;
   cancelled = !Operation(u"Sub DeleteTaskType"_s, [&] {
-    DeleteRecordsFromTable(u"tblTaskLib"_s, u"ID"_s, taskLibID);
-    for (const QString& table : {u"tblTaskLibComponentTypes"_s, u"tblTaskLibParts"_s, u"tblSchedules"_s})
-      DeleteRecordsFromTable(table, u"TaskLibID"_s, taskLibID);
-    for (Recordset& line : Rows(u"Select * from tblTasks where TaskLibID = %1"_s.arg(taskLibID))) {
-      const int taskID = line[u"ID"].ToInt();
+    DeleteRecordsFromTable(tblTaskLib::ID, taskLibID);
+    DeleteRecordsFromTable(tblTaskLibComponentTypes::TaskLibID, taskLibID);
+    DeleteRecordsFromTable(tblTaskLibParts::TaskLibID, taskLibID);
+    DeleteSchedulesOfEntry(taskLibID);
+    for (Recordset& line : Rows(tblTasks::TaskLibID == taskLibID)) {
+      const int taskID = line[tblTasks::ID].ToInt();
       line.Delete();
-      for (const QString& table : {u"tblTaskComponents"_s, u"tblSchedules"_s})
-        DeleteRecordsFromTable(table, u"TaskID"_s, taskID);
+      DeleteRecordsFromTable(tblTaskComponents::TaskID, taskID);
+      DeleteSchedulesOfTask(taskID);
     }
   });
 }

@@ -4,40 +4,34 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/models.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString EntryStatement(int taskLibID) { return u"select * from tblTaskLib where id = %1"_s.arg(taskLibID); }
-
 /// The ids that a side table ties to an entry; an entry without any has none.
-QList<int> TiedIDs(const QString& table, const QString& field, int taskLibID) {
+QList<int> TiedIDs(const Column& entry, int taskLibID, const Column& tied) {
   QList<int> ids;
-  GetRecordsFromTable(table, u"TaskLibID"_s, taskLibID, field, ids);
+  GetRecordsFromTable(entry, taskLibID, tied, ids);
   ids.removeAll(0);
   return ids;
 }
 
 /// Ties these ids to an entry in the place of those before.
-void TieIDs(const QString& table, const QString& field, int taskLibID, const QList<int>& ids) {
-  DeleteRecordsFromTable(table, u"TaskLibID"_s, taskLibID);
-  Recordset rows(table);
-  for (int id : ids) {
-    rows.AddNew();
-    rows.Set(u"TaskLibID", taskLibID);
-    rows.Set(field, id);
-    rows.Update();
-  }
+void TieIDs(const Table& table, const Column& entry, int taskLibID, const Column& tied, const QList<int>& ids) {
+  DeleteRecordsFromTable(entry, taskLibID);
+  for (int id : ids) AddRow(table, {{entry, taskLibID}, {tied, id}});
 }
 
 void UpdateTaskLibRigTypes(int taskLibID, const QList<int>& rigTypes) {
-  TieIDs(u"tblTaskLibRigType"_s, u"RigType"_s, taskLibID, rigTypes);
+  TieIDs(tblTaskLibRigType::kTable, tblTaskLibRigType::TaskLibID, taskLibID, tblTaskLibRigType::RigType, rigTypes);
 }
 
 void UpdateTaskLibComponentTypes(int taskLibID, const QList<int>& types) {
-  TieIDs(u"tblTaskLibComponentTypes"_s, u"ComponentTypeID"_s, taskLibID, types);
+  TieIDs(tblTaskLibComponentTypes::kTable, tblTaskLibComponentTypes::TaskLibID, taskLibID,
+         tblTaskLibComponentTypes::ComponentTypeID, types);
 }
 
 /// A new entry's name is in use; `taskLibID` becomes the one that has it when the person wants to see that.
@@ -80,7 +74,7 @@ bool FailedRigTypeAudit(const TaskTypeEntry& entry) {
            u"No rig types checked"_s);
     return true;
   }
-  if (entry.rigTypes.size() < GetNumberRecordsInTable(u"tblRigTypes"_s)) return false;
+  if (entry.rigTypes.size() < GetNumberRecordsInTable(tblRigTypes::kTable)) return false;
   MsgBox(Lines({u"You have selected every rig type.  If you want to"_s,
                 u"have a task available for all rig types, it is best"_s,
                 u"to uncheck the check box called 'Task is rig specific'"_s}),
@@ -111,55 +105,45 @@ std::optional<EntrySaved> FailedAudit(const EventTypeEntry& entry, int& taskLibI
   return std::nullopt;
 }
 
-/// Writes the fields of one entry, on a new row for id 0, by `write`. False, after a box, when the row has gone.
-template <typename Write>
-bool WriteEntry(int& taskLibID, Write&& write) {
-  Recordset row(taskLibID == 0 ? u"tblTaskLib"_s : EntryStatement(taskLibID));
+/// Writes one entry, on a new row for id 0. False, after a box, when the row has gone.
+bool WriteEntry(int& taskLibID, const RowValues& values) {
   if (taskLibID == 0) {
-    row.AddNew();
-  } else if (!RecordsetHasRows(row)) {
-    MsgBox(u"You shouldn't be here"_s);
-    return false;
+    taskLibID = AddRow(tblTaskLib::kTable, values);
+    return true;
   }
-  write(row);
-  row.Update();
-  taskLibID = row[u"ID"].ToInt();
-  return true;
+  if (EditRow(tblTaskLib::ID == taskLibID, values)) return true;
+  MsgBox(u"You shouldn't be here"_s);
+  return false;
 }
 
 bool UpdateTaskType(const TaskTypeEntry& entry, int& taskLibID) {
-  const bool isNew = taskLibID == 0;
-  const bool written = WriteEntry(taskLibID, [&](Recordset& row) {
-    row.Set(u"Name", entry.name.trimmed());
-    row.Set(u"FlatRate", entry.flatRate);
-    row.Set(u"HourlyRate", entry.hourlyRate);
-    row.Set(u"ModelID", ModelExists(entry.modelID) ? entry.modelID : 0);
-    row.Set(u"LogBook", entry.logBook);
-    row.Set(u"AllowMultiple", entry.allowMultiple);
-    row.Set(u"IsRigTypeSpecific", entry.rigTypeSpecific);
-    row.Set(u"IntervalNumber", entry.scheduled ? Value(Val(entry.interval)).ToInt() : 0);
-    row.Set(u"IntervalType", static_cast<int>(entry.scheduled ? entry.unit : kNoInterval));
-    if (isNew) row.Set(u"IsEvent", false);
-  });
-  if (!written) return false;
+  RowValues values = {{tblTaskLib::Name, entry.name.trimmed()},
+                      {tblTaskLib::Flatrate, entry.flatRate},
+                      {tblTaskLib::HourlyRate, entry.hourlyRate},
+                      {tblTaskLib::ModelID, ModelExists(entry.modelID) ? entry.modelID : 0},
+                      {tblTaskLib::Logbook, entry.logBook},
+                      {tblTaskLib::AllowMultiple, entry.allowMultiple},
+                      {tblTaskLib::IsRigTypeSpecific, entry.rigTypeSpecific},
+                      {tblTaskLib::IntervalNumber, entry.scheduled ? Value(Val(entry.interval)).ToInt() : 0},
+                      {tblTaskLib::IntervalType, static_cast<int>(entry.scheduled ? entry.unit : kNoInterval)}};
+  if (taskLibID == 0) values.Set(tblTaskLib::IsEvent, false);
+  if (!WriteEntry(taskLibID, values)) return false;
   UpdateTaskLibRigTypes(taskLibID, entry.rigTypes);
   UpdateTaskLibComponentTypes(taskLibID, entry.componentTypes);
-  UpdateTable(u"tblTasks"_s, u"LogBook"_s, entry.logBook, u"TaskLibID"_s, taskLibID);
-  TieIDs(u"tblTaskLibParts"_s, u"PartID"_s, taskLibID, entry.parts);
+  UpdateTable(tblTasks::LogBook, entry.logBook, tblTasks::TaskLibID, taskLibID);
+  TieIDs(tblTaskLibParts::kTable, tblTaskLibParts::TaskLibID, taskLibID, tblTaskLibParts::PartID, entry.parts);
   return true;
 }
 
 bool UpdateEventType(const EventTypeEntry& entry, int& taskLibID) {
-  const bool written = WriteEntry(taskLibID, [&](Recordset& row) {
-    row.Set(u"Name", entry.name.trimmed());
-    row.Set(u"FlatRate", Money());
-    row.Set(u"HourlyRate", Money());
-    row.Set(u"IsEvent", true);
-    row.Set(u"AllowMultiple", entry.allowMultiple);
-    row.Set(u"ModelID", 0);
-    row.Set(u"IntervalNumber", 0);
-    row.Set(u"IntervalType", static_cast<int>(kNoInterval));
-  });
+  const bool written = WriteEntry(taskLibID, {{tblTaskLib::Name, entry.name.trimmed()},
+                                              {tblTaskLib::Flatrate, Money()},
+                                              {tblTaskLib::HourlyRate, Money()},
+                                              {tblTaskLib::IsEvent, true},
+                                              {tblTaskLib::AllowMultiple, entry.allowMultiple},
+                                              {tblTaskLib::ModelID, 0},
+                                              {tblTaskLib::IntervalNumber, 0},
+                                              {tblTaskLib::IntervalType, static_cast<int>(kNoInterval)}});
   if (written) UpdateTaskLibComponentTypes(taskLibID, entry.componentTypes);
   return written;
 }
@@ -179,22 +163,22 @@ bool SaveEntry(const QString& routine, int& taskLibID, Save&& save) {
 bool LoadTaskType(int taskLibID, TaskTypeEntry& entry) {
   bool found = false;
   Operation(u"Function LoadTaskType"_s, [&] {
-    for (const Recordset& row : Rows(EntryStatement(taskLibID))) {
+    for (const Recordset& row : Rows(tblTaskLib::ID == taskLibID)) {
       found = true;
-      entry = {.name = row[u"Name"].ToText(),
-               .flatRate = row[u"FlatRate"].ToMoney(),
-               .hourlyRate = row[u"HourlyRate"].ToMoney(),
-               .scheduled = row[u"IntervalNumber"].ToInt() != 0,
-               .unit = static_cast<IntervalUnit>(row[u"IntervalType"].ToInt()),
-               .allowMultiple = row[u"AllowMultiple"].ToBool(),
-               .logBook = row[u"LogBook"].ToBool(),
-               .modelID = row[u"ModelID"].ToInt(),
-               .rigTypeSpecific = row[u"IsRigTypeSpecific"].ToBool()};
-      if (entry.scheduled) entry.interval = row[u"IntervalNumber"].ToText();
+      entry = {.name = row[tblTaskLib::Name].ToText(),
+               .flatRate = row[tblTaskLib::Flatrate].ToMoney(),
+               .hourlyRate = row[tblTaskLib::HourlyRate].ToMoney(),
+               .scheduled = row[tblTaskLib::IntervalNumber].ToInt() != 0,
+               .unit = static_cast<IntervalUnit>(row[tblTaskLib::IntervalType].ToInt()),
+               .allowMultiple = row[tblTaskLib::AllowMultiple].ToBool(),
+               .logBook = row[tblTaskLib::Logbook].ToBool(),
+               .modelID = row[tblTaskLib::ModelID].ToInt(),
+               .rigTypeSpecific = row[tblTaskLib::IsRigTypeSpecific].ToBool()};
+      if (entry.scheduled) entry.interval = row[tblTaskLib::IntervalNumber].ToText();
     }
-    entry.rigTypes = TiedIDs(u"tblTaskLibRigType"_s, u"RigType"_s, taskLibID);
+    entry.rigTypes = TiedIDs(tblTaskLibRigType::TaskLibID, taskLibID, tblTaskLibRigType::RigType);
     entry.componentTypes = RequiredComponentTypes(taskLibID);
-    entry.parts = TiedIDs(u"tblTaskLibParts"_s, u"PartID"_s, taskLibID);
+    entry.parts = TiedIDs(tblTaskLibParts::TaskLibID, taskLibID, tblTaskLibParts::PartID);
   });
   return found;
 }
@@ -240,19 +224,15 @@ int SaveCustomEventToLib(const QString& desc, const QList<int>& CompsReq, bool A
 }
 
 void AddNewRecordToTblTaskLibComponentTypes(int MyType, int TaskLibID) {
-  Recordset types(u"tblTaskLibComponentTypes"_s);
-  types.AddNew();
-  types.Set(u"TaskLibID", TaskLibID);
-  types.Set(u"ComponentTypeID", MyType);
-  types.Update();
+  AddRow(tblTaskLibComponentTypes::kTable,
+         {{tblTaskLibComponentTypes::TaskLibID, TaskLibID}, {tblTaskLibComponentTypes::ComponentTypeID, MyType}});
 }
 
 IdList LoadTasksByComponentType(int componentType, bool events) {
   IdList entries;
   Operation(u"Function LoadTasksByComponentType"_s, [&] {
-    for (const Recordset& row :
-         Rows(u"Select TaskLibID from tblTaskLibComponentTypes where ComponentTypeID = %1"_s.arg(componentType))) {
-      const int id = row[u"TaskLibID"].ToInt();
+    for (const Recordset& row : Rows(tblTaskLibComponentTypes::ComponentTypeID == componentType)) {
+      const int id = row[tblTaskLibComponentTypes::TaskLibID].ToInt();
       if (TaskLibExists(id) && TaskLibIsEvent(id) == events) entries.Add(TaskLibName(id), id);
     }
   });
@@ -261,7 +241,6 @@ IdList LoadTasksByComponentType(int componentType, bool events) {
 
 void SaveInstallRemovePrice(int taskLibID, Money price) {
   if (price == TaskLibFlatRate(taskLibID)) return;
-  if (Operation(u"Sub DoInstallRemove"_s,
-                [&] { UpdateTable(u"tblTaskLib"_s, u"FlatRate"_s, price, u"ID"_s, taskLibID); }))
+  if (Operation(u"Sub DoInstallRemove"_s, [&] { UpdateTable(tblTaskLib::Flatrate, price, tblTaskLib::ID, taskLibID); }))
     MsgBox(u"Price updated"_s);
 }

@@ -24,11 +24,11 @@ bool DeleteLibraryPart(int partID) {
     MsgBox(u"You must select a part to delete"_s, u"Nothing selected"_s);
     return false;
   }
-  const int tasks = GetNumberRecordsComplex(u"Select * from tblTaskLibParts where PartID = %1"_s.arg(partID)).ToInt();
+  const int tasks = GetNumberRecordsComplex(tblTaskLibParts::PartID == partID).ToInt();
   const QString used = tasks == 1 ? u"There is 1 library task which uses the select misc part"_s
                                   : u"There are %1 library tasks which use the select misc part"_s.arg(tasks);
   if (tasks > 0 && !AskYes(Lines({used, u"Do you want to delete this part anyway?"_s}), kProgramTitle)) return false;
   if (!AskYes(u"Delete %1?"_s.arg(ModelName(partID)), u"Are you sure?"_s)) return false;
-  DeleteRecordsFromTable(u"tblModels"_s, u"ID"_s, partID);
+  DeleteModelRow(partID);
   return true;
 }

@@ -20,8 +20,7 @@ constexpr double kHighestPrice = 1'000'000'000;
 const QString kPricePattern = u"#############0.00"_s;
 
 /// Writes a cell of the grid; what stood in it stays when it could not be written.
-EditResult WriteCell(int taskID, const QString& field, const Value& value, const QString& shown,
-                     const QString& before) {
+EditResult WriteCell(int taskID, const Column& field, const Value& value, const QString& shown, const QString& before) {
   const bool written = Operation(u"Sub SaveTextBox"_s, [&] { SetLineField(taskID, field, value); });
   return {.shown = written ? shown : before, .changed = written};
 }
@@ -41,7 +40,7 @@ EditResult SaveLineName(int taskID, const QString& text) {
   const JobLine line = LoadJobLine(taskID);
   const QString name = text.trimmed().left(kJobTextLength);
   if (name.isEmpty() || name == line.task.trimmed()) return {.shown = line.task};
-  return WriteCell(taskID, u"taskName"_s, name, (line.partID == 0 ? QString() : kPartIndent) + name, line.task);
+  return WriteCell(taskID, tblTasks::TaskName, name, (line.partID == 0 ? QString() : kPartIndent) + name, line.task);
 }
 
 EditResult SaveLinePrice(int taskID, const QString& text) {
@@ -56,7 +55,7 @@ EditResult SaveLinePrice(int taskID, const QString& text) {
     return {.shown = before, .refused = true};
   }
   if (*price == old) return {.shown = before};
-  return WriteCell(taskID, u"FlatRate"_s, *price, Format(*price, kPricePattern), before);
+  return WriteCell(taskID, tblTasks::FlatRate, *price, Format(*price, kPricePattern), before);
 }
 
 EditResult SaveLineDate(int taskID, const QString& text) {
@@ -68,24 +67,24 @@ EditResult SaveLineDate(int taskID, const QString& text) {
     return {.shown = old, .refused = true};
   }
   const Date date = ParseDate(typed);
-  return WriteCell(taskID, u"DateTaskCompleted"_s, date, Format(date, u"mm/dd/yyyy"_s), old);
+  return WriteCell(taskID, tblTasks::DateTaskCompleted, date, Format(date, u"mm/dd/yyyy"_s), old);
 }
 
 void SetLineRigger(int taskID, int riggerID) {
-  Operation(u"Sub ChangeTaskRigger"_s, [&] { SetLineField(taskID, u"RiggerID"_s, riggerID); });
+  Operation(u"Sub ChangeTaskRigger"_s, [&] { SetLineField(taskID, tblTasks::RiggerID, riggerID); });
 }
 
-QString LineComments(int taskID) { return LineField(taskID, u"comments"_s).ToText(); }
+QString LineComments(int taskID) { return LineField(taskID, tblTasks::Comments).ToText(); }
 
 void SetLineComments(int taskID, const QString& comments) {
   Operation(u"Sub EditTaskComments"_s,
-            [&] { SetLineField(taskID, u"comments"_s, comments.isEmpty() ? u" "_s : comments); });
+            [&] { SetLineField(taskID, tblTasks::Comments, comments.isEmpty() ? u" "_s : comments); });
 }
 
-QString LineName(int taskID) { return LineField(taskID, u"TaskName"_s).ToText(); }
+QString LineName(int taskID) { return LineField(taskID, tblTasks::TaskName).ToText(); }
 
 QString LineKind(int taskID) {
-  if (LineField(taskID, u"PartID"_s).ToInt() != 0) return u"part"_s;
+  if (LineField(taskID, tblTasks::PartID).ToInt() != 0) return u"part"_s;
   return TaskIsEvent(taskID) ? u"event"_s : u"task"_s;
 }
 

@@ -3,6 +3,7 @@
 #include "core/default_rows.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/models.h"
 #include "jobs/job_components.h"
 #include "jobs/job_records.h"
@@ -14,30 +15,30 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// What every line starts with, whatever its kind.
-void WriteContext(Recordset& tasks, const JobContext& job, Date date) {
-  tasks.Set(u"JobID", job.jobID);
-  tasks.Set(u"CustomerID", job.customerID);
-  tasks.Set(u"systemID", job.rigID);
-  tasks.Set(u"RiggerID", job.riggerID);
-  tasks.Set(u"LocationID", job.locationID);
-  tasks.Set(u"DateTaskStarted", date);
-  tasks.Set(u"NumHours", 0);
-  tasks.Set(u"Tax", Money());
-  tasks.Set(u"comments", u" ");
+void SetContext(RowValues& line, const JobContext& job, Date date) {
+  line.Set(tblTasks::JobID, job.jobID);
+  line.Set(tblTasks::CustomerID, job.customerID);
+  line.Set(tblTasks::SystemID, job.rigID);
+  line.Set(tblTasks::RiggerID, job.riggerID);
+  line.Set(tblTasks::LocationID, job.locationID);
+  line.Set(tblTasks::DateTaskStarted, date);
+  line.Set(tblTasks::NumHours, 0);
+  line.Set(tblTasks::Tax, Money());
+  line.Set(tblTasks::Comments, u" ");
 }
 
-void WriteCompletion(Recordset& tasks, bool isEvent, Date date) {
-  tasks.Set(u"IsEvent", isEvent);
-  tasks.Set(u"DateTaskCompleted", isEvent ? date : Date());
-  tasks.Set(u"status", static_cast<int>(isEvent ? kComplete : kIncomplete));
+void SetCompletion(RowValues& line, bool isEvent, Date date) {
+  line.Set(tblTasks::IsEvent, isEvent);
+  line.Set(tblTasks::DateTaskCompleted, isEvent ? date : Date());
+  line.Set(tblTasks::Status, static_cast<int>(isEvent ? kComplete : kIncomplete));
 }
 
-void WriteWork(Recordset& tasks, int taskLibID, const QString& name, Money price, Money hourlyRate, bool logBook) {
-  tasks.Set(u"TaskLibID", taskLibID);
-  tasks.Set(u"TaskName", name.left(kJobTextLength));
-  tasks.Set(u"FlatRate", price);
-  tasks.Set(u"HourlyRate", hourlyRate);
-  tasks.Set(u"LogBook", logBook);
+void SetWork(RowValues& line, int taskLibID, const QString& name, Money price, Money hourlyRate, bool logBook) {
+  line.Set(tblTasks::TaskLibID, taskLibID);
+  line.Set(tblTasks::TaskName, name.left(kJobTextLength));
+  line.Set(tblTasks::FlatRate, price);
+  line.Set(tblTasks::HourlyRate, hourlyRate);
+  line.Set(tblTasks::LogBook, logBook);
 }
 
 JobContext WithRigger(JobContext job) {
@@ -59,47 +60,40 @@ void AddTaskToJob(const JobContext& job, int itemID, bool isPart, Date date, int
   taskID = 0;
   const bool written = Operation(u"Sub AddTaskToJob"_s, [&] {
     const bool isEvent = !isPart && TaskLibIsEvent(itemID);
-    {
-      Recordset tasks(u"tblTasks"_s);
-      tasks.AddNew();
-      WriteContext(tasks, WithRigger(job), date);
-      WriteCompletion(tasks, isEvent, date);
-      if (isPart) {
-        tasks.Set(u"PartID", itemID);
-        WriteWork(tasks, 0, ModelName(itemID), ModelPrice(itemID), Money(), false);
-      } else {
-        const Money price = itemID == RepackTaskLibID ? GetRepackPrice(itemID, job.rigID) : TaskLibFlatRate(itemID);
-        tasks.Set(u"PartID", 0);
-        WriteWork(tasks, itemID, TaskLibName(itemID), price, TaskLibHourlyRate(itemID),
-                  !isEvent && TaskLibLogBook(itemID));
-      }
-      if (isEvent) tasks.Set(u"RiggerID", 0);
-      tasks.Update();
-      taskID = tasks[u"ID"].ToInt();
+    RowValues line;
+    SetContext(line, WithRigger(job), date);
+    SetCompletion(line, isEvent, date);
+    if (isPart) {
+      line.Set(tblTasks::PartID, itemID);
+      SetWork(line, 0, ModelName(itemID), ModelPrice(itemID), Money(), false);
+    } else {
+      const Money price = itemID == RepackTaskLibID ? GetRepackPrice(itemID, job.rigID) : TaskLibFlatRate(itemID);
+      line.Set(tblTasks::PartID, 0);
+      SetWork(line, itemID, TaskLibName(itemID), price, TaskLibHourlyRate(itemID), !isEvent && TaskLibLogBook(itemID));
     }
+    if (isEvent) line.Set(tblTasks::RiggerID, 0);
+    taskID = AddRow(tblTasks::kTable, line);
   });
   if (!written) taskID = 0;
 }
 
-void AddCustomLine(const JobContext& job, const CustomLine& line, Date date, int& taskID) {
+void AddCustomLine(const JobContext& job, const CustomLine& custom, Date date, int& taskID) {
   taskID = 0;
   const bool written = Operation(u"Sub AddCustomLine"_s, [&] {
-    Recordset tasks(u"tblTasks"_s);
-    tasks.AddNew();
-    WriteContext(tasks, job, date);
-    WriteCompletion(tasks, line.isEvent, date);
-    WriteWork(tasks, 0, line.name, line.price, Money(), line.logBook);
-    tasks.Set(u"PartID", line.partID);
-    tasks.Update();
-    taskID = tasks[u"ID"].ToInt();
+    RowValues line;
+    SetContext(line, job, date);
+    SetCompletion(line, custom.isEvent, date);
+    SetWork(line, 0, custom.name, custom.price, Money(), custom.logBook);
+    line.Set(tblTasks::PartID, custom.partID);
+    taskID = AddRow(tblTasks::kTable, line);
   });
   if (!written) taskID = 0;
 }
 
 void AddLibraryParts(const JobContext& job, int taskLibID, Date date) {
   Operation(u"Sub AddLibraryParts"_s, [&] {
-    for (Recordset& part : Rows(u"Select * from tblTaskLibParts where TaskLibID = %1"_s.arg(taskLibID))) {
-      const int partID = part[u"PartID"].ToInt();
+    for (Recordset& part : Rows(tblTaskLibParts::TaskLibID == taskLibID)) {
+      const int partID = part[tblTaskLibParts::PartID].ToInt();
       int taskID = 0;
       if (ModelExists(partID))
         AddTaskToJob(job, partID, true, date, taskID);
@@ -121,12 +115,9 @@ void AddComponentsToTask(int taskLibID, int taskID, int jobID) {
 void AddTaskComponent(int taskID, int componentID, bool complete) {
   if (componentID == 0) return;
   Operation(u"Sub AddTaskComponent"_s, [&] {
-    Recordset rows(u"tblTaskComponents"_s);
-    rows.AddNew();
-    rows.Set(u"TaskID", taskID);
-    rows.Set(u"CompID", componentID);
-    rows.Set(u"Complete", complete);
-    rows.Update();
+    AddRow(tblTaskComponents::kTable, {{tblTaskComponents::TaskID, taskID},
+                                       {tblTaskComponents::CompID, componentID},
+                                       {tblTaskComponents::Complete, complete}});
   });
 }
 
@@ -135,14 +126,21 @@ void AddGearLine(const JobContext& job, int taskLibID, const QString& name, int 
     int taskID = 0;
     AddTaskToJob(job, taskLibID, false, date, taskID);
     if (taskID == 0) return;
-    SetLineField(taskID, u"TaskName"_s, name.left(kJobTextLength));
+    SetLineField(taskID, tblTasks::TaskName, name.left(kJobTextLength));
     AddTaskComponent(taskID, componentID, false);
   });
 }
 
+QList<int> ComponentsOfLine(int taskID) {
+  QList<int> components;
+  GetRecordsFromTable(tblTaskComponents::TaskID, taskID, tblTaskComponents::CompID, components);
+  components.removeAll(0);
+  return components;
+}
+
 QList<int> LinesOfJob(int jobID) {
   QList<Value> ids;
-  GetRecordsFromTableBySQL(u"Select * from tblTasks where JobID = %1 order by ID"_s.arg(jobID), u"ID"_s, ids);
+  GetRecordsFromTableBySQL(Select(tblTasks::JobID == jobID).OrderBy(tblTasks::ID), tblTasks::ID, ids);
   QList<int> lines;
   for (const Value& id : ids) {
     if (!id.IsEmpty()) lines.append(id.ToInt());
@@ -150,12 +148,14 @@ QList<int> LinesOfJob(int jobID) {
   return lines;
 }
 
-Value LineField(int taskID, const QString& field) { return GetValueFromTable(u"tblTasks"_s, u"ID"_s, taskID, field); }
+Value LineField(int taskID, const Column& field) { return GetValueFromTable(tblTasks::ID, taskID, field); }
 
-void SetLineField(int taskID, const QString& field, const Value& value) {
-  UpdateTable(u"tblTasks"_s, field, value, u"ID"_s, taskID);
+void SetLineField(int taskID, const Column& field, const Value& value) {
+  UpdateTable(field, value, tblTasks::ID, taskID);
 }
 
-int TaskLibIDOf(int taskID) { return LineField(taskID, u"TaskLibID"_s).ToInt(); }
+int JobOfLine(int taskID) { return LineField(taskID, tblTasks::JobID).ToInt(); }
 
-bool TaskIsEvent(int taskID) { return LineField(taskID, u"IsEvent"_s).ToBool(); }
+int TaskLibIDOf(int taskID) { return LineField(taskID, tblTasks::TaskLibID).ToInt(); }
+
+bool TaskIsEvent(int taskID) { return LineField(taskID, tblTasks::IsEvent).ToBool(); }

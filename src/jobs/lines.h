@@ -4,6 +4,7 @@
 
 #include "core/date.h"
 #include "core/money.h"
+#include "core/store/tables.h"
 #include "core/value.h"
 
 /// The lines of a job: its tasks, events and parts, rows of tblTasks.
@@ -50,11 +51,15 @@ void AddTaskComponent(int taskID, int componentID, bool complete);
 /// Adds the incomplete line of a component that was installed or removed, under a name of its own.
 void AddGearLine(const JobContext& job, int taskLibID, const QString& name, int componentID, Date date);
 
+/// The components that a line touched.
+QList<int> ComponentsOfLine(int taskID);
 /// The ids of a job's lines in the order they were entered; empty when there are none.
 QList<int> LinesOfJob(int jobID);
 /// One field of a line; empty when there is no such line.
-Value LineField(int taskID, const QString& field);
-void SetLineField(int taskID, const QString& field, const Value& value);
+Value LineField(int taskID, const Column& field);
+void SetLineField(int taskID, const Column& field, const Value& value);
+/// The job of a line, 0 for work that belongs to none.
+int JobOfLine(int taskID);
 int TaskLibIDOf(int taskID);
 /// Does the line record an event?
 bool TaskIsEvent(int taskID);

@@ -2,6 +2,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/people.h"
 #include "jobs/job_components.h"
 #include "jobs/job_records.h"
@@ -12,25 +13,21 @@ namespace {
 
 int AddJobRow(const QString& title, int customerID, int rigID, int componentID, int riggerID, int locationID,
               Date date) {
-  Recordset jobs(u"tblJobs"_s);
-  jobs.AddNew();
-  jobs.Set(u"JobTitle", title.left(kJobTextLength));
-  jobs.Set(u"InvoiceNumber", QString());
-  jobs.Set(u"DateBilled", Date());
-  jobs.Set(u"DatePaid", Date());
-  jobs.Set(u"CustomerID", customerID);
-  jobs.Set(u"LocationID", locationID);
-  jobs.Set(u"RiggerID", riggerID);
-  jobs.Set(u"ComponentID", componentID);
-  jobs.Set(u"SystemID", rigID);
-  jobs.Set(u"DateStarted", date.IsNone() ? Today() : date);
-  jobs.Set(u"DatePromised", Date());
-  jobs.Set(u"DateCompleted", Date());
-  jobs.Set(u"JobStatus", 0);
-  jobs.Set(u"JobPaymentStatus", 0);
-  jobs.Set(u"Comments", u" ");
-  jobs.Update();
-  return jobs[u"ID"].ToInt();
+  return AddRow(tblJobs::kTable, {{tblJobs::JobTitle, title.left(kJobTextLength)},
+                                  {tblJobs::InvoiceNumber, QString()},
+                                  {tblJobs::DateBilled, Date()},
+                                  {tblJobs::DatePaid, Date()},
+                                  {tblJobs::CustomerID, customerID},
+                                  {tblJobs::LocationID, locationID},
+                                  {tblJobs::RiggerID, riggerID},
+                                  {tblJobs::ComponentID, componentID},
+                                  {tblJobs::SystemID, rigID},
+                                  {tblJobs::DateStarted, date.IsNone() ? Today() : date},
+                                  {tblJobs::DatePromised, Date()},
+                                  {tblJobs::DateCompleted, Date()},
+                                  {tblJobs::JobStatus, 0},
+                                  {tblJobs::JobPaymentStatus, 0},
+                                  {tblJobs::Comments, u" "}});
 }
 
 void TakeSnapshot(int jobID, int rigID, int componentID) {
@@ -45,7 +42,7 @@ void TakeSnapshot(int jobID, int rigID, int componentID) {
 int ValidDefaultRigger() {
   const int rigger = DefaultRigger();
   if (rigger == 0) return 0;
-  return GetValueFromTable(u"tblPeople"_s, u"ID"_s, rigger, u"rigger"_s).ToBool() ? rigger : 0;
+  return GetValueFromTable(tblPeople::ID, rigger, tblPeople::rigger).ToBool() ? rigger : 0;
 }
 
 void CreateNewJob(const QString& title, int customerID, int rigID, int componentID, int& jobID, int riggerID,

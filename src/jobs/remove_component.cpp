@@ -90,8 +90,7 @@ bool PlaceIsFilled(int rows, int componentType, int componentID) {
 QList<int> LinesOfComponent(int jobID, int componentID) {
   QList<int> lines = LinesOfJob(jobID);
   lines.removeIf([&](int line) {
-    return GetNumberRecordsComplex(
-               u"Select * from tblTaskComponents where TaskID = %1 and compID = %2"_s.arg(line).arg(componentID))
+    return GetNumberRecordsComplex(tblTaskComponents::TaskID == line && tblTaskComponents::CompID == componentID)
                .ToInt() == 0;
   });
   return lines;

@@ -5,6 +5,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/rig_types.h"
@@ -15,21 +16,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The prices by model and by type are held in columns of one name.
+constexpr QStringView kPrice = tblRepackByModel::Price;
+
 Money PriceFrom(const QString& statement, int taskLibID) {
   if (taskLibID != RepackTaskLibID && GetNumberRecordsComplex(statement).ToInt() > 0) {
     MsgBox(u"you shouldn't be here"_s);
     return {};
   }
-  return GetValueFromTableBySQL(statement, u"Price"_s).ToMoney();
+  return GetValueFromTableBySQL(statement, kPrice.toString()).ToMoney();
 }
 
-void SavePrice(const QString& table, const QString& key, int id, Money price) {
+void SavePrice(const Table& table, const Column& key, int id, const Column& column, Money price) {
   Operation(u"Sub SavePrice"_s, [&] {
-    Recordset rows(u"Select * from %1 where %2 = %3"_s.arg(table, key).arg(id));
-    if (!RecordsetHasRows(rows)) rows.AddNew();
-    rows.Set(key, id);
-    rows.Set(u"Price", price);
-    rows.Update();
+    const RowValues values = {{key, id}, {column, price}};
+    if (!EditRow(key == id, values)) AddRow(table, values);
   });
 }
 
@@ -39,19 +40,19 @@ void Clear(const QString& table) {
 
 QString PriceText(Money price) { return Format(price, u"##0.00"_s); }
 
-void AddPrices(IdList& list, const QString& table, QStringView key, QString (*nameOf)(int id)) {
+void AddPrices(IdList& list, const Table& table, const Column& key, QString (*nameOf)(int id)) {
   for (const Recordset& row : Rows(table)) {
     const int id = row[key].ToInt();
-    const Money price = row[u"Price"].ToMoney();
+    const Money price = row[kPrice].ToMoney();
     if (!price.IsZero()) list.Add(nameOf(id) + u"  "_s + PriceText(price), id);
   }
 }
 
-bool HasOtherPrice(const QString& table, Money usual) {
-  Recordset rows(u"Select * from "_s + table);
+bool HasOtherPrice(const Table& table, Money usual) {
+  Recordset rows(table);
   if (!RecordsetHasRows(rows)) return false;
   for (; !rows.Eof(); rows.MoveNext()) {
-    const Money price = rows[u"Price"].ToMoney();
+    const Money price = rows[kPrice].ToMoney();
     if (!price.IsZero() && price != usual) return true;
   }
   return false;
@@ -59,13 +60,9 @@ bool HasOtherPrice(const QString& table, Money usual) {
 
 }  // namespace
 
-Money GetPriceByModel(int modelID, int taskLibID) {
-  return PriceFrom(u"Select * from tblRepackByModel where Modelid = %1"_s.arg(modelID), taskLibID);
-}
+Money GetPriceByModel(int modelID, int taskLibID) { return PriceFrom(tblRepackByModel::ModelID == modelID, taskLibID); }
 
-Money GetPriceByType(int typeID, int taskLibID) {
-  return PriceFrom(u"Select * from tblRepackByType where Typeid = %1"_s.arg(typeID), taskLibID);
-}
+Money GetPriceByType(int typeID, int taskLibID) { return PriceFrom(tblRepackByType::TypeID == typeID, taskLibID); }
 
 Money GetRepackPrice(int taskLibID, int rigID) {
   Money price;
@@ -80,9 +77,13 @@ Money GetRepackPrice(int taskLibID, int rigID) {
   return price;
 }
 
-void SaveByModel(int modelID, Money price) { SavePrice(u"tblRepackByModel"_s, u"ModelID"_s, modelID, price); }
+void SaveByModel(int modelID, Money price) {
+  SavePrice(tblRepackByModel::kTable, tblRepackByModel::ModelID, modelID, tblRepackByModel::Price, price);
+}
 
-void SaveByType(int typeID, Money price) { SavePrice(u"tblRepackByType"_s, u"TypeID"_s, typeID, price); }
+void SaveByType(int typeID, Money price) {
+  SavePrice(tblRepackByType::kTable, tblRepackByType::TypeID, typeID, tblRepackByType::Price, price);
+}
 
 bool SaveRepackPrices(const RepackPrices& prices) {
   return Operation(u"Sub SaveRepackPrices"_s, [&] {
@@ -92,14 +93,14 @@ bool SaveRepackPrices(const RepackPrices& prices) {
   });
 }
 
-void ClearPricesByType() { Clear(u"tblRepackByType"_s); }
-void ClearPricesByModel() { Clear(u"tblRepackByModel"_s); }
+void ClearPricesByType() { Clear(tblRepackByType::kTable); }
+void ClearPricesByModel() { Clear(tblRepackByModel::kTable); }
 
 QString RepackPriceLabel() {
   QString label;
   Operation(u"Function RepackPriceLabel"_s, [&] {
     const Money usual = TaskLibFlatRate(RepackTaskLibID);
-    const bool varies = HasOtherPrice(u"tblRepackByModel"_s, usual) || HasOtherPrice(u"tblRepackByType"_s, usual);
+    const bool varies = HasOtherPrice(tblRepackByModel::kTable, usual) || HasOtherPrice(tblRepackByType::kTable, usual);
     label = varies ? u"(cost varies)"_s : PriceText(usual);
   });
   return label;
@@ -109,8 +110,8 @@ IdList LoadRepackPriceList() {
   IdList list;
   Operation(u"Sub LoadRepackPriceList"_s, [&] {
     list.Add(TaskLibName(RepackTaskLibID) + u"  "_s + RepackPriceLabel(), RepackTaskLibID);
-    AddPrices(list, u"tblRepackByModel"_s, u"ModelID", ModelName);
-    AddPrices(list, u"tblRepackByType"_s, u"TypeID", RigTypeName);
+    AddPrices(list, tblRepackByModel::kTable, tblRepackByModel::ModelID, ModelName);
+    AddPrices(list, tblRepackByType::kTable, tblRepackByType::TypeID, RigTypeName);
   });
   return list;
 }

@@ -3,6 +3,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "core/trap.h"
 #include "jobs/repack_price.h"
 #include "schedule/task_library.h"
@@ -14,37 +15,33 @@ namespace {
 constexpr int kUsualCycle = 180;  // days
 
 /// Everything of a repack entry but its id.
-void WriteRepackEntry(Recordset& tasks, Money fee) {
-  tasks.Set(u"Name", u"Inspect and repack reserve");
-  tasks.Set(u"FlatRate", fee);
-  tasks.Set(u"HourlyRate", Money());
-  tasks.Set(u"LogBook", true);
-  tasks.Set(u"AllowMultiple", false);
-  tasks.Set(u"ModelID", 0);
-  tasks.Set(u"IntervalNumber", RepackCycle());
-  tasks.Set(u"IntervalType", static_cast<int>(kDays));
-  tasks.Update();
+RowValues RepackEntry(Money fee) {
+  return {{tblTaskLib::Name, u"Inspect and repack reserve"},
+          {tblTaskLib::Flatrate, fee},
+          {tblTaskLib::HourlyRate, Money()},
+          {tblTaskLib::Logbook, true},
+          {tblTaskLib::AllowMultiple, false},
+          {tblTaskLib::ModelID, 0},
+          {tblTaskLib::IntervalNumber, RepackCycle()},
+          {tblTaskLib::IntervalType, static_cast<int>(kDays)}};
 }
 
 void RequireContainerAndReserve(int taskLibID) {
-  Recordset types(u"tblTaskLibComponentTypes"_s);
   for (ComponentType type : {kContainer, kReserveCanopy}) {
-    types.AddNew();
-    types.Set(u"TaskLibID", taskLibID);
-    types.Set(u"ComponentTypeID", static_cast<int>(type));
-    types.Update();
+    AddRow(tblTaskLibComponentTypes::kTable, {{tblTaskLibComponentTypes::TaskLibID, taskLibID},
+                                              {tblTaskLibComponentTypes::ComponentTypeID, static_cast<int>(type)}});
   }
 }
 
 }  // namespace
 
-int RepackCycle() { return GetValueFromTableBySQL(u"Select * from tblMisc"_s, u"RepackCycle"_s).ToInt(); }
+int RepackCycle() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::RepackCycle).ToInt(); }
 
 void SetRepackCycle(int days) {
   Operation(u"Sub SetRepackCycle"_s, [&] {
-    UpdateTable(u"tblTaskLib"_s, u"IntervalNumber"_s, days, u"ID"_s, RepackTaskLibID);
-    if (GetNumberRecordsInTable(u"tblMisc"_s) == 0) AddMiscRow(days);
-    UpdateTableBySQL(u"update tblMisc set RepackCycle = %1"_s.arg(days));
+    UpdateTable(tblTaskLib::IntervalNumber, days, tblTaskLib::ID, RepackTaskLibID);
+    if (GetNumberRecordsInTable(tblMisc::kTable) == 0) AddMiscRow(days);
+    UpdateRows(tblMisc::RepackCycle, days);
   });
 }
 
@@ -63,14 +60,9 @@ void AskRepackCycle() {
 
 void CheckIR(Money fee) {
   Operation(u"Sub CheckIR"_s, [&] {
-    Recordset tasks(u"Select * from tblTaskLib where ID = %1"_s.arg(RepackTaskLibID));
-    const bool isNew = !RecordsetHasRows(tasks);
-    if (isNew) {
-      MsgBox(u"No repack task in library"_s, u"Sub CheckIR(IRfee As Currency)"_s);
-      tasks.AddNew();
-    }
-    WriteRepackEntry(tasks, fee);
-    if (isNew) RequireContainerAndReserve(tasks[u"ID"].ToInt());
+    if (EditRow(tblTaskLib::ID == RepackTaskLibID, RepackEntry(fee))) return;
+    MsgBox(u"No repack task in library"_s, u"Sub CheckIR(IRfee As Currency)"_s);
+    RequireContainerAndReserve(AddRow(tblTaskLib::kTable, RepackEntry(fee)));
   });
 }
 
@@ -78,10 +70,7 @@ void CreateRepackTaskType(int& taskLibID) {
   taskLibID = 0;
   const bool written = Operation(u"Sub CreateRepackTaskType"_s, [&] {
     MsgBox(u"repack not found in task library"_s, u"Sub CreateRepackTaskType(TaskLibID As Long)"_s);
-    Recordset tasks(u"tblTaskLib"_s);
-    tasks.AddNew();
-    WriteRepackEntry(tasks, Money());
-    taskLibID = tasks[u"ID"].ToInt();
+    taskLibID = AddRow(tblTaskLib::kTable, RepackEntry(Money()));
   });
   if (!written) taskLibID = 0;
 }

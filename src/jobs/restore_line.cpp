@@ -2,6 +2,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/operation.h"
+#include "core/store/tables.h"
 #include "gear/models.h"
 #include "jobs/job_records.h"
 #include "jobs/line_edits.h"
@@ -18,7 +19,7 @@ const QString kNoName = u"Can't restore previous name (if any)"_s;
 /// A part whose model has gone becomes a custom part of this line.
 bool PartHasGone(int taskID, int partID, const QString& lastLine) {
   if (partID <= 0 || ModelExists(partID)) return false;
-  if (!Operation(u"Sub PartHasGone"_s, [&] { SetLineField(taskID, u"PartID"_s, kCustomPart); })) return true;
+  if (!Operation(u"Sub PartHasGone"_s, [&] { SetLineField(taskID, tblTasks::PartID, kCustomPart); })) return true;
   MsgBox(Lines({u"This part has been deleted from the available parts table"_s,
                 u"It is now considered a custom entry for this job."_s, lastLine}),
          u"Part no longer exists"_s);
@@ -26,11 +27,11 @@ bool PartHasGone(int taskID, int partID, const QString& lastLine) {
 }
 
 bool WritePrice(int taskID, Money original, const QString& text, const QString& title) {
-  if (original == LineField(taskID, u"FlatRate"_s).ToMoney()) {
+  if (original == LineField(taskID, tblTasks::FlatRate).ToMoney()) {
     MsgBox(text, title);
     return false;
   }
-  return Operation(u"Sub RestorePrice"_s, [&] { SetLineField(taskID, u"FlatRate"_s, original); });
+  return Operation(u"Sub RestorePrice"_s, [&] { SetLineField(taskID, tblTasks::FlatRate, original); });
 }
 
 bool WriteName(int taskID, const QString& original, const QString& text) {
@@ -39,7 +40,7 @@ bool WriteName(int taskID, const QString& original, const QString& text) {
     MsgBox(text);
     return false;
   }
-  return Operation(u"Sub RestoreTaskName"_s, [&] { SetLineField(taskID, u"TaskName"_s, name); });
+  return Operation(u"Sub RestoreTaskName"_s, [&] { SetLineField(taskID, tblTasks::TaskName, name); });
 }
 
 /// Why the price of a task is not known; empty when the library tells it.
@@ -54,7 +55,7 @@ QString WhyNoPrice(int taskLibID) {
 
 bool RestorePrice(int taskID) {
   if (TaskIsEvent(taskID)) return false;
-  const int partID = LineField(taskID, u"PartID"_s).ToInt();
+  const int partID = LineField(taskID, tblTasks::PartID).ToInt();
   if (PartHasGone(taskID, partID, u"You cannot restore the previous price but you can change it manually"_s))
     return true;
   if (partID == kCustomPart) {
@@ -74,7 +75,7 @@ bool RestorePrice(int taskID) {
 }
 
 bool RestoreTaskName(int taskID) {
-  const int partID = LineField(taskID, u"PartID"_s).ToInt();
+  const int partID = LineField(taskID, tblTasks::PartID).ToInt();
   if (PartHasGone(taskID, partID, u"You cannot restore the previous name"_s)) return true;
   if (partID > 0) return WriteName(taskID, ModelName(partID), u"This is the original part name"_s);
   const QString doubt = u"Its original name unknown.  It may or may not"_s;

@@ -14,6 +14,7 @@
 #include "jobs/install_component.h"
 #include "jobs/job_components.h"
 #include "jobs/job_records.h"
+#include "schedule/gear_moves.h"
 
 using namespace Qt::StringLiterals;
 
@@ -103,7 +104,7 @@ RigOfOnlyComponent AskRigOfOnlyComponent(int jobID) {
 void TakeRig(int jobID, int rigID) {
   Operation(u"Sub TakeRig"_s, [&] {
     SetJobSystemID(jobID, rigID);
-    DeleteRecordsFromTable(u"tblJobComponents"_s, u"JobID"_s, jobID);
+    DeleteRecordsFromTable(tblJobComponents::JobID, jobID);
     SnapshotRig(jobID, rigID);
   });
 }

@@ -52,8 +52,7 @@ bool MayTake(int componentID, int rigID) {
 void PutIntoRig(int componentID, int type, int rigID) {
   Operation(u"Sub PutIntoRig"_s, [&] {
     FreePlace(rigID, type);
-    UpdateTableBySQL(
-        u"Update tblComponents set rigid = %1 where typeid = %2 and id = %3"_s.arg(rigID).arg(type).arg(componentID));
+    if (ComponentTypeOf(componentID) == type) SetComponentRig(componentID, rigID);
   });
 }
 

@@ -1,6 +1,7 @@
 #include "jobs/schedule_jobs.h"
 
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
 #include "jobs/job_records.h"
@@ -9,7 +10,7 @@
 using namespace Qt::StringLiterals;
 
 int JobOfScheduledTask(int taskID, int rigID) {
-  const int jobID = LineField(taskID, u"JobID"_s).ToInt();
+  const int jobID = JobOfLine(taskID);
   if (jobID < 1) {
     MsgBox(Lines(
         {u"This event was not part of a rigging job."_s, u"To edit this event, go to the component's history."_s}));

@@ -1,5 +1,6 @@
 #include "jobs/schedule_key.h"
 
+#include "core/store/tables.h"
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
@@ -7,9 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-ScheduleKey KeyOfLine(int taskID) {
-  return KeyOfLine(taskID, LineField(taskID, u"JobID"_s).ToInt(), TaskLibIDOf(taskID));
-}
+ScheduleKey KeyOfLine(int taskID) { return KeyOfLine(taskID, JobOfLine(taskID), TaskLibIDOf(taskID)); }
 
 ScheduleKey KeyOfLine(int taskID, int jobID, int taskLibID) {
   return {.taskLibID = taskLibID, .rigID = JobSystemID(jobID), .componentID = GetThisComponentID(taskID)};

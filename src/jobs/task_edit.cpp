@@ -6,6 +6,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
 #include "jobs/schedule_key.h"
@@ -16,8 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString DateText(Date date) { return date.IsNone() ? QString() : Value(date).ToText(); }
-
-QString Statement(int taskID) { return u"Select * from tblTasks where id = %1"_s.arg(taskID); }
 
 /// The start as it is written: an empty box copies the completion; blanks alone should have been refused before.
 Date StartOf(const TaskEntry& entry) {
@@ -30,18 +29,16 @@ Date StartOf(const TaskEntry& entry) {
 
 /// What was written moves the row of the line's own rig, whatever component it touched, and no row without a rig.
 ScheduleKey UpdateTask(int taskID, const TaskEntry& entry) {
-  Recordset task(Statement(taskID));
-  if (!RecordsetHasRows(task)) return {};
-  const ScheduleKey key{.taskLibID = task[u"TaskLibID"].ToInt(), .rigID = task[u"SystemID"].ToInt()};
   const QString completed = entry.dateCompleted.trimmed();
-  task.Set(u"DateTaskStarted", StartOf(entry));
-  task.Set(u"DateTaskCompleted", completed.isEmpty() ? Date() : ParseDate(completed));
-  task.Set(u"LogBook", entry.logBook);
-  task.Set(u"TaskName", entry.name);
-  task.Set(u"FlatRate", Money::FromText(entry.price));
-  task.Set(u"Status", entry.status);
-  task.Update();
-  return key;
+  const bool written = EditRow(tblTasks::ID == taskID,
+                               {{tblTasks::DateTaskStarted, StartOf(entry)},
+                                {tblTasks::DateTaskCompleted, completed.isEmpty() ? Date() : ParseDate(completed)},
+                                {tblTasks::LogBook, entry.logBook},
+                                {tblTasks::TaskName, entry.name},
+                                {tblTasks::FlatRate, Money::FromText(entry.price)},
+                                {tblTasks::Status, entry.status}});
+  if (!written) return {};
+  return {.taskLibID = TaskLibIDOf(taskID), .rigID = LineField(taskID, tblTasks::SystemID).ToInt()};
 }
 
 }  // namespace
@@ -49,13 +46,13 @@ ScheduleKey UpdateTask(int taskID, const TaskEntry& entry) {
 bool LoadTaskEntry(int taskID, TaskEntry& entry) {
   bool found = false;
   Operation(u"Sub LoadTaskEntry"_s, [&] {
-    for (const Recordset& task : Rows(Statement(taskID))) {
-      entry = {task[u"TaskName"].ToText(),
-               Format(task[u"FlatRate"].ToMoney(), u"#######0.00"_s),
-               task[u"LogBook"].ToBool(),
-               task[u"Status"].ToInt(),
-               DateText(task[u"DateTaskStarted"].ToDate()),
-               DateText(task[u"DateTaskCompleted"].ToDate())};
+    for (const Recordset& task : Rows(tblTasks::ID == taskID)) {
+      entry = {task[tblTasks::TaskName].ToText(),
+               Format(task[tblTasks::FlatRate].ToMoney(), u"#######0.00"_s),
+               task[tblTasks::LogBook].ToBool(),
+               task[tblTasks::Status].ToInt(),
+               DateText(task[tblTasks::DateTaskStarted].ToDate()),
+               DateText(task[tblTasks::DateTaskCompleted].ToDate())};
       found = true;
     }
   });
@@ -67,11 +64,11 @@ QString OriginalTaskName(int taskID) {
   return entry == 0 ? u"(custom task)"_s : TaskLibName(entry);
 }
 
-bool LineIsPart(int taskID) { return TaskLibIDOf(taskID) == 0 && LineField(taskID, u"PartID"_s).ToInt() != 0; }
+bool LineIsPart(int taskID) { return TaskLibIDOf(taskID) == 0 && LineField(taskID, tblTasks::PartID).ToInt() != 0; }
 
 bool AuditFailed(int taskID, TaskEntry& entry) {
   if (entry.dateStarted.isEmpty()) {
-    entry.dateStarted = DateText(JobDateStarted(LineField(taskID, u"JobID"_s).ToInt()));
+    entry.dateStarted = DateText(JobDateStarted(JobOfLine(taskID)));
   } else if (!entry.dateStarted.trimmed().isEmpty() && !IsValidDate(entry.dateStarted.trimmed())) {
     MsgBox(u"Invalid start date"_s);
     return true;

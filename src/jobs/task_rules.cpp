@@ -65,13 +65,11 @@ bool ModelMissingFromJob(int taskLibID, QString& message, int jobID) {
 }
 
 bool TaskOnJob(int jobID, int taskLibID) {
-  return GetNumberRecordsComplex(
-             u"Select * from tblTasks where Jobid = %1 and TaskLibId = %2"_s.arg(jobID).arg(taskLibID))
-             .ToInt() > 0;
+  return GetNumberRecordsComplex(tblTasks::JobID == jobID && tblTasks::TaskLibID == taskLibID).ToInt() > 0;
 }
 
 bool TaskRequiresParts(int taskLibID) {
-  return GetNumberRecordsComplex(u"Select * from tblTaskLibParts where TaskLibID = %1"_s.arg(taskLibID)).ToInt() > 0;
+  return GetNumberRecordsComplex(tblTaskLibParts::TaskLibID == taskLibID).ToInt() > 0;
 }
 
 bool RepackIsPossible(int rigID) {

@@ -19,8 +19,8 @@ QStringList BusinessLines() {
   return address.trimmed().isEmpty() ? QStringList() : address.split(u'\n');
 }
 
-QString PersonText(int id, const QString& field) {
-  return GetValueFromTable(u"tblPeople"_s, u"ID"_s, id, field).ToText().trimmed();
+QString PersonText(int id, const Column& field) {
+  return GetValueFromTable(tblPeople::ID, id, field).ToText().trimmed();
 }
 
 // City, state and zip, without the comma of a state that is missing.
@@ -32,38 +32,37 @@ QString CityLine(int customerID) {
 
 QStringList CustomerLines(int customerID) {
   if (!PersonExists(customerID)) return {};
-  QStringList lines = {PersonDisplayName(customerID), PersonText(customerID, u"Address1"_s),
-                       PersonText(customerID, u"Address2"_s), CityLine(customerID),
-                       PersonText(customerID, u"PhoneHome"_s)};
+  QStringList lines = {PersonDisplayName(customerID), PersonText(customerID, tblPeople::address1),
+                       PersonText(customerID, tblPeople::address2), CityLine(customerID),
+                       PersonText(customerID, tblPeople::phonehome)};
   lines.removeAll(QString());
   return lines;
 }
 
 QList<InvoiceLine> LinesOfJob(int jobID) {
   QList<InvoiceLine> lines;
-  for (const Recordset& task :
-       Rows(u"Select * from tblTasks where JobID = "_s + QString::number(jobID) + u" order by ID"_s))
-    lines << InvoiceLine{task[u"TaskName"].ToText(), task[u"FlatRate"].ToMoney(), task[u"PartID"].ToInt() != 0,
-                         task[u"IsEvent"].ToBool()};
+  for (const Recordset& task : Rows(Select(tblTasks::JobID == jobID).OrderBy(tblTasks::ID)))
+    lines << InvoiceLine{task[tblTasks::TaskName].ToText(), task[tblTasks::FlatRate].ToMoney(),
+                         task[tblTasks::PartID].ToInt() != 0, task[tblTasks::IsEvent].ToBool()};
   return lines;
 }
 
 QString DueName(const Recordset& schedule) {
-  const QString name = GetValueFromTable(u"tblTasks"_s, u"ID"_s, schedule[u"TaskID"], u"TaskName"_s).ToText();
-  return name.isEmpty() ? TaskLibName(schedule[u"TaskLibID"].ToInt()) : name;
+  const QString name = GetValueFromTable(tblTasks::ID, schedule[tblSchedules::TaskID], tblTasks::TaskName).ToText();
+  return name.isEmpty() ? TaskLibName(schedule[tblSchedules::TaskLibID].ToInt()) : name;
 }
 
 QList<InvoiceDate> DueOnRig(int rigID) {
   QList<InvoiceDate> due;
-  for (const Recordset& schedule : Rows(u"Select * from tblSchedules where RigID = "_s + QString::number(rigID)))
-    due << InvoiceDate{DueName(schedule), schedule[u"DateDue"].ToDate()};
+  for (const Recordset& schedule : Rows(tblSchedules::rigID == rigID))
+    due << InvoiceDate{DueName(schedule), schedule[tblSchedules::DateDue].ToDate()};
   return due;
 }
 
 QList<InvoiceDate> LivesOnRig(int rigID) {
   QList<InvoiceDate> lives;
-  for (const Recordset& component : Rows(u"Select * from tblComponents where Rigid = "_s + QString::number(rigID))) {
-    const int id = component[u"ID"].ToInt();
+  for (const Recordset& component : Rows(tblComponents::RigID == rigID)) {
+    const int id = component[tblComponents::ID].ToInt();
     const Date expiry = ServiceLifeExpiry(id);
     if (!expiry.IsNone()) lives << InvoiceDate{ComponentDescription(id).trimmed(), expiry};
   }

@@ -10,18 +10,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kTaskComplete = -1;  // of a line's status
+const Condition kDone = tblTaskComponents::Complete == true;
+
 /// A line never touched the component that an empty place lacks.
 bool TaskTouched(int taskID, int componentID) {
-  const QString tie =
-      u"Select * from tblTaskComponents where TaskID = %1 and CompID = %2"_s.arg(taskID).arg(componentID);
-  return componentID != 0 && !GetValueFromTableBySQL(tie, u"CompID"_s).IsEmpty();
+  const Condition tie = tblTaskComponents::TaskID == taskID && tblTaskComponents::CompID == componentID;
+  return componentID != 0 && !GetValueFromTableBySQL(tie, tblTaskComponents::CompID).IsEmpty();
 }
 
 /// When a line is a completed repack; no date otherwise.
 Date DateOfRepack(int taskID) {
-  const QString statement =
-      u"Select * from tblTasks where ID = %1 and TaskLibID = %2 and status = -1"_s.arg(taskID).arg(RepackTaskLibID);
-  return GetValueFromTableBySQL(statement, u"DateTaskCompleted"_s).ToDate();
+  const Condition repack =
+      tblTasks::ID == taskID && tblTasks::TaskLibID == RepackTaskLibID && tblTasks::Status == kTaskComplete;
+  return GetValueFromTableBySQL(repack, tblTasks::DateTaskCompleted).ToDate();
 }
 
 /// Of two completions on one day the one that was entered first counts.
@@ -29,14 +31,16 @@ bool IsLater(const Completion& done, const Completion& latest) {
   return done.date > latest.date || (done.date == latest.date && done.taskID < latest.taskID);
 }
 
-/// Hands over the completed work on components, narrowed by a condition.
+/// Hands over the completed work on components that a condition picks.
 template <typename Take>
-void ReadCompletions(const QString& condition, Take&& take) {
-  for (const Recordset& row :
-       Rows(u"Select tblTaskComponents.CompID, tblTasks.TaskLibID, tblTasks.ID, tblTasks.DateTaskCompleted "
-            "from tblTaskComponents INNER JOIN tblTasks ON tblTaskComponents.TaskID = tblTasks.ID "
-            "where tblTaskComponents.Complete = true"_s +
-            condition))
+void ReadCompletions(const Condition& which, Take&& take) {
+  const QStringList read = {tblTaskComponents::CompID, tblTasks::TaskLibID, tblTasks::ID.InTable(),
+                            tblTasks::DateTaskCompleted};
+  const QString statement = u"Select %1 from %2 INNER JOIN %3 ON %4 = %5 where "_s.arg(
+                                read.join(u", "_s), tblTaskComponents::kTable.name, tblTasks::kTable.name,
+                                tblTaskComponents::TaskID.InTable(), tblTasks::ID.InTable()) +
+                            which.Text();
+  for (const Recordset& row : Rows(statement))
     take(row.At(0).ToInt(), Completion{row.At(1).ToInt(), row.At(2).ToInt(), row.At(3).ToDate()});
 }
 
@@ -46,7 +50,7 @@ bool TaskMatchesRig(int taskID, int rigID, int taskLibID) {
   if (rigID == 0) MsgBox(u"rigID = 0. this shouldn't be"_s);
   bool matches = true;
   Operation(u"Function TaskMatchesRig"_s, [&] {
-    const int count = GetNumberRecords(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, taskLibID);
+    const int count = GetNumberRecords(tblTaskLibComponentTypes::TaskLibID, taskLibID);
     if (count == 0 || count == 2) {
       if (taskID == 0) MsgBox(u"taskid = 0"_s);
       if (taskLibID == RepackTaskLibID)
@@ -64,14 +68,13 @@ Date LastCompletionForRig(int rigID, int taskLibID, int& taskID) {
   taskID = 0;
   Operation(u"Function LastCompletionForRig"_s, [&] {
     Recordset tasks(
-        u"Select * from tblTasks where SystemID = %1 and TaskLibID = %2 and status = -1 "
-        u"order by DateTaskCompleted"_s.arg(rigID)
-            .arg(taskLibID));
+        Select(tblTasks::SystemID == rigID && tblTasks::TaskLibID == taskLibID && tblTasks::Status == kTaskComplete)
+            .OrderBy(tblTasks::DateTaskCompleted));
     if (RecordsetHasRows(tasks)) {
       for (tasks.MoveLast(); !tasks.Bof(); tasks.MovePrevious()) {
-        const int id = tasks[u"ID"].ToInt();
+        const int id = tasks[tblTasks::ID].ToInt();
         if (!TaskMatchesRig(id, rigID, taskLibID)) continue;
-        date = tasks[u"DateTaskCompleted"].ToDate();
+        date = tasks[tblTasks::DateTaskCompleted].ToDate();
         taskID = id;
         break;
       }
@@ -83,7 +86,7 @@ Date LastCompletionForRig(int rigID, int taskLibID, int& taskID) {
 QHash<int, QList<Completion>> AllCompletions() {
   QHash<int, QList<Completion>> completions;
   Operation(u"Function AllCompletions"_s, [&] {
-    ReadCompletions(QString(), [&](int component, const Completion& done) { completions[component].append(done); });
+    ReadCompletions(kDone, [&](int component, const Completion& done) { completions[component].append(done); });
   });
   return completions;
 }
@@ -98,7 +101,7 @@ Completion LatestOf(const QList<Completion>& completions, int taskLibID) {
 Date LastCompletionForComponent(int componentID, int taskLibID, int& taskID) {
   Completion latest;
   Operation(u"Function LastCompletionForComponent"_s, [&] {
-    ReadCompletions(u" and tblTaskComponents.CompID = %1 and tblTasks.TaskLibID = %2"_s.arg(componentID).arg(taskLibID),
+    ReadCompletions(kDone && tblTaskComponents::CompID == componentID && tblTasks::TaskLibID == taskLibID,
                     [&](int, const Completion& done) {
                       if (IsLater(done, latest)) latest = done;
                     });
@@ -112,8 +115,8 @@ Date LastRepackOfPair(int containerID, int reserveID, int& taskID) {
   taskID = 0;
   if (containerID == 0) return date;
   Operation(u"Function LastRepackOfPair"_s, [&] {
-    for (const Recordset& row : Rows(u"Select * from tblTaskComponents where CompID = %1"_s.arg(containerID))) {
-      const int id = row[u"TaskID"].ToInt();
+    for (const Recordset& row : Rows(tblTaskComponents::CompID == containerID)) {
+      const int id = row[tblTaskComponents::TaskID].ToInt();
       const Date done = DateOfRepack(id);
       if (done <= date || !TaskTouched(id, reserveID)) continue;
       date = done;

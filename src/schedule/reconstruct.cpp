@@ -4,6 +4,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "schedule/completions.h"
 #include "schedule/schedule.h"
 
@@ -18,23 +19,23 @@ struct Entry {
 
 QList<Entry> ScheduledEntries() {
   QList<Entry> entries;
-  for (const Recordset& task : Rows(u"Select * from tblTaskLib where IntervalType <> 0 order by ID"_s)) {
-    const int id = task[u"ID"].ToInt();
-    entries.append({id, GetNumberRecords(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, id) == 1});
+  for (const Recordset& task : Rows(Select(tblTaskLib::IntervalType != 0).OrderBy(tblTaskLib::ID))) {
+    const int id = task[tblTaskLib::ID].ToInt();
+    entries.append({id, GetNumberRecords(tblTaskLibComponentTypes::TaskLibID, id) == 1});
   }
   return entries;
 }
 
 void AddRowsOf(const Recordset& component, const QList<Completion>& completions, const QList<Entry>& entries) {
-  const int id = component[u"ID"].ToInt();
-  const bool isReserve = component[u"TypeID"].ToInt() == kReserveCanopy;
+  const int id = component[tblComponents::ID].ToInt();
+  const bool isReserve = component[tblComponents::TypeID].ToInt() == kReserveCanopy;
   for (const Entry& entry : entries) {
     if (isReserve && entry.taskLibID == RepackTaskLibID) continue;  // the container gives the rig's one row
     const Completion latest = LatestOf(completions, entry.taskLibID);
     if (latest.date.IsNone()) continue;
     int scheduleID = 0;
-    AddSchedule(component[u"RigID"].ToInt(), entry.taskLibID, latest.taskID, latest.date, entry.oneComponent ? id : 0,
-                scheduleID);
+    AddSchedule(component[tblComponents::RigID].ToInt(), entry.taskLibID, latest.taskID, latest.date,
+                entry.oneComponent ? id : 0, scheduleID);
   }
 }
 
@@ -43,10 +44,10 @@ void AddRowsOf(const Recordset& component, const QList<Completion>& completions,
 void ReconstructSchedules() {
   Operation(u"Sub ReconstructSchedules"_s, [] {
     const QList<Entry> entries = ScheduledEntries();
-    DeleteAllRecords(u"tblSchedules"_s, false);
+    DeleteAllRecords(tblSchedules::kTable, false);
     const QHash<int, QList<Completion>> completions = AllCompletions();
-    for (const Recordset& component : Rows(u"Select * from tblComponents order by TypeID"_s)) {
-      const auto found = completions.constFind(component[u"ID"].ToInt());
+    for (const Recordset& component : Rows(Select(tblComponents::kTable).OrderBy(tblComponents::TypeID))) {
+      const auto found = completions.constFind(component[tblComponents::ID].ToInt());
       if (found != completions.constEnd()) AddRowsOf(component, *found, entries);
     }
   });
@@ -55,11 +56,10 @@ void ReconstructSchedules() {
 void AuditScheduleTaskLib() {
   int updates = 0;
   const bool written = Operation(u"Sub AuditScheduleTaskLib"_s, [&] {
-    for (Recordset& row : Rows(u"Select * from tblSchedules"_s)) {
-      const Value entry = GetValueFromTable(u"tblTasks"_s, u"ID"_s, row[u"TaskID"].ToInt(), u"TaskLibID"_s);
-      if (entry.IsEmpty() || entry.ToInt() == row[u"TaskLibID"].ToInt()) continue;
-      row.Set(u"TaskLibID", entry.ToInt());
-      row.Update();
+    for (const Recordset& row : Rows(tblSchedules::kTable)) {
+      const Value entry = GetValueFromTable(tblTasks::ID, row[tblSchedules::TaskID].ToInt(), tblTasks::TaskLibID);
+      if (entry.IsEmpty() || entry.ToInt() == row[tblSchedules::TaskLibID].ToInt()) continue;
+      EditRow(tblSchedules::ID == row[tblSchedules::ID].ToInt(), {{tblSchedules::TaskLibID, entry.ToInt()}});
       ++updates;
     }
   });

@@ -26,15 +26,14 @@ const QString kUnknown = u"unknown"_s;
 QString DateCell(Date date) { return date.IsNone() ? kUnknown : Format(date, u"mm/dd/yyyy"_s); }
 
 bool FitsModel(const Recordset& entry, int componentID) {
-  const int model = entry[u"ModelID"].ToInt();
+  const int model = entry[tblTaskLib::ModelID].ToInt();
   return model == 0 || ComponentModel(componentID) == model;
 }
 
 bool FitsRigType(const Recordset& entry, int rigID) {
-  if (!entry[u"IsRigTypeSpecific"].ToBool()) return true;
-  return GetNumberRecordsComplex(
-             u"Select * from tblTaskLibRigType where TaskLibId = %1 and RigType = %2"_s.arg(entry[u"ID"].ToInt())
-                 .arg(RigType(rigID)))
+  if (!entry[tblTaskLib::IsRigTypeSpecific].ToBool()) return true;
+  return GetNumberRecordsComplex(tblTaskLibRigType::TaskLibID == entry[tblTaskLib::ID].ToInt() &&
+                                 tblTaskLibRigType::RigType == RigType(rigID))
              .ToInt() > 0;
 }
 
@@ -54,14 +53,14 @@ bool AppliesToComponent(const Recordset& entry, int componentID, const QList<int
 }
 
 RigAuditRow RowOf(const Recordset& entry, Date done, Date due) {
-  const int id = entry[u"ID"].ToInt();
-  const QString name = entry[u"Name"].ToText();
+  const int id = entry[tblTaskLib::ID].ToInt();
+  const QString name = entry[tblTaskLib::Name].ToText();
   if (due.IsNone()) return {name, kUnknown, kUnknown, kUnknown, DueMark::None, id};
   return {name, DateCell(done), DateCell(due), TimeLeftText(due), DueMarkOf(due), id};
 }
 
 RigAuditRow RowByRig(const Recordset& entry, int rigID) {
-  const int id = entry[u"ID"].ToInt();
+  const int id = entry[tblTaskLib::ID].ToInt();
   int taskID = 0;
   const Date done = LastCompletionForRig(rigID, id, taskID);
   return RowOf(entry, done, GetDueDateByRig(rigID, id));
@@ -69,7 +68,7 @@ RigAuditRow RowByRig(const Recordset& entry, int rigID) {
 
 RigAuditRow RowByComponent(const Recordset& entry, int componentID) {
   if (componentID == 0) return RowOf(entry, {}, {});
-  const int id = entry[u"ID"].ToInt();
+  const int id = entry[tblTaskLib::ID].ToInt();
   int taskID = 0;
   const Date done = LastCompletionForComponent(componentID, id, taskID);
   return RowOf(entry, done, GetDueDateByComponent(componentID, id));
@@ -78,9 +77,9 @@ RigAuditRow RowByComponent(const Recordset& entry, int componentID) {
 /// Calls a routine with each entry that has an interval, and the component types it requires.
 template <class Visit>
 void WalkEntries(Visit visit) {
-  Recordset entries(u"Select * from tblTaskLib where IntervalNumber <> 0"_s);
+  Recordset entries(tblTaskLib::IntervalNumber != 0);
   if (!RecordsetHasRows(entries)) return;
-  for (; !entries.Eof(); entries.MoveNext()) visit(entries, RequiredComponentTypes(entries[u"ID"].ToInt()));
+  for (; !entries.Eof(); entries.MoveNext()) visit(entries, RequiredComponentTypes(entries[tblTaskLib::ID].ToInt()));
 }
 
 void AppendServiceLife(QList<RigAuditRow>& rows, int componentID) {
@@ -97,12 +96,10 @@ void AppendServiceLife(QList<RigAuditRow>& rows, int componentID) {
 }
 
 void AppendServiceLives(QList<RigAuditRow>& rows, int rigID) {
-  Recordset components(u"Select * from tblComponents where Rigid = %1 order by TypeID"_s.arg(rigID));
+  Recordset components(Select(tblComponents::RigID == rigID).OrderBy(tblComponents::TypeID));
   if (!RecordsetHasRows(components)) return;
-  for (; !components.Eof(); components.MoveNext()) AppendServiceLife(rows, components[u"ID"].ToInt());
+  for (; !components.Eof(); components.MoveNext()) AppendServiceLife(rows, components[tblComponents::ID].ToInt());
 }
-
-int NumberOfSchedules(const QString& field, int id) { return GetNumberRecords(u"tblSchedules"_s, field, id); }
 
 }  // namespace
 
@@ -141,8 +138,9 @@ bool ComponentHasSchedule(int componentID) {
   bool has = false;
   Operation(u"Function ComponentHasSchedule"_s, [&] {
     const int rigID = ComponentTypeOf(componentID) == kContainer ? ComponentRig(componentID) : 0;
-    has = NumberOfSchedules(u"ComponentID"_s, componentID) > 0 ||
-          (rigID != 0 && NumberOfSchedules(u"rigID"_s, rigID) > 0) || ServiceLife(ComponentModel(componentID)) != 0;
+    has = GetNumberRecords(tblSchedules::ComponentID, componentID) > 0 ||
+          (rigID != 0 && GetNumberRecords(tblSchedules::rigID, rigID) > 0) ||
+          ServiceLife(ComponentModel(componentID)) != 0;
   });
   return has;
 }

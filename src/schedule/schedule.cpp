@@ -5,6 +5,7 @@
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/rows.h"
 #include "gear/components.h"
 #include "schedule/completions.h"
 #include "schedule/task_library.h"
@@ -13,51 +14,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString RowsOfRig(int rigID, int taskLibID) {
-  return u"Select * from tblSchedules where rigID = %1 and TaskLibId = %2"_s.arg(rigID).arg(taskLibID);
+Condition RowsOfRig(int rigID, int taskLibID) {
+  return tblSchedules::rigID == rigID && tblSchedules::TaskLibID == taskLibID;
 }
 
-QString RowsOfComponent(int componentID, int taskLibID) {
-  return u"Select * from tblSchedules where ComponentID = %1 and TaskLibId = %2"_s.arg(componentID).arg(taskLibID);
+Condition RowsOfComponent(int componentID, int taskLibID) {
+  return tblSchedules::ComponentID == componentID && tblSchedules::TaskLibID == taskLibID;
 }
 
-Date DueDateOf(const QString& statement) { return GetValueFromTableBySQL(statement, u"DateDue"_s).ToDate(); }
+Date DueDateOf(const QString& statement) { return GetValueFromTableBySQL(statement, tblSchedules::DateDue).ToDate(); }
 
-struct ScheduleRow {
-  int rigID;
-  int taskLibID;
-  Date dateDone;
-  Date dateDue;
-  int taskID;
-  int componentID;
-};
-
-ScheduleRow RollRow(int number, int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
-  const Date due = GetNextDueDate(number, IntervalType(taskLibID), dateDone);
-  return {rigID, taskLibID, dateDone, due, taskID, componentID};
-}
-
-void Write(Recordset& rows, const ScheduleRow& row) {
-  rows.Set(u"DateDone", row.dateDone);
-  rows.Set(u"DateDue", row.dateDue);
-  rows.Set(u"rigID", row.rigID);
-  rows.Set(u"TaskLibID", row.taskLibID);
-  rows.Set(u"TaskID", row.taskID);
-  rows.Set(u"ComponentID", row.componentID);
-  rows.Update();
+RowValues RollRow(int number, int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
+  return {{tblSchedules::DateDone, dateDone},
+          {tblSchedules::DateDue, GetNextDueDate(number, IntervalType(taskLibID), dateDone)},
+          {tblSchedules::rigID, rigID},
+          {tblSchedules::TaskLibID, taskLibID},
+          {tblSchedules::TaskID, taskID},
+          {tblSchedules::ComponentID, componentID}};
 }
 
 void ReplaceRow(int number, int rigID, int taskLibID, Date dateDone, int taskID, int componentID) {
   Operation(u"Sub ReplaceSchedule"_s, [&] {
     DeleteSchedule(rigID, taskLibID, componentID);
-    {
-      Recordset rows(rigID != 0 ? RowsOfRig(rigID, taskLibID) : RowsOfComponent(componentID, taskLibID));
-      const bool reused = RecordsetHasRows(rows);
-      if (reused) MsgBox(u"shouldn't this be empty?"_s);
-      const ScheduleRow row = RollRow(number, rigID, taskLibID, dateDone, taskID, componentID);
-      if (!reused) rows.AddNew();
-      Write(rows, row);
-    }
+    const Condition rows = rigID != 0 ? RowsOfRig(rigID, taskLibID) : RowsOfComponent(componentID, taskLibID);
+    const bool reused = GetNumberRecordsComplex(rows).ToInt() > 0;
+    if (reused) MsgBox(u"shouldn't this be empty?"_s);
+    const RowValues row = RollRow(number, rigID, taskLibID, dateDone, taskID, componentID);
+    if (reused)
+      EditRow(rows, row);
+    else
+      AddRow(tblSchedules::kTable, row);
   });
 }
 
@@ -98,28 +84,29 @@ void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int co
 }
 
 void DeleteSchedule(int rigID, int taskLibID, int componentID) {
-  const QString who =
-      taskLibID == RepackTaskLibID || rigID != 0 ? u"RigID = %1"_s.arg(rigID) : u"componentid = %1"_s.arg(componentID);
-  DeleteRecordsFromTableBySQL(u"Delete * from tblSchedules where %1 and TaskLibID = %2"_s.arg(who).arg(taskLibID));
+  DeleteRows(taskLibID == RepackTaskLibID || rigID != 0 ? RowsOfRig(rigID, taskLibID)
+                                                        : RowsOfComponent(componentID, taskLibID));
 }
+
+void DeleteSchedulesOfTask(int taskID) { DeleteRecordsFromTable(tblSchedules::TaskID, taskID); }
+void DeleteSchedulesOfComponent(int componentID) { DeleteRecordsFromTable(tblSchedules::ComponentID, componentID); }
+void DeleteSchedulesOfEntry(int taskLibID) { DeleteRecordsFromTable(tblSchedules::TaskLibID, taskLibID); }
 
 void AddSchedule(int rigID, int taskLibID, int taskID, Date dateDone, int componentID, int& scheduleID) {
   scheduleID = 0;
   const int number = IntervalNumber(taskLibID);
   if (number == 0) return;
   Operation(u"Sub AddSchedule"_s, [&] {
-    const ScheduleRow row = RollRow(number, rigID, taskLibID, dateDone, taskID, componentID);
-    {
-      Recordset rows(u"tblSchedules"_s);
-      rows.AddNew();
-      Write(rows, row);
-      scheduleID = rows[u"ID"].ToInt();
-    }
+    scheduleID = AddRow(tblSchedules::kTable, RollRow(number, rigID, taskLibID, dateDone, taskID, componentID));
   });
 }
 
 void RemoveComponentFromSchedule(int componentID, int rigID) {
-  DetachComponent(rigID, componentID, ComponentTypeOf(componentID));
+  Operation(u"Sub RemoveComponentFromSchedule"_s, [&] {
+    const int type = ComponentTypeOf(componentID);
+    if (type == kContainer || type == kReserveCanopy) DeleteRow(RowsOfRig(rigID, RepackTaskLibID));
+    UpdateRows(tblSchedules::rigID, 0, tblSchedules::ComponentID == componentID);
+  });
 }
 
 Date GetDueDateByComponent(int componentID, int taskLibID) {
@@ -129,15 +116,15 @@ Date GetDueDateByComponent(int componentID, int taskLibID) {
 Date GetDueDateByRig(int rigID, int taskLibID) { return DueDateOf(RowsOfRig(rigID, taskLibID)); }
 
 Date GetEarliestDueByComponent(int componentID) {
-  return DueDateOf(u"Select * from tblSchedules where ComponentID = %1 Order by DateDue"_s.arg(componentID));
+  return DueDateOf(Select(tblSchedules::ComponentID == componentID).OrderBy(tblSchedules::DateDue));
 }
 
 Date GetEarliestDueByRig(int rigID) {
-  return DueDateOf(u"Select * from tblSchedules where rigID = %1 Order by DateDue"_s.arg(rigID));
+  return DueDateOf(Select(tblSchedules::rigID == rigID).OrderBy(tblSchedules::DateDue));
 }
 
 Date GetRepackDue(int rigID, int& scheduleID) {
-  const QString statement = u"Select * from tblSchedules where rigid = %1 and taskLibID = 1"_s.arg(rigID);
-  scheduleID = GetValueFromTableBySQL(statement, u"ID"_s).ToInt();
-  return DueDateOf(statement);
+  const Condition repack = RowsOfRig(rigID, RepackTaskLibID);
+  scheduleID = GetValueFromTableBySQL(repack, tblSchedules::ID).ToInt();
+  return DueDateOf(repack);
 }

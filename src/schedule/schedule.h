@@ -20,6 +20,11 @@ void ReplaceSchedule(int rigID, int taskLibID, Date dateDone, int taskID, int co
 /// Deletes the row of a rig, or of a component when there is no rig; a repack's always by its rig.
 void DeleteSchedule(int rigID, int taskLibID, int componentID);
 
+/// The rows that came from one line of work, those of a component, those of a library entry; for what is deleted.
+void DeleteSchedulesOfTask(int taskID);
+void DeleteSchedulesOfComponent(int componentID);
+void DeleteSchedulesOfEntry(int taskLibID);
+
 /// Adds a row without deleting any; `scheduleID` is its id, 0 when the entry has no interval or the due date can't be
 /// built.
 void AddSchedule(int rigID, int taskLibID, int taskID, Date dateDone, int componentID, int& scheduleID);

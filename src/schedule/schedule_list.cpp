@@ -21,8 +21,8 @@ QString CustomerName(int owner) { return PersonExists(owner) ? PersonSortName(ow
 /// "Mirage G4.1, Optimum 143": what a line of work touched.
 QString ComponentsOfTask(int taskID) {
   QStringList names;
-  for (const Recordset& row : Rows(u"Select * from tblTaskComponents where TaskID = %1"_s.arg(taskID)))
-    names << ComponentDescription(row[u"CompID"].ToInt()).trimmed();
+  for (const Recordset& row : Rows(tblTaskComponents::TaskID == taskID))
+    names << ComponentDescription(row[tblTaskComponents::CompID].ToInt()).trimmed();
   return names.join(u", "_s);
 }
 
@@ -31,8 +31,9 @@ class Loader {
   explicit Loader(const ScheduleFilter& filter) : filter_(filter) {}
 
   QList<ScheduleEntry> Load() {
-    const QString only = filter_.taskLibID == 0 ? QString() : u" where TaskLibID = %1"_s.arg(filter_.taskLibID);
-    for (const Recordset& row : Rows(u"Select * from tblSchedules"_s + only + u" order by DateDue"_s)) AddEntry(row);
+    Select schedules =
+        filter_.taskLibID == 0 ? Select(tblSchedules::kTable) : Select(tblSchedules::TaskLibID == filter_.taskLibID);
+    for (const Recordset& row : Rows(schedules.OrderBy(tblSchedules::DateDue))) AddEntry(row);
     if (filter_.taskLibID == 0) DoComponentExpiration();
     return std::move(list_);
   }
@@ -50,13 +51,13 @@ class Loader {
   }
 
   void AddEntry(const Recordset& row) {
-    ScheduleEntry entry{.id = row[u"ID"].ToInt(),
-                        .done = row[u"DateDone"].ToDate(),
-                        .due = row[u"DateDue"].ToDate(),
-                        .taskLibID = row[u"TaskLibID"].ToInt(),
-                        .rigID = row[u"rigID"].ToInt(),
-                        .taskID = row[u"TaskID"].ToInt(),
-                        .componentID = row[u"ComponentID"].ToInt()};
+    ScheduleEntry entry{.id = row[tblSchedules::ID].ToInt(),
+                        .done = row[tblSchedules::DateDone].ToDate(),
+                        .due = row[tblSchedules::DateDue].ToDate(),
+                        .taskLibID = row[tblSchedules::TaskLibID].ToInt(),
+                        .rigID = row[tblSchedules::rigID].ToInt(),
+                        .taskID = row[tblSchedules::TaskID].ToInt(),
+                        .componentID = row[tblSchedules::ComponentID].ToInt()};
     const bool byRig = entry.rigID != 0;
     entry.ownerID = byRig ? rigOwner_(entry.rigID) : ComponentOwner(entry.componentID);
     if (!byRig) entry.rigID = ComponentRig(entry.componentID);
@@ -74,13 +75,13 @@ class Loader {
     QList<int> models;
     GetArrayOfModelsWithServiceLife(models);
     for (int model : models)
-      for (const Recordset& row : Rows(u"Select * from tblComponents where ModelID = %1"_s.arg(model))) AddEnd(row);
+      for (const Recordset& row : Rows(tblComponents::ModelID == model)) AddEnd(row);
   }
 
   void AddEnd(const Recordset& row) {
-    const int component = row[u"ID"].ToInt();
-    const int owner = row[u"OwnerID"].ToInt();
-    const int rig = row[u"RigID"].ToInt();
+    const int component = row[tblComponents::ID].ToInt();
+    const int owner = row[tblComponents::OwnerID].ToInt();
+    const int rig = row[tblComponents::RigID].ToInt();
     if (!Ok2Load(owner, rig)) return;
     const Date expiry = ServiceLifeExpiry(component);
     if (expiry.IsNone()) return;
@@ -111,7 +112,7 @@ class Loader {
 };
 
 void OfferToDeleteLostRows() {
-  for (Recordset& row : Rows(u"Select * from tblSchedules where rigid = 0 and componentID = 0"_s))
+  for (Recordset& row : Rows(tblSchedules::rigID == 0 && tblSchedules::ComponentID == 0))
     if (AskYes(Lines({u"tblSchedule - rigID = 0 and ComponentID =0"_s, u"found record.  delete it?"_s}), kProgramTitle))
       row.Delete();
 }
@@ -135,5 +136,5 @@ QString LoadComponent(int componentID) {
 
 bool DeleteScheduleEntry(int id, const QString& rigName) {
   if (id == kServiceLifeRow || !AskYes(u"Delete this item from the schedule?"_s, rigName)) return false;
-  return Operation(u"Sub DeleteScheduleEntry"_s, [&] { DeleteRecordsFromTable(u"tblSchedules"_s, u"ID"_s, id); });
+  return Operation(u"Sub DeleteScheduleEntry"_s, [&] { DeleteRecordsFromTable(tblSchedules::ID, id); });
 }

@@ -19,11 +19,12 @@ Date Cutoff(bool inDays, int number) {
 }
 
 bool HasWorkDue(int customerID, Date cutoff) {
-  Recordset rows(u"Select * from tblSCHEDULES"_s);
+  Recordset rows(tblSchedules::kTable);
   if (!RecordsetHasRows(rows)) return false;
   for (; !rows.Eof(); rows.MoveNext()) {
-    if (rows[u"DateDue"].ToDate() > cutoff) continue;
-    if (RigOwner(rows[u"rigID"].ToInt()) == customerID || ComponentOwner(rows[u"ComponentID"].ToInt()) == customerID)
+    if (rows[tblSchedules::DateDue].ToDate() > cutoff) continue;
+    if (RigOwner(rows[tblSchedules::rigID].ToInt()) == customerID ||
+        ComponentOwner(rows[tblSchedules::ComponentID].ToInt()) == customerID)
       return true;
   }
   return false;
@@ -44,7 +45,7 @@ Date ServiceLifeExpiry(int componentID) { return ComponentExpiry(componentID); }
 
 void GetArrayOfModelsWithServiceLife(QList<int>& models) {
   QList<Value> ids;
-  GetRecordsFromTableBySQL(u"Select * from tblModels where Servicelife <> 0"_s, u"ID"_s, ids);
+  GetRecordsFromTableBySQL(tblModels::ServiceLife != 0, tblModels::ID, ids);
   models.clear();
   for (const Value& id : ids) models.append(id.ToInt());
 }
@@ -55,10 +56,10 @@ void GetArrayOfCompIDWithServiceLifeThisCustomer(QList<int>& components, int cus
     QList<int> models;
     GetArrayOfModelsWithServiceLife(models);
     for (int model : models) {
-      Recordset rows(u"Select * from tblcomponents where Modelid = %1"_s.arg(model));
+      Recordset rows(tblComponents::ModelID == model);
       if (model == 0 || !RecordsetHasRows(rows)) continue;
       for (; !rows.Eof(); rows.MoveNext()) {
-        if (rows[u"OwnerID"].ToInt() == customerID) components.append(rows[u"ID"].ToInt());
+        if (rows[tblComponents::OwnerID].ToInt() == customerID) components.append(rows[tblComponents::ID].ToInt());
       }
     }
   });

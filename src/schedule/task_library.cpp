@@ -8,20 +8,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Value LibraryField(int taskLibID, const QString& field) {
-  return GetValueFromTable(u"tblTaskLib"_s, u"ID"_s, taskLibID, field);
-}
+Value LibraryField(int taskLibID, const Column& field) { return GetValueFromTable(tblTaskLib::ID, taskLibID, field); }
 
 }  // namespace
 
-QString TaskLibName(int taskLibID) { return LibraryField(taskLibID, u"Name"_s).ToText(); }
-Money TaskLibFlatRate(int taskLibID) { return LibraryField(taskLibID, u"FlatRate"_s).ToMoney(); }
-Money TaskLibHourlyRate(int taskLibID) { return LibraryField(taskLibID, u"HourlyRate"_s).ToMoney(); }
-bool TaskLibLogBook(int taskLibID) { return LibraryField(taskLibID, u"LogBook"_s).ToBool(); }
-bool TaskLibAllowMultiple(int taskLibID) { return LibraryField(taskLibID, u"AllowMultiple"_s).ToBool(); }
-bool TaskLibIsEvent(int taskLibID) { return LibraryField(taskLibID, u"IsEvent"_s).ToBool(); }
-int TaskLibModelID(int taskLibID) { return LibraryField(taskLibID, u"ModelID"_s).ToInt(); }
-bool TaskLibExists(int taskLibID) { return LibraryField(taskLibID, u"ID"_s).ToInt() != 0; }
+QString TaskLibName(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::Name).ToText(); }
+Money TaskLibFlatRate(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::Flatrate).ToMoney(); }
+Money TaskLibHourlyRate(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::HourlyRate).ToMoney(); }
+bool TaskLibLogBook(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::Logbook).ToBool(); }
+bool TaskLibAllowMultiple(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::AllowMultiple).ToBool(); }
+bool TaskLibIsEvent(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::IsEvent).ToBool(); }
+int TaskLibModelID(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::ModelID).ToInt(); }
+bool TaskLibExists(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::ID).ToInt() != 0; }
 
 QString TaskLibKind(int taskLibID) { return TaskLibIsEvent(taskLibID) ? u"event"_s : u"task"_s; }
 
@@ -36,19 +34,20 @@ bool IsFixedTask(int taskLibID) {
   return taskLibID == RepackTaskLibID || taskLibID == InstallTaskLibID || taskLibID == RemoveTaskLibID;
 }
 
-int IntervalNumber(int taskLibID) { return LibraryField(taskLibID, u"IntervalNumber"_s).ToInt(); }
-int IntervalType(int taskLibID) { return LibraryField(taskLibID, u"IntervalType"_s).ToInt(); }
+int IntervalNumber(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::IntervalNumber).ToInt(); }
+int IntervalType(int taskLibID) { return LibraryField(taskLibID, tblTaskLib::IntervalType).ToInt(); }
 
 QList<int> RequiredComponentTypes(int taskLibID) {
   QList<int> types;
-  GetRecordsFromTable(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, taskLibID, u"ComponentTypeID"_s, types);
+  GetRecordsFromTable(tblTaskLibComponentTypes::TaskLibID, taskLibID, tblTaskLibComponentTypes::ComponentTypeID, types);
   if (types.first() == 0) types.clear();
   return types;
 }
 
 void GetComponentTypesForTask(QList<int>& types, int taskLibID) {
   if (const int model = TaskLibModelID(taskLibID); model != 0)
-    types = {GetValueFromTable(u"tblModels"_s, u"ID"_s, model, u"TypeID"_s).ToInt()};
+    types = {GetValueFromTable(tblModels::ID, model, tblModels::TypeID).ToInt()};
   else
-    GetRecordsFromTable(u"tblTaskLibComponentTypes"_s, u"TaskLibID"_s, taskLibID, u"ComponentTypeID"_s, types);
+    GetRecordsFromTable(tblTaskLibComponentTypes::TaskLibID, taskLibID, tblTaskLibComponentTypes::ComponentTypeID,
+                        types);
 }

@@ -80,15 +80,72 @@ def shown_tables(text):
 
 
 def store_faults(path, text):
-    """Screens ask rules for values: they neither read nor write the store, and name a table only to say what they show.
-    (The screens of jobs are on their way there.)"""
-    if not re.search(r"^src/.*/(screens|shell)/.*\.(cpp|h)$", path) or path.startswith("src/jobs/screens/"):
+    """Screens ask rules for values: they neither read nor write the store, and name a table only to say what they show."""
+    if not re.search(r"^src/.*/(screens|shell)/.*\.(cpp|h)$", path):
         return
     shown = list(shown_tables(text))
-    for found in re.finditer(r'#\s*include\s*"core/store/(access|recordset)\.h"|"[^"\n]*\btbl\w+', text, re.IGNORECASE):
+    for found in re.finditer(r'#\s*include\s*"core/store/(access|recordset|rows|statement)\.h"|\btbl\w+', text,
+                             re.IGNORECASE):
         if not any(found.start() in place for place in shown):
             number = text.count("\n", 0, found.start()) + 1
             yield f"{path}:{number}: {found.group()}: screens leave the tables to the rules"
+
+
+# Rules include their own subsystem and those below it.
+BELOW = {"core": [], "gear": ["core"], "schedule": ["core", "gear"], "dbcare": ["core", "gear"],
+         "jobs": ["core", "gear", "schedule"], "history": ["core", "gear", "schedule", "jobs"],
+         "reports": ["core", "gear", "schedule", "jobs"]}
+
+
+def layer_faults(path, text):
+    found = re.search(r"^src/(\w+)/\w+\.(cpp|h)$", path)
+    subsystem = found.group(1) if found else ""
+    if subsystem not in BELOW or path.endswith("/screens.h"):
+        return
+    for number, line in enumerate(text.splitlines(), 1):
+        included = re.match(r'\s*#\s*include\s*"(\w+)/', line)
+        if included and included.group(1) not in BELOW[subsystem] + [subsystem]:
+            yield f"{path}:{number}: {subsystem} stands below {included.group(1)}"
+
+
+# Who writes a table. What lets off: the store itself, and the fixed rows that it starts with.
+OWNERS = {
+    **{table: "gear" for table in ("tblComponents", "tblComponentTypes", "tblManufacturers", "tblModels", "tblPeople",
+                                   "tblLocation", "tblRig", "tblRigTypes", "tblRigTypeComponents", "tblPhotos")},
+    "tblSchedules": "schedule",
+    **{table: "jobs" for table in ("tblJobs", "tblJobComponents", "tblTaskLib", "tblTaskLibComponentTypes",
+                                   "tblTaskLibParts", "tblTaskLibRigType", "tblRepackByModel", "tblRepackByType",
+                                   "tblMoney")},
+    "tblTasks": "jobs|schedule/jobless_task",
+    "tblTaskComponents": "jobs|schedule/jobless_task",
+}
+WRITES = r"\b(?:AddRow|EditRow|DeleteRow|DeleteRows|UpdateRows|UpdateTable|DeleteRecordsFromTable|DeleteAllRecords)\(\s*"
+
+
+def owner_faults(path, text):
+    """A table is written by its owner; who wants it changed asks the owner's rule."""
+    if not re.search(r"^src/.*\.(cpp|h)$", path) or re.search(r"^src/core/(store/|default_rows)", path):
+        return
+    for found in re.finditer(WRITES + r"(?:\w+,\s*\{\{)?(\w+)::", text):
+        owner = OWNERS.get(found.group(1))
+        if owner and not re.search(rf"^src/({owner})", path):
+            number = text.count("\n", 0, found.start()) + 1
+            yield f"{path}:{number}: {found.group(1)} is written by {owner.split('|')[0]}"
+    if path == "src/gear/person_email.cpp":  # a box shows the very statement
+        return
+    for found in re.finditer(r"\.(AddNew|Update)\(\)|\b(UpdateTable|DeleteRecordsFromTable)BySQL\(", text):
+        number = text.count("\n", 0, found.start()) + 1
+        yield f"{path}:{number}: {found.group().strip('.')}: write rows through AddRow, EditRow, UpdateRows, DeleteRows"
+
+
+# Column names stand in tables.h alone; a statement is made of them.
+def statement_faults(path, text):
+    if not re.search(r"^src/.*\.(cpp|h)$", path) or path.startswith("src/core/store/"):
+        return
+    for number, line in enumerate(text.splitlines(), 1):
+        if found := re.search(r'"(select \*|select \w+ from|update \w+ set|delete \* from|tbl\w+")|\[u"\w+"\]', line,
+                              re.IGNORECASE):
+            yield f"{path}:{number}: {found.group()}: make it of core/store/tables.h and statement.h"
 
 
 def property_of(widget, name):
@@ -133,6 +190,9 @@ def faults_of(root, clang_format):
         yield from line_faults(path, text)
         yield from include_faults(path, text)
         yield from store_faults(path, text)
+        yield from layer_faults(path, text)
+        yield from owner_faults(path, text)
+        yield from statement_faults(path, text)
         yield from form_faults(path, text)
     yield from format_faults(root, paths, clang_format)
 

@@ -31,10 +31,10 @@ class CheckFieldsTest : public QObject {
     CheckAllFields(false);
     Bracket bracket;
     for (const SchemaTable& table : Schema()) {
-      Recordset records(QString::fromLatin1(table.name));
-      QCOMPARE(records.Fields().size(), table.fields.size());
-      for (const SchemaField& field : table.fields) {
-        const QString name = QString::fromLatin1(field.name);
+      Recordset records(table.table);
+      QCOMPARE(records.Fields().size(), table.columns.size());
+      for (const Column& field : table.columns) {
+        const QString name = field;
         QCOMPARE(records.FieldType(name), field.type);
         if (field.type == jet::kText)
           QCOMPARE(records.Fields()[static_cast<size_t>(records.ColumnOf(name))].size,

@@ -6,6 +6,7 @@
 #include "gear/component_rules.h"
 #include "gear/components.h"
 #include "gear/models.h"
+#include "schedule/schedule.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"
@@ -36,7 +37,8 @@ class TestComponentEdges : public QObject {
     for (const int taskLib : {50, int{RepackTaskLibID}})
       loft.Add(u"tblSchedules"_s, {{u"rigID"_s, 4}, {u"TaskLibID"_s, taskLib}, {u"ComponentID"_s, 0}});
     loft.Add(u"tblSchedules"_s, {{u"rigID"_s, 4}, {u"TaskLibID"_s, 51}, {u"ComponentID"_s, 9}});
-    DetachComponent(4, 9, kReserveCanopy);
+    loft.Add(u"tblComponents"_s, {{u"ID"_s, 9}, {u"TypeID"_s, int{kReserveCanopy}}});
+    RemoveComponentFromSchedule(9, 4);
     QCOMPARE(loft.Rows(u"select TaskLibID, rigID from tblSchedules"_s), (QStringList{u"50|4"_s, u"51|0"_s}));
   }
 

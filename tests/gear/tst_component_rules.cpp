@@ -8,6 +8,8 @@
 #include "gear/person_names.h"
 #include "gear/rig_rules.h"
 #include "gear/rigs.h"
+#include "jobs/gear_deletion.h"
+#include "schedule/gear_moves.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"

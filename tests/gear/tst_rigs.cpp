@@ -9,6 +9,8 @@
 #include "gear/rig_type_rules.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
+#include "jobs/gear_deletion.h"
+#include "schedule/gear_moves.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"

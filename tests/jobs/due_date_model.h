@@ -9,6 +9,7 @@
 #include <set>
 
 #include "core/date.h"
+#include "schedule/gear_moves.h"
 
 /// The rules of due dates, written down a second time, in memory and as plainly as they can be told. It shares nothing
 /// with the program's rules but the type of a date: whoever changes one has to change the other.

@@ -16,6 +16,7 @@
 #include "jobs/rig_sync.h"
 #include "jobs/sample_job.h"
 #include "jobs/task_edit.h"
+#include "schedule/gear_moves.h"
 #include "schedule/reconstruct.h"
 #include "schedule/schedule.h"
 #include "schedule/scheduled_task.h"
@@ -243,7 +244,7 @@ class RandomWork : public SampleRig {
         break;
       case Action::TakeOut:
         if (model_.components.at(part).rig != 0) {
-          DetachComponent(model_.components.at(part).rig, part, model_.components.at(part).type);
+          RemoveComponentFromSchedule(part, model_.components.at(part).rig);
           InstallComponent(0, part, owner);
           model_.Detach(part);
         }

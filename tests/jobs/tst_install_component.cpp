@@ -176,7 +176,7 @@ class TestInstallComponent : public QObject {
     GearShop shop;
     SetRigName(shop.rig, u"Olaf's \"%1\""_s.arg(QString(38, u'x')));
     QVERIFY(Install(shop, shop.spare));
-    const QString name = LineField(LinesOfJob(shop.job).first(), u"TaskName"_s).ToText();
+    const QString name = LineField(LinesOfJob(shop.job).first(), tblTasks::TaskName).ToText();
     QCOMPARE(name, (u"Install AAD Argus  to Olaf's \""_s + QString(38, u'x')).left(50));
     QCOMPARE(name.size(), kJobTextLength);
   }

@@ -128,8 +128,8 @@ class TestLibrary : public QObject {
     entry.logBook = false;
     shop.prompts.ExpectBox(u"Done"_s, u"Task type updated"_s);
     QCOMPARE(SaveTaskType(entry, id), EntrySaved::Saved);
-    for (int line : {first, second}) QCOMPARE(LineField(line, u"LogBook"_s).ToBool(), false);
-    QCOMPARE(LineField(other, u"LogBook"_s).ToBool(), true);
+    for (int line : {first, second}) QCOMPARE(LineField(line, tblTasks::LogBook).ToBool(), false);
+    QCOMPARE(LineField(other, tblTasks::LogBook).ToBool(), true);
   }
 
   void ATaskNeedsAName() {

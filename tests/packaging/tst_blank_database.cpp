@@ -47,7 +47,7 @@ void TestBlankDatabase::LacksNothing() {
 void TestBlankDatabase::HoldsNoRow() {
   QVERIFY(!Schema().empty());
   for (const SchemaTable& table : Schema())
-    QVERIFY2(GetNumberRecordsInTable(QString::fromLatin1(table.name)) == 0, table.name);
+    QVERIFY2(GetNumberRecordsInTable(table.table) == 0, qPrintable(QString(table.table)));
 }
 
 void TestBlankDatabase::LeavesNoJournal() { QVERIFY(!QFile::exists(QStringLiteral(BLANK_DATABASE) + u"-journal"_s)); }

@@ -12,11 +12,9 @@ class StoreFixture {
     ConnectionString = ConnectionStringFor(Path());
     Bracket bracket;
     for (const SchemaTable& table : Schema()) {
-      const QString name = QString::fromLatin1(table.name);
-      CreateTable(name, QString::fromLatin1(table.key.name), table.key.type, table.autoIncrement);
-      for (const SchemaField& field : table.fields)
-        if (qstricmp(field.name, table.key.name) != 0)
-          AppendField(name, QString::fromLatin1(field.name), field.type, field.size);
+      CreateTable(table.table, table.key, table.key.type, table.autoIncrement);
+      for (const Column& column : table.columns)
+        if (column.name != table.key.name) AppendField(table.table, column, column.type, column.size);
     }
     CreateIndexes();
   }

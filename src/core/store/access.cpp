@@ -114,6 +114,10 @@ Value GetValueFromTable(const QString& tableName, const QString& keyField, const
   return ReadByKey(u"Function GetValueFromTable "_s, tableName, keyField, key, key, returnField);
 }
 
+Value GetValueFromTable(const Column& keyField, const Value& keyValue, const Column& returnField) {
+  return GetValueFromTable(keyField.table.toString(), keyField, keyValue, returnField);
+}
+
 Value GetValueFromTableString(const QString& tableName, const QString& keyField, const QString& keyValue,
                               const QString& returnField) {
   return ReadByKey(u"Function GetValueFromTableString "_s, tableName, keyField, u'\'' + keyValue + u'\'', keyValue,
@@ -138,6 +142,10 @@ void GetRecordsFromTable(const QString& tableName, const QString& keyField, cons
       [&] { return LookupDetails(statement, tableName, keyField, key, returnField); });
 }
 
+void GetRecordsFromTable(const Column& keyField, const Value& keyValue, const Column& returnField, QList<int>& array) {
+  GetRecordsFromTable(keyField.table.toString(), keyField, keyValue, returnField, array);
+}
+
 void GetRecordsFromTableBySQL(const QString& mySQL, const QString& returnField, QList<Value>& array) {
   TrapWith(
       u"Function GetRecordsFromTableBySQL"_s,
@@ -155,6 +163,10 @@ int GetNumberRecordsInTable(const QString& tableName) {
 
 int GetNumberRecords(const QString& tableName, const QString& keyField, const Value& keyValue) {
   return CountOf(WhereStatement(tableName, keyField, keyValue.ToText(), u"*"_s)).ToInt();
+}
+
+int GetNumberRecords(const Column& keyField, const Value& keyValue) {
+  return GetNumberRecords(keyField.table.toString(), keyField, keyValue);
 }
 
 Value GetNumberRecordsComplex(const QString& mySQL) {
@@ -179,6 +191,10 @@ void UpdateTable(const QString& tableName, const QString& fieldName, const Value
       [&] { return ActionDetails(statement); }, OnFailure::LeaveConnectionOpen);
 }
 
+void UpdateTable(const Column& field, const Value& newValue, const Column& keyField, const Value& keyValue) {
+  UpdateTable(field.table.toString(), field, newValue, keyField, keyValue);
+}
+
 void UpdateTableBySQL(const QString& mySQL) { Execute(u"Sub UpdateTableBySQL(MySQL)"_s, mySQL); }
 
 void DeleteRecordsFromTable(const QString& tableName, const QString& keyField, const Value& keyValue) {
@@ -186,7 +202,29 @@ void DeleteRecordsFromTable(const QString& tableName, const QString& keyField, c
           u"Delete * from "_s + tableName + u" where "_s + keyField + u" = "_s + keyValue.ToText());
 }
 
+void DeleteRecordsFromTable(const Column& keyField, const Value& keyValue) {
+  DeleteRecordsFromTable(keyField.table.toString(), keyField, keyValue);
+}
+
 void DeleteRecordsFromTableBySQL(const QString& mySQL) { Execute(u"Sub DeleteRecordsFromTableBySQL(MySQL)"_s, mySQL); }
+
+void DeleteRows(const Condition& which) {
+  DeleteRecordsFromTableBySQL(u"Delete * from "_s % which.TableName() % u" where "_s % which.Text());
+}
+
+namespace {
+
+QString Setting(const Column& column, const Value& newValue) {
+  return u"Update "_s % column.table % u" set "_s % column.name % u" = "_s % Literal(newValue);
+}
+
+}  // namespace
+
+void UpdateRows(const Column& column, const Value& newValue) { UpdateTableBySQL(Setting(column, newValue)); }
+
+void UpdateRows(const Column& column, const Value& newValue, const Condition& which) {
+  UpdateTableBySQL(Setting(column, newValue) + u" where "_s + which.Text());
+}
 
 void DeleteAllRecords(const QString& tableName, bool ask) {
   if (ask && !AskYes(u"Delete "_s + tableName + u"?"_s, kProgramTitle)) return;
@@ -198,8 +236,8 @@ void DeleteAllRecords(const QString& tableName, bool ask) {
 void TurnOffAllLocationDefaults() {
   Trap(u"Sub TurnOffAllLocationDefaults"_s, [] {
     Bracket bracket;
-    for (Recordset& location : Rows(u"tblLocation"_s)) {
-      location.Set(u"Default", false);
+    for (Recordset& location : Rows(tblLocation::kTable)) {
+      location.Set(tblLocation::Default, false);
       location.Update();
     }
     bracket.Close();

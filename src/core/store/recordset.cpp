@@ -8,6 +8,10 @@
 
 using namespace Qt::StringLiterals;
 
+const QString kNoCurrentRecord =
+    u"Either BOF or EOF is True, or the current record has been deleted. "
+    "Requested operation requires a current record."_s;
+
 Recordset::Recordset(const QString& source) : database_(&OpenDatabase()), source_(source) {
   prepared_ = database_->Take(source);
   if (!prepared_->isQuery) {
@@ -74,10 +78,7 @@ void Recordset::MoveFirst() {
 
 void Recordset::MoveNext() {
   Arrive();
-  if (Eof())
-    throw Failure(
-        u"Either BOF or EOF is True, or the current record has been deleted. "
-        "Requested operation requires a current record."_s);
+  if (Eof()) throw Failure(kNoCurrentRecord);
   if (IsStreaming()) streamedRow_ = database_->Step(prepared_->handle);
   ++at_;
 }
@@ -152,9 +153,7 @@ void Recordset::Freeze() {
 
 const Recordset::Row& Recordset::Current() const {
   if (at_ < 0 || at_ >= static_cast<qsizetype>(rows_.size()) || rows_[static_cast<size_t>(at_)].deleted)
-    throw Failure(
-        u"Either BOF or EOF is True, or the current record has been deleted. "
-        "Requested operation requires a current record."_s);
+    throw Failure(kNoCurrentRecord);
   return rows_[static_cast<size_t>(at_)];
 }
 
@@ -163,6 +162,16 @@ Recordset::Row& Recordset::Current() { return const_cast<Row&>(std::as_const(*th
 int Recordset::ColumnOf(QStringView field) const { return ColumnOfField(Fields(), field); }
 
 Value Recordset::operator[](QStringView field) const { return At(ColumnOf(field)); }
+
+/// The rows of several tables hold the columns of each.
+bool Recordset::Holds(const Column& column) const {
+  return table_.isEmpty() || column.table.compare(table_, Qt::CaseInsensitive) == 0;
+}
+
+Value Recordset::operator[](const Column& column) const {
+  Q_ASSERT_X(Holds(column), qPrintable(table_), qPrintable(QString(column)));
+  return At(ColumnOf(column.name));
+}
 
 Value Recordset::At(int column) const {
   if (edits_)
@@ -195,6 +204,11 @@ void Recordset::Set(QStringView field, const Value& value) {
     }
   }
   edits_->emplace_back(column, value);
+}
+
+void Recordset::Set(const Column& column, const Value& value) {
+  Q_ASSERT_X(Holds(column), qPrintable(table_), qPrintable(QString(column)));
+  Set(column.name, value);
 }
 
 void Recordset::Update() {

@@ -6,7 +6,11 @@
 #include <vector>
 
 #include "core/store/database.h"
+#include "core/store/tables.h"
 #include "core/value.h"
+
+/// What reading or writing says where no row is.
+extern const QString kNoCurrentRecord;
 
 /// The rows of a select or of a bare table name, over the shared connection: static (what others write meanwhile does
 /// not show), updatable in place when it stands on one table. It must not outlive the routine that opened it.
@@ -30,6 +34,7 @@ class Recordset {
 
   /// The current row's value of a field, by name without regard to case.
   Value operator[](QStringView field) const;
+  Value operator[](const Column& column) const;
   Value At(int column) const;
   int FieldType(QStringView field) const;  ///< ADO's number
   int FieldType(int column) const;
@@ -40,6 +45,7 @@ class Recordset {
   /// Starts a new row; its fields are null until they are set. Update writes it and makes it the current row.
   void AddNew();
   void Set(QStringView field, const Value& value);
+  void Set(const Column& column, const Value& value);
   void Update();
   /// Deletes the current row; the row can't be read any more, MoveNext goes to the one behind it.
   void Delete();
@@ -53,6 +59,7 @@ class Recordset {
     bool deleted = false;
   };
 
+  bool Holds(const Column& column) const;
   void Freeze();        // reads the rest, so that the statement can be given back
   void Drop();          // the transaction is taken back: what was not read yet can't be read any more
   void LoseDatabase();  // the file is let go of

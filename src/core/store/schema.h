@@ -3,21 +3,17 @@
 
 #include <vector>
 
-/// The tables and fields of the database, in the order in which an older file is checked against them.
+#include "core/store/tables.h"
+
+/// The tables and columns of the database, in the order in which an older file is checked against them.
 /// The file has no foreign keys, no unique indexes and no cascades: all referential care is in the routines.
 
-struct SchemaField {
-  const char* name;
-  int type;      ///< ADO's number, see jet::FieldType
-  int size = 0;  ///< of a text, 0 for the store's default of 255
-};
-
 struct SchemaTable {
-  const char* name;
-  /// The field with which a missing table is created; the others follow by the field check.
-  SchemaField key;
+  Table table;
+  /// The column with which a missing table is created; the others follow by the field check.
+  Column key;
   bool autoIncrement;
-  std::vector<SchemaField> fields;
+  std::vector<Column> columns;
 };
 
 const std::vector<SchemaTable>& Schema();

@@ -1,17 +1,20 @@
 #include "core/default_rows.h"
 #include "core/picker.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "gear/catalogue.h"
 #include "gear/component_types.h"
 #include "gear/location_rules.h"
 #include "gear/models.h"
-#include "gear/person_deletion.h"
 #include "gear/person_names.h"
 #include "gear/person_record.h"
 #include "gear/picker_rows.h"
 #include "gear/rig_rules.h"
 #include "gear/rig_type_rules.h"
 #include "gear/screens.h"
+#include "jobs/gear_deletion.h"
+#include "jobs/person_deletion.h"
+#include "schedule/gear_moves.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +44,7 @@ PickerKind Customers() {
                 rows.Add(u"(add new)"_s, kPickAddNewPerson);
                 return rows;
               },
-          .tables = {u"tblPeople"_s},
+          .tables = {tblPeople::kTable},
           .cancelIsExit = true,
           .chosen = SetLastCustomerID,
           .find = FindPersonByTypedName,
@@ -65,7 +68,7 @@ PickerKind Customers() {
 PickerKind Riggers() {
   return {.title = Fixed(u"Select Rigger"_s),
           .rows = Without(PickerRiggers),
-          .tables = {u"tblPeople"_s, u"tblMisc"_s},
+          .tables = {tblPeople::kTable, tblMisc::kTable},
           .cancelIsExit = true,
           .defaultCaption = u"Save as default rigger"_s,
           .tellUnmatched = [](const QString& typed) {
@@ -85,7 +88,7 @@ PickerKind Models() {
                 return type == 0 ? WithFirst(u"(add new model)"_s, LoadModels(kMisc))
                                  : WithFirst(u"(add new)"_s, LoadModels(type));
               },
-          .tables = {u"tblModels"_s},
+          .tables = {tblModels::kTable},
           .offersToAdd = true,
           .noun = [](int type) { return ComponentTypeName(type > 0 ? type : int{kMisc}); },
           .whole = u"database"_s,
@@ -97,7 +100,7 @@ PickerKind Models() {
 PickerKind Locations() {
   return {.title = Fixed(u"Select Location"_s),
           .rows = Without(PickerLocations),
-          .tables = {u"tblLocation"_s},
+          .tables = {tblLocation::kTable},
           .defaultCaption = u"Save as default location"_s,
           .offersToAdd = true,
           .noun = Fixed(u"location"_s),
@@ -114,7 +117,7 @@ PickerKind Locations() {
 PickerKind Rigs() {
   return {.title = Fixed(u"Select System"_s),
           .rows = [](int) { return WithFirst(u"(add new)"_s, PickerRigs()); },
-          .tables = {u"tblRig"_s},
+          .tables = {tblRig::kTable},
           .remove = [](int id) { return ConfirmRigDeletion(id) && DeleteRig(id); },
           .removeAsks = true};
 }
@@ -122,7 +125,7 @@ PickerKind Rigs() {
 PickerKind RigTypes() {
   return {.title = Fixed(u"Select Rig Type"_s),
           .rows = Without(LoadRigTypesById),
-          .tables = {u"tblRigTypes"_s},
+          .tables = {tblRigTypes::kTable},
           .remove = [](int id) { return DeleteRigType(id) == RigTypeDeletion::Deleted; },
           .removeAsks = true};
 }
@@ -130,7 +133,7 @@ PickerKind RigTypes() {
 PickerKind ComponentTypes() {
   return {.title = Fixed(u"Select Component Type"_s),
           .rows = Without(LoadComponentTypes),
-          .tables = {u"tblComponentTypes"_s},
+          .tables = {tblComponentTypes::kTable},
           .tellUnmatched =
               [](const QString& typed) {
                 MsgBox(Lines({u"There isn't a component type called "_s + typed, QString(),
@@ -145,7 +148,7 @@ PickerKind GearReports() {
   return {
       .title = Fixed(u"Select Gear List Report"_s),
       .rows = Without(PickerGearReports),
-      .tables = {u"tblGearReports"_s},
+      .tables = {TblGearReports::kTable},
       .tellUnmatched =
           [](const QString& typed) { MsgBox(u"There isn't a gear list named '"_s + typed + u'\'', u"Sorry....."_s); },
       .removeQuestion = u"Are you sure you want to delete this report?"_s};

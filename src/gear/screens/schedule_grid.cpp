@@ -1,6 +1,7 @@
 #include "gear/screens/schedule_grid.h"
 
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "core/widgets/grid.h"
 
 using namespace Qt::StringLiterals;
@@ -28,8 +29,9 @@ void ScheduleGrid::SetUp(Grid& grid) {
 }
 
 QStringList ScheduleGrid::ShowsTables() {
-  return {u"tblSchedules"_s, u"tblTaskLib"_s,    u"tblTaskLibComponentTypes"_s, u"tblTaskLibRigType"_s, u"tblTasks"_s,
-          u"tblRig"_s,       u"tblComponents"_s, u"tblTaskComponents"_s,        u"tblModels"_s};
+  return {tblSchedules::kTable,      tblTaskLib::kTable,        tblTaskLibComponentTypes::kTable,
+          tblTaskLibRigType::kTable, tblTasks::kTable,          tblRig::kTable,
+          tblComponents::kTable,     tblTaskComponents::kTable, tblModels::kTable};
 }
 
 void ScheduleGrid::Fill(Grid& grid, const QList<RigAuditRow>& audit) {

@@ -5,6 +5,7 @@
 #include "core/format.h"
 #include "core/lists.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/components.h"
 #include "gear/models.h"
@@ -74,9 +75,18 @@ frmHistoryForm::frmHistoryForm() : ui_(std::make_unique<Ui::frmHistoryForm>()) {
 frmHistoryForm::~frmHistoryForm() = default;
 
 QStringList frmHistoryForm::ShowsTables() const {
-  return {u"tblTasks"_s,         u"tblTaskComponents"_s, u"tblJobs"_s, u"tblComponents"_s,        u"tblModels"_s,
-          u"tblManufacturers"_s, u"tblComponentTypes"_s, u"tblRig"_s,  u"tblRigTypeComponents"_s, u"tblPeople"_s,
-          u"tblTaskLib"_s,       u"tblLocation"_s};
+  return {tblTasks::kTable,
+          tblTaskComponents::kTable,
+          tblJobs::kTable,
+          tblComponents::kTable,
+          tblModels::kTable,
+          tblManufacturers::kTable,
+          tblComponentTypes::kTable,
+          tblRig::kTable,
+          tblRigTypeComponents::kTable,
+          tblPeople::kTable,
+          tblTaskLib::kTable,
+          tblLocation::kTable};
 }
 
 void frmHistoryForm::SetUpGrid() {

@@ -4,6 +4,7 @@
 #include "core/clock.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/tables.h"
 #include "gear/components.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
@@ -71,7 +72,7 @@ void frmHistoryForm::ShowJob() {
   const auto line = Selected();
   if (!line) return;
   const int task = line->taskID;
-  const int job = LineField(task, u"JobID"_s).ToInt();
+  const int job = JobOfLine(task);
   if (job > 0) {
     TellDifferentOwner(job, view_.personID);
     GotoJob(job);

@@ -2,6 +2,7 @@
 
 #include "core/lists.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "jobs/library_entry.h"
 #include "jobs/screens.h"
@@ -27,7 +28,7 @@ frmEventLib::frmEventLib() : ui_(std::make_unique<Ui::frmEventLib>()) {
 
 frmEventLib::~frmEventLib() = default;
 
-QStringList frmEventLib::ShowsTables() const { return {u"tblTaskLib"_s, u"tblComponentTypes"_s}; }
+QStringList frmEventLib::ShowsTables() const { return {tblTaskLib::kTable, tblComponentTypes::kTable}; }
 
 void frmEventLib::ReloadForm() {
   if (taskLibID_ != 0 && !TaskLibExists(taskLibID_))

@@ -6,11 +6,12 @@
 #include "core/clock.h"
 #include "core/dates.h"
 #include "core/prompts.h"
-#include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/store/tables.h"
 #include "core/trap.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/components.h"
+#include "gear/person_record.h"
 #include "gear/rigs.h"
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
@@ -48,7 +49,7 @@ const QStringList kJobItems = {u"Reserve Repack"_s,
 /// Remembers what is shown, for the screens that open on it.
 void RememberShown(const JobContext& job, int componentID) {
   SetLastJobID(job.jobID);
-  UpdateTableBySQL(u"update tblMisc set LastCustomerID = %1"_s.arg(job.customerID));
+  SetLastCustomerID(job.customerID);
   if (job.rigID != 0) SetLastSystemID(job.rigID);
   if (componentID != 0) SetLastComponentID(componentID);
 }
@@ -75,8 +76,9 @@ frmJob::frmJob() : ui_(std::make_unique<Ui::frmJob>()), txtAny_(new QLineEdit(th
 frmJob::~frmJob() = default;
 
 QStringList frmJob::ShowsTables() const {
-  return {u"tblJobs"_s,           u"tblTasks"_s, u"tblJobComponents"_s,     u"tblComponents"_s, u"tblModels"_s,
-          u"tblComponentTypes"_s, u"tblRig"_s,   u"tblRigTypeComponents"_s, u"tblPeople"_s,     u"tblLocation"_s};
+  return {tblJobs::kTable,   tblTasks::kTable,          tblJobComponents::kTable, tblComponents::kTable,
+          tblModels::kTable, tblComponentTypes::kTable, tblRig::kTable,           tblRigTypeComponents::kTable,
+          tblPeople::kTable, tblLocation::kTable};
 }
 
 void frmJob::ConnectControls() {

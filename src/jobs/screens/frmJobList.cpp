@@ -7,8 +7,8 @@
 #include "core/clock.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/tables.h"
 #include "gear/people.h"
-#include "gear/person_deletion.h"
 #include "gear/person_names.h"
 #include "gear/person_record.h"
 #include "gear/rig_rules.h"
@@ -17,6 +17,7 @@
 #include "gear/screens.h"
 #include "jobs/delete_job.h"
 #include "jobs/job_records.h"
+#include "jobs/person_deletion.h"
 #include "jobs/screens/gear_grid.h"
 #include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmJobList.h"
@@ -60,9 +61,9 @@ frmJobList::frmJobList() : ui_(std::make_unique<Ui::frmJobList>()) {
 frmJobList::~frmJobList() = default;
 
 QStringList frmJobList::ShowsTables() const {
-  return {u"tblJobs"_s,          u"tblTasks"_s,      u"tblTaskLib"_s,          u"tblPeople"_s,
-          u"tblJobComponents"_s, u"tblComponents"_s, u"tblModels"_s,           u"tblComponentTypes"_s,
-          u"tblRig"_s,           u"tblRigTypes"_s,   u"tblRigTypeComponents"_s};
+  return {tblJobs::kTable,          tblTasks::kTable,      tblTaskLib::kTable,          tblPeople::kTable,
+          tblJobComponents::kTable, tblComponents::kTable, tblModels::kTable,           tblComponentTypes::kTable,
+          tblRig::kTable,           tblRigTypes::kTable,   tblRigTypeComponents::kTable};
 }
 
 void frmJobList::BuildMenus() {

@@ -2,6 +2,7 @@
 
 #include "core/lists.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmMiscTask.h"
 
@@ -19,7 +20,7 @@ frmMiscTask::frmMiscTask() : ui_(std::make_unique<Ui::frmMiscTask>()) {
 
 frmMiscTask::~frmMiscTask() = default;
 
-QStringList frmMiscTask::ShowsTables() const { return {u"tblComponentTypes"_s}; }
+QStringList frmMiscTask::ShowsTables() const { return {tblComponentTypes::kTable}; }
 
 void frmMiscTask::ReloadForm() { RefillList(*ui_->lstComps, LoadComponentTypes()); }
 

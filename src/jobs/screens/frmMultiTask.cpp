@@ -1,6 +1,7 @@
 #include "jobs/screens/frmMultiTask.h"
 
 #include "core/lists.h"
+#include "core/store/tables.h"
 #include "jobs/screens.h"
 #include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmMultiTask.h"
@@ -29,7 +30,7 @@ frmMultiTask::frmMultiTask() : ui_(std::make_unique<Ui::frmMultiTask>()) {
 
 frmMultiTask::~frmMultiTask() = default;
 
-QStringList frmMultiTask::ShowsTables() const { return {u"tblTaskLib"_s}; }
+QStringList frmMultiTask::ShowsTables() const { return {tblTaskLib::kTable}; }
 
 QList<int> frmMultiTask::Ticked() const { return ui_->lstTasks->TickedData(); }
 

@@ -4,6 +4,7 @@
 #include "core/dates.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
@@ -40,7 +41,7 @@ void frmQuickFix::ShowNames() {
   ui_->lblTask->setText(TaskLibName(taskLibID_));
 }
 
-QStringList frmQuickFix::ShowsTables() const { return {u"tblPeople"_s, u"tblRig"_s, u"tblTaskLib"_s}; }
+QStringList frmQuickFix::ShowsTables() const { return {tblPeople::kTable, tblRig::kTable, tblTaskLib::kTable}; }
 
 void frmQuickFix::ReloadForm() {
   if (TaskLibExists(taskLibID_) && (rigID_ == 0 || RigExists(rigID_)))

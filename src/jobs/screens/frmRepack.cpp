@@ -4,6 +4,7 @@
 #include "core/format.h"
 #include "core/lists.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "core/trap.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/rig_type_rules.h"
@@ -74,7 +75,8 @@ frmRepack::frmRepack() : ui_(std::make_unique<Ui::frmRepack>()) {
 frmRepack::~frmRepack() = default;
 
 QStringList frmRepack::ShowsTables() const {
-  return {u"tblRepackByModel"_s, u"tblRepackByType"_s, u"tblTaskLib"_s, u"tblModels"_s, u"tblRigTypes"_s};
+  return {tblRepackByModel::kTable, tblRepackByType::kTable, tblTaskLib::kTable, tblModels::kTable,
+          tblRigTypes::kTable};
 }
 
 /// The name of a row can't be entered: its price takes the cursor, and what is typed goes into the cell.

@@ -1,8 +1,9 @@
 #include "jobs/screens/frmSelectComponentThisTask.h"
 
 #include "core/prompts.h"
-#include "core/store/access.h"
+#include "core/store/tables.h"
 #include "gear/components.h"
+#include "jobs/lines.h"
 #include "jobs/screens.h"
 #include "jobs/screens/keep_shown.h"
 #include "jobs/screens/ui_frmSelectComponentThisTask.h"
@@ -21,7 +22,7 @@ frmSelectComponentThisTask::frmSelectComponentThisTask() : ui_(std::make_unique<
 frmSelectComponentThisTask::~frmSelectComponentThisTask() = default;
 
 QStringList frmSelectComponentThisTask::ShowsTables() const {
-  return {u"tblTaskComponents"_s, u"tblComponents"_s, u"tblModels"_s};
+  return {tblTaskComponents::kTable, tblComponents::kTable, tblModels::kTable};
 }
 
 void frmSelectComponentThisTask::SetTask(int taskID) {
@@ -30,11 +31,8 @@ void frmSelectComponentThisTask::SetTask(int taskID) {
 }
 
 void frmSelectComponentThisTask::ReloadForm() {
-  QList<int> ids;
-  GetRecordsFromTable(u"tblTaskComponents"_s, u"TaskID"_s, taskID_, u"CompID"_s, ids);
-  ids.removeAll(0);
   IdList components;
-  for (int component : ids) components.Add(ComponentDescription(component), component);
+  for (int component : ComponentsOfLine(taskID_)) components.Add(ComponentDescription(component), component);
   RefillList(*ui_->lst, components);
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/clock.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "core/value.h"
 #include "gear/models.h"
 #include "jobs/library_delete.h"
@@ -37,7 +38,7 @@ frmSelectTask::frmSelectTask() : ui_(std::make_unique<Ui::frmSelectTask>()) {
 frmSelectTask::~frmSelectTask() = default;
 
 QStringList frmSelectTask::ShowsTables() const {
-  return {u"tblTaskLib"_s, u"tblTaskLibComponentTypes"_s, u"tblComponentTypes"_s};
+  return {tblTaskLib::kTable, tblTaskLibComponentTypes::kTable, tblComponentTypes::kTable};
 }
 
 void frmSelectTask::Browse(bool events) { SetUp({.events = events}, false); }

@@ -1,6 +1,7 @@
 #include "jobs/screens/frmTaskEdit.h"
 
 #include "core/clock.h"
+#include "core/store/tables.h"
 #include "core/value.h"
 #include "core/widgets/screen_routines.h"
 #include "jobs/lines.h"
@@ -27,7 +28,7 @@ frmTaskEdit::frmTaskEdit() : ui_(std::make_unique<Ui::frmTaskEdit>()) {
 
 frmTaskEdit::~frmTaskEdit() = default;
 
-QStringList frmTaskEdit::ShowsTables() const { return {u"tblTasks"_s, u"tblTaskLib"_s}; }
+QStringList frmTaskEdit::ShowsTables() const { return {tblTasks::kTable, tblTaskLib::kTable}; }
 
 void frmTaskEdit::ReloadForm() {
   TaskEntry entry;

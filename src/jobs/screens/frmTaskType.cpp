@@ -6,6 +6,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/operation.h"
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/catalogue.h"
 #include "gear/models.h"
@@ -71,7 +72,7 @@ frmTaskType::frmTaskType() : ui_(std::make_unique<Ui::frmTaskType>()) {
 frmTaskType::~frmTaskType() = default;
 
 QStringList frmTaskType::ShowsTables() const {
-  return {u"tblTaskLib"_s, u"tblComponentTypes"_s, u"tblRigTypes"_s, u"tblModels"_s};
+  return {tblTaskLib::kTable, tblComponentTypes::kTable, tblRigTypes::kTable, tblModels::kTable};
 }
 
 void frmTaskType::ReloadForm() {

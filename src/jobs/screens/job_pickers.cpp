@@ -1,5 +1,6 @@
 #include "core/picker.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "jobs/job_picker_rows.h"
 #include "jobs/library_delete.h"
 #include "jobs/screens.h"
@@ -12,7 +13,7 @@ namespace {
 PickerKind Tasks() {
   return {.title = [](int) { return u"Task Library"_s; },
           .rows = [](int) { return PickerTasks(); },
-          .tables = {u"tblTaskLib"_s},
+          .tables = {tblTaskLib::kTable},
           .offersToAdd = true,
           .noun = [](int) { return u"task"_s; },
           .whole = u"library"_s,
@@ -34,14 +35,14 @@ PickerKind Tasks() {
 PickerKind Jobs() {
   return {.title = [](int) { return u"Jobs"_s; },
           .rows = [](int) { return PickerJobs(); },
-          .tables = {u"tblJobs"_s},
+          .tables = {tblJobs::kTable},
           .endsUnmatched = true};
 }
 
 PickerKind Invoices() {
   return {.title = [](int) { return u"Select Invoice"_s; },
           .rows = [](int) { return PickerInvoices(); },
-          .tables = {u"tblJobs"_s},
+          .tables = {tblJobs::kTable},
           .endsUnmatched = true};
 }
 

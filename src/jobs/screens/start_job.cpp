@@ -1,11 +1,12 @@
 #include "core/clock.h"
 #include "core/prompts.h"
 #include "core/screens.h"
-#include "core/store/access.h"
 #include "core/store/operation.h"
+#include "core/value.h"
 #include "gear/components.h"
 #include "gear/locations.h"
 #include "gear/people.h"
+#include "gear/rig_rules.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "jobs/delete_job.h"
@@ -21,7 +22,7 @@ namespace {
 
 int ChooseLocation() {
   if (const int location = DefaultLocation(); location != 0) return location;
-  if (GetNumberRecordsInTable(u"tblLocation"_s) == 0) return 0;
+  if (!LocationsExist()) return 0;
   if (!AskYes(u"Would you like to select a location for this rigging job?"_s, u"Choose location?"_s)) return 0;
   return qMax(0, PickItem(kPickLocation).id);
 }
@@ -45,8 +46,6 @@ QString ProposedName(QString seed, int customerID, int componentID) {
   if (componentID != 0) seed = ComponentDescription(componentID) + u'-' + seed;
   return seed + u' ' + Value(Today()).ToText();
 }
-
-int OnlyRigOf(int customerID) { return GetValueFromTable(u"tblRig"_s, u"OwnerID"_s, customerID, u"ID"_s).ToInt(); }
 
 QString RigOption(int rigID, int rigs) {
   return rigID != 0 ? u"Rig (%1)"_s.arg(RigName(rigID)) : u"Rig (has %1, select from list)"_s.arg(rigs);
@@ -129,10 +128,8 @@ bool StartNewJob(int customerID, int rigID, int componentID, Date date) {
   }
   int jobID = 0;
   if (rigID == 0) {
-    const Gear gear{
-        NumberOfRigs(customerID),
-        GetNumberRecordsComplex(u"Select * from tblComponents where OwnerID = %1"_s.arg(customerID)).ToInt()};
-    if (gear.rigs == 1) rigID = OnlyRigOf(customerID);
+    const Gear gear{NumberOfRigs(customerID), NumberOfComponents(customerID)};
+    if (gear.rigs == 1) rigID = FirstRigOf(customerID);
     if (gear.rigs + gear.components > 0) {
       if (!ChooseGear(customerID, gear, rigID, componentID)) return false;
     } else if (!AskYes(Lines({u"This customer has no rigs or components."_s, u"Do you want to create a job anyway?"_s}),

@@ -8,6 +8,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/tables.h"
 #include "gear/components.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
@@ -81,8 +82,8 @@ frmSchedule::frmSchedule() : ui_(std::make_unique<Ui::frmSchedule>()) {
 frmSchedule::~frmSchedule() = default;
 
 QStringList frmSchedule::ShowsTables() const {
-  return {u"tblSchedules"_s, u"tblComponents"_s, u"tblRig"_s,           u"tblPeople"_s,
-          u"tblTaskLib"_s,   u"tblModels"_s,     u"tblTaskComponents"_s};
+  return {tblSchedules::kTable, tblComponents::kTable, tblRig::kTable,           tblPeople::kTable,
+          tblTaskLib::kTable,   tblModels::kTable,     tblTaskComponents::kTable};
 }
 
 void frmSchedule::BuildMenus() {

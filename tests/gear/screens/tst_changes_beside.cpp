@@ -8,10 +8,11 @@
 #include "gear/component_rules.h"
 #include "gear/locations.h"
 #include "gear/people.h"
-#include "gear/person_deletion.h"
 #include "gear/rig_rules.h"
 #include "gear/screens/rig_shop.h"
 #include "gear/service_lives.h"
+#include "jobs/person_deletion.h"
+#include "schedule/gear_moves.h"
 #include "support/test_program.h"
 
 using namespace Qt::StringLiterals;

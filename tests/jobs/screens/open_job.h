@@ -10,7 +10,7 @@
 #include "support/screens/screen_script.h"
 
 /// The columns of the lines.
-enum Column { kTask, kRigger, kPrice, kStatus, kDate };
+enum LineColumn { kTask, kRigger, kPrice, kStatus, kDate };
 
 /// A loft's job on the job screen.
 template <class Shop>

@@ -127,7 +127,7 @@ class TestJobParts : public QObject {
     shop.Choose(u"Jobs"_s, u"Change location"_s);
     QCOMPARE(JobLocationID(shop.job), perris);
     QCOMPARE(shop.Label("lblLocation"), u"Perris, CA"_s);
-    QCOMPARE(LineField(line, u"LocationID"_s).ToInt(), 0);
+    QCOMPARE(LineField(line, tblTasks::LocationID).ToInt(), 0);
     shop.screens.WhenShown(u"frmLocation"_s, [](Form& form) { PressKey(form, Qt::Key_Escape); });
     QTest::mouseClick(&Control<QWidget>(shop.Screen(), u"lblLocation"_s), Qt::LeftButton);
     QCOMPARE(JobLocationID(shop.job), perris);

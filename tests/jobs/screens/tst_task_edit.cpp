@@ -166,7 +166,7 @@ class TestTaskEdit : public QObject {
     LoadTaskEntry(shop.repack, entry);
     entry.name = longName;
     QVERIFY(SaveTaskEntry(shop.repack, entry));
-    QCOMPARE(LineField(shop.repack, u"TaskName"_s).ToText(), longName.left(50));
+    QCOMPARE(LineField(shop.repack, tblTasks::TaskName).ToText(), longName.left(50));
   }
 
   void APartOffersNoLogBook() {

@@ -6,6 +6,7 @@
 #include "core/default_rows.h"
 #include "core/format.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "core/trap.h"
 #include "gear/catalogue.h"
 #include "gear/component_types.h"
@@ -114,7 +115,7 @@ void frmComponentModels::ShowCaptions() {
 }
 
 QStringList frmComponentModels::ShowsTables() const {
-  return {u"tblModels"_s, u"tblManufacturers"_s, u"tblComponentTypes"_s};
+  return {tblModels::kTable, tblManufacturers::kTable, tblComponentTypes::kTable};
 }
 
 void frmComponentModels::ReloadForm() {

@@ -1,5 +1,6 @@
 #include "gear/screens/catalogue/frmComponentTypes.h"
 
+#include "core/store/tables.h"
 #include "gear/component_types.h"
 #include "gear/screens/catalogue/ui_frmComponentTypes.h"
 
@@ -27,6 +28,6 @@ frmComponentTypes::~frmComponentTypes() = default;
 
 int frmComponentTypes::Type() const { return ui_->lst->ItemData(ui_->lst->ListIndex()); }
 
-QStringList frmComponentTypes::ShowsTables() const { return {u"tblComponentTypes"_s}; }
+QStringList frmComponentTypes::ShowsTables() const { return {tblComponentTypes::kTable}; }
 
 void frmComponentTypes::ReloadForm() { ui_->lst->Refill(LoadMajorComponentTypes()); }

@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "gear/locations.h"
 #include "gear/screens/catalogue/ui_frmLocation.h"
 
@@ -34,7 +35,7 @@ void frmLocation::SetLocation(int id) {
   ShowWhetherDefault();
 }
 
-QStringList frmLocation::ShowsTables() const { return {u"tblLocation"_s}; }
+QStringList frmLocation::ShowsTables() const { return {tblLocation::kTable}; }
 
 void frmLocation::ReloadForm() {
   const QList<int> before = ui_->lst->Ids();

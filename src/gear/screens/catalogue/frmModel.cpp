@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "core/format.h"
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/component_editor.h"
 #include "gear/models.h"
@@ -55,7 +56,7 @@ void frmModel::ChooseModel() {
   ReloadForm();
 }
 
-QStringList frmModel::ShowsTables() const { return {u"tblModels"_s}; }
+QStringList frmModel::ShowsTables() const { return {tblModels::kTable}; }
 
 void frmModel::ReloadForm() { ui_->cmdModel->setText(WithoutMnemonic(ModelName(model_))); }
 

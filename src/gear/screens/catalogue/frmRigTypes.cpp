@@ -2,11 +2,13 @@
 
 #include "core/default_rows.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "gear/component_types.h"
 #include "gear/rig_type_rules.h"
 #include "gear/rig_types.h"
 #include "gear/screens.h"
 #include "gear/screens/catalogue/ui_frmRigTypes.h"
+#include "jobs/gear_deletion.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +37,7 @@ frmRigTypes::frmRigTypes() : ui_(std::make_unique<Ui::frmRigTypes>()) {
 frmRigTypes::~frmRigTypes() = default;
 
 QStringList frmRigTypes::ShowsTables() const {
-  return {u"tblRigTypes"_s, u"tblRigTypeComponents"_s, u"tblComponentTypes"_s};
+  return {tblRigTypes::kTable, tblRigTypeComponents::kTable, tblComponentTypes::kTable};
 }
 
 void frmRigTypes::ReloadForm() {

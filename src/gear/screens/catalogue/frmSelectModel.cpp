@@ -2,6 +2,7 @@
 
 #include "core/lists.h"
 #include "core/prompts.h"
+#include "core/store/tables.h"
 #include "gear/component_types.h"
 #include "gear/screens/catalogue/ui_frmSelectModel.h"
 
@@ -19,7 +20,7 @@ frmSelectModel::frmSelectModel() : ui_(std::make_unique<Ui::frmSelectModel>()) {
 
 frmSelectModel::~frmSelectModel() = default;
 
-QStringList frmSelectModel::ShowsTables() const { return {u"tblModels"_s, u"tblComponentTypes"_s}; }
+QStringList frmSelectModel::ShowsTables() const { return {tblModels::kTable, tblComponentTypes::kTable}; }
 
 void frmSelectModel::ReloadForm() {
   ui_->lstTypes->Refill(LoadMajorComponentTypes());

@@ -1,6 +1,7 @@
 #include "gear/screens/components/component_details.h"
 
 #include "core/format.h"
+#include "core/store/tables.h"
 #include "gear/components.h"
 #include "gear/models.h"
 #include "gear/people.h"
@@ -9,7 +10,7 @@
 using namespace Qt::StringLiterals;
 
 QStringList ComponentDetails::ShowsTables() {
-  return {u"tblComponents"_s, u"tblModels"_s, u"tblComponentTypes"_s, u"tblPeople"_s, u"tblRig"_s};
+  return {tblComponents::kTable, tblModels::kTable, tblComponentTypes::kTable, tblPeople::kTable, tblRig::kTable};
 }
 
 ComponentDetails DetailsOf(int component) {

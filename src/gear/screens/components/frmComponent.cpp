@@ -9,6 +9,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/component_editor.h"
 #include "gear/component_rules.h"
@@ -22,6 +23,7 @@
 #include "gear/screens/components/ui_frmComponent.h"
 #include "gear/screens/schedule_grid.h"
 #include "history/screens.h"
+#include "schedule/gear_moves.h"
 #include "schedule/scheduled_task.h"
 
 using namespace Qt::StringLiterals;
@@ -60,7 +62,7 @@ frmComponent::frmComponent() : ui_(std::make_unique<Ui::frmComponent>()) {
 frmComponent::~frmComponent() = default;
 
 QStringList frmComponent::ShowsTables() const {
-  return ScheduleGrid::ShowsTables() + QStringList{u"tblComponentTypes"_s, u"tblPeople"_s};
+  return ScheduleGrid::ShowsTables() + QStringList{tblComponentTypes::kTable, tblPeople::kTable};
 }
 
 void frmComponent::MakeMenu() {

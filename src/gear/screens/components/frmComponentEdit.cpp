@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "core/format.h"
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/component_types.h"
 #include "gear/models.h"
@@ -23,7 +24,7 @@ frmComponentEdit::frmComponentEdit() : ui_(std::make_unique<Ui::frmComponentEdit
 
 frmComponentEdit::~frmComponentEdit() = default;
 
-QStringList frmComponentEdit::ShowsTables() const { return {u"tblModels"_s, u"tblPeople"_s, u"tblRig"_s}; }
+QStringList frmComponentEdit::ShowsTables() const { return {tblModels::kTable, tblPeople::kTable, tblRig::kTable}; }
 
 void frmComponentEdit::ReloadForm() {
   ui_->lblModel->setText(ModelName(entry_.model));

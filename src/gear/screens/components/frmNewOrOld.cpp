@@ -1,5 +1,6 @@
 #include "gear/screens/components/frmNewOrOld.h"
 
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/component_rules.h"
 #include "gear/component_types.h"
@@ -26,7 +27,7 @@ void frmNewOrOld::SetComponentType(int type) {
   ui_->txtSerial->clear();
 }
 
-QStringList frmNewOrOld::ShowsTables() const { return {u"tblComponentTypes"_s}; }
+QStringList frmNewOrOld::ShowsTables() const { return {tblComponentTypes::kTable}; }
 
 void frmNewOrOld::ReloadForm() {
   const QString name = TypeInSentence(type_);

@@ -6,6 +6,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/tables.h"
 #include "gear/component_rules.h"
 #include "gear/component_types.h"
 #include "gear/components.h"
@@ -13,6 +14,7 @@
 #include "gear/people.h"
 #include "gear/rig_rules.h"
 #include "gear/screens/components/ui_frmPickComponent.h"
+#include "jobs/gear_deletion.h"
 
 using namespace Qt::StringLiterals;
 
@@ -92,7 +94,7 @@ ComponentFilter frmPickComponent::Filter() const {
 }
 
 QStringList frmPickComponent::ShowsTables() const {
-  return {u"tblComponents"_s, u"tblModels"_s, u"tblComponentTypes"_s, u"tblPeople"_s, u"tblRig"_s};
+  return {tblComponents::kTable, tblModels::kTable, tblComponentTypes::kTable, tblPeople::kTable, tblRig::kTable};
 }
 
 /// Keeps the row that is selected without choosing it anew, which may ask and write.

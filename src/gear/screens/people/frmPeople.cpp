@@ -10,14 +10,15 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/tables.h"
 #include "core/widgets/modal_use.h"
 #include "gear/people.h"
-#include "gear/person_deletion.h"
 #include "gear/person_due.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
 #include "gear/screens/people/frmPeopleEdit.h"
 #include "gear/screens/people/ui_frmPeople.h"
+#include "jobs/person_deletion.h"
 #include "jobs/screens.h"
 #include "schedule/screens.h"
 
@@ -48,7 +49,7 @@ frmPeople::frmPeople() : ui_(std::make_unique<Ui::frmPeople>()) {
 
 frmPeople::~frmPeople() = default;
 
-QStringList frmPeople::ShowsTables() const { return {u"tblPeople"_s, u"tblRig"_s, u"tblSchedules"_s}; }
+QStringList frmPeople::ShowsTables() const { return {tblPeople::kTable, tblRig::kTable, tblSchedules::kTable}; }
 
 void frmPeople::MakeMenu() {
   mnuMenu_ = MenuBar()->addMenu(u"Menu"_s);

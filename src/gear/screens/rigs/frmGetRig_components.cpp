@@ -6,7 +6,7 @@
 #include "gear/screens.h"
 #include "gear/screens/rigs/frmGetRig.h"
 #include "gear/screens/rigs/ui_frmGetRig.h"
-#include "schedule/install.h"
+#include "schedule/gear_moves.h"
 
 using namespace Qt::StringLiterals;
 

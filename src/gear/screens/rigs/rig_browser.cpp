@@ -1,5 +1,6 @@
 #include "gear/screens/rigs/rig_browser.h"
 
+#include "core/store/tables.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/people.h"
 #include "gear/person_record.h"
@@ -75,7 +76,7 @@ RigBrowser::RigBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<
 
 RigBrowser::~RigBrowser() = default;
 
-QStringList RigBrowser::ShowsTables() { return RigGrid::ShowsTables() + QStringList{u"tblPeople"_s}; }
+QStringList RigBrowser::ShowsTables() { return RigGrid::ShowsTables() + QStringList{tblPeople::kTable}; }
 
 bool RigBrowser::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) Q_EMIT PhotoClick();

@@ -1,5 +1,6 @@
 #include "gear/screens/rigs/rig_grid.h"
 
+#include "core/store/tables.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/screen_routines.h"
 #include "gear/rig_rules.h"
@@ -30,8 +31,8 @@ void RigGrid::SetUp(Grid& grid) {
 }
 
 QStringList RigGrid::ShowsTables() {
-  return {u"tblRig"_s,        u"tblRigTypes"_s, u"tblRigTypeComponents"_s, u"tblComponentTypes"_s,
-          u"tblComponents"_s, u"tblModels"_s};
+  return {tblRig::kTable,        tblRigTypes::kTable, tblRigTypeComponents::kTable, tblComponentTypes::kTable,
+          tblComponents::kTable, tblModels::kTable};
 }
 
 void RigGrid::Fill(Grid& grid, int rig) {

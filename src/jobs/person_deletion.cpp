@@ -1,4 +1,4 @@
-#include "gear/person_deletion.h"
+#include "jobs/person_deletion.h"
 
 #include "core/store/access.h"
 #include "core/store/operation.h"
@@ -10,17 +10,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Tie {
-  QString table;
-  QString field;
+  Column column;
   QString text;
 };
 
 const QList<Tie>& Ties() {
-  static const QList<Tie> ties = {{u"tblRig"_s, u"OwnerID"_s, u" rig"_s},
-                                  {u"tblComponents"_s, u"OwnerID"_s, u" rig component"_s},
-                                  {u"tblJobs"_s, u"CustomerID"_s, u" job"_s},
-                                  {u"tblTasks"_s, u"CustomerID"_s, u" task"_s},
-                                  {u"tblMoney"_s, u"CustomerID"_s, u" money transaction"_s}};
+  static const QList<Tie> ties = {{tblRig::OwnerID, u" rig"_s},
+                                  {tblComponents::OwnerID, u" rig component"_s},
+                                  {tblJobs::CustomerID, u" job"_s},
+                                  {tblTasks::CustomerID, u" task"_s},
+                                  {tblMoney::CustomerID, u" money transaction"_s}};
   return ties;
 }
 
@@ -38,7 +37,7 @@ DeletionReport ReportPersonDeletion(int id) {
   QStringList lines;
   Operation(u"Function ReportPersonDeletion"_s, [&] {
     for (const Tie& tie : Ties()) {
-      const int count = GetNumberRecords(tie.table, tie.field, id);
+      const int count = GetNumberRecords(tie.column, id);
       if (count > 0) lines << u"      "_s + QString::number(count) + tie.text + (count > 1 ? u"s"_s : QString());
     }
   });
@@ -59,8 +58,8 @@ int NeighbourAfterDeletion(int id) {
 
 bool DeletePerson(int id) {
   return Operation(u"Sub DeletePerson"_s, [&] {
-    DeleteRecordsFromTable(u"tblPeople"_s, u"ID"_s, id);
-    for (const Tie& tie : Ties()) UpdateTable(tie.table, tie.field, 0, tie.field, id);
+    DeletePersonRow(id);
+    for (const Tie& tie : Ties()) UpdateTable(tie.column, 0, tie.column, id);
   });
 }
 
