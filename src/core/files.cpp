@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "core/failure.h"
+#include "core/long_work.h"
 #include "core/platform.h"
 #include "core/trap.h"
 
@@ -73,10 +74,12 @@ void Copy(const QString& source, const QString& destination) {
   OpenToRead(from);
   QSaveFile to(destination);
   CheckThat(to.open(QFile::WriteOnly), to);
+  LongWork work(u"copying "_s + QFileInfo(source).fileName(), from.size(), LongWork::Cancelling::Impossible);
   while (!from.atEnd()) {
     const QByteArray block = from.read(kCopyBlock);
     CheckThat(!block.isEmpty(), from);
     WriteAll(to, block);
+    work.Step(block.size());
   }
   to.setFileTime(QFileInfo(from).lastModified(), QFileDevice::FileModificationTime);
   Commit(to);

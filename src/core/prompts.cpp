@@ -15,7 +15,7 @@ struct State {
   void (*settle)() = nullptr;
   bool settling = false;
   bool busy = false;
-  int waiting = 0;
+  int depth = 0;
 };
 
 State& Present() {
@@ -78,15 +78,17 @@ QString Lines(const QStringList& lines) { return lines.join(u'\n'); }
 
 void SetBeforePrompt(void (*settle)()) { Present().settle = settle; }
 
+EventsRun::EventsRun() { ++Present().depth; }
+
+EventsRun::~EventsRun() { --Present().depth; }
+
+int EventsRun::Depth() { return Present().depth; }
+
 // Settling may itself have something to tell; that box finds the store being settled and leaves it alone.
 PersonAnswers::PersonAnswers() {
   if (Present().settle != nullptr && !Present().settling) {
     const QScopedValueRollback<bool> once(Present().settling, true);
     Present().settle();
   }
-  ++Present().waiting;
+  events_.emplace();
 }
-
-PersonAnswers::~PersonAnswers() { --Present().waiting; }
-
-int PersonAnswers::Depth() { return Present().waiting; }

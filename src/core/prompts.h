@@ -65,14 +65,22 @@ QString Lines(const QStringList& lines);
 /// Called before any prompt or modal screen shows; the store settles its open transaction here.
 void SetBeforePrompt(void (*settle)());
 
-/// Stands while the program waits for the person: around each prompt and each modal screen. Events are handled
-/// meanwhile, so what runs then is not below the routine that asked.
+/// Stands while a routine lets events be handled before it goes on: what runs then is not below that routine.
+class EventsRun {
+ public:
+  EventsRun();
+  ~EventsRun();
+  EventsRun(const EventsRun&) = delete;
+  EventsRun& operator=(const EventsRun&) = delete;
+  /// How many stand.
+  static int Depth();
+};
+
+/// Stands while the program waits for the person: around each prompt and each modal screen.
 class PersonAnswers {
  public:
   PersonAnswers();
-  ~PersonAnswers();
-  PersonAnswers(const PersonAnswers&) = delete;
-  PersonAnswers& operator=(const PersonAnswers&) = delete;
-  /// How many stand.
-  static int Depth();
+
+ private:
+  std::optional<EventsRun> events_;
 };

@@ -29,7 +29,7 @@ int ShowMessageForm(const QString& title, const QString& myText, const QStringLi
 std::optional<QString> EditComments(const QString& heading, const QString& text,
                                     const QString& title = QStringLiteral("Comments"));
 
-/// Gives long work its wait notice (core/stand_by.h).
+/// Gives long work its notice (core/stand_by.h) and its wait form (core/long_work.h).
 void InstallStandByNotice();
 
 /// Cascades all loaded forms behind the floating menu, in load order.

@@ -1,5 +1,6 @@
 #include "core/trap.h"
 
+#include "core/long_work.h"
 #include "core/store/operation.h"
 
 QString FailureText(const std::exception& error) {
@@ -7,9 +8,12 @@ QString FailureText(const std::exception& error) {
   return QString::fromLocal8Bit(error.what());
 }
 
-bool EndsTheOperation(const std::exception& error) {
+bool EndsMore(const std::exception& error) {
+  if (!IsFailure(error)) return OperationScope::Stands() || AllOrNothing::Stands();
   return dynamic_cast<const StorageFailure*>(&error) != nullptr && OperationScope::Stands();
 }
+
+bool IsFailure(const std::exception& error) { return dynamic_cast<const WorkCancelled*>(&error) == nullptr; }
 
 void TellFailure(const QString& text, const QString& routine, Icon icon) {
   if (AllOrNothing::Stands()) throw Failure(text);

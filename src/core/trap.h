@@ -24,8 +24,12 @@ class AllOrNothing {
 /// The text of an error as its box shows it.
 QString FailureText(const std::exception& error);
 
-/// True for a failure of the file itself while an operation stands: it ends the outermost one, so no trap keeps it.
-bool EndsTheOperation(const std::exception& error);
+/// True for what ends more than the routine, so that no trap keeps it: a failure of the file itself and cancelled work
+/// end the outermost operation, and cancelled work ends an AllOrNothing.
+bool EndsMore(const std::exception& error);
+
+/// Cancelled work is no failure: nobody is told of it.
+bool IsFailure(const std::exception& error);
 
 /// Shows the box of a routine that failed, or throws Failure with its text while an AllOrNothing stands.
 void TellFailure(const QString& text, const QString& routine, Icon icon = Icon::Exclamation);
@@ -38,8 +42,8 @@ bool Trap(const QString& routine, Body&& body, Icon icon = Icon::Exclamation) {
     std::forward<Body>(body)();
     return true;
   } catch (const std::exception& error) {
-    if (EndsTheOperation(error)) throw;
-    TellFailure(FailureText(error), routine, icon);
+    if (EndsMore(error)) throw;
+    if (IsFailure(error)) TellFailure(FailureText(error), routine, icon);
     return false;
   }
 }
@@ -51,8 +55,8 @@ bool TrapWith(const QString& routine, Body&& body, More&& more, Icon icon = Icon
     std::forward<Body>(body)();
     return true;
   } catch (const std::exception& error) {
-    if (EndsTheOperation(error)) throw;
-    TellFailure(FailureText(error) + u'\n' + more(), routine, icon);
+    if (EndsMore(error)) throw;
+    if (IsFailure(error)) TellFailure(FailureText(error) + u'\n' + more(), routine, icon);
     return false;
   }
 }

@@ -28,6 +28,14 @@ Picked RunPicker(int pickerType, int modelTypeId, int presentId, bool withDefaul
   return {picker->SelectedID(), picker->SelectedText(), withDefault && picker->DefaultChecked()};
 }
 
+class StandByScreen : public WorkScreen {
+ public:
+  bool Show(const WorkProgress& progress) override { return SharedForm<frmStandBy>().ShowWork(progress); }
+  void Hide() override {
+    if (auto* form = FormIfLoaded<frmStandBy>()) form->UnloadForm();
+  }
+};
+
 }  // namespace
 
 Picked PickItem(int pickerType, int modelTypeId, int presentId) {
@@ -57,9 +65,11 @@ std::optional<QString> EditComments(const QString& heading, const QString& text,
 }
 
 void InstallStandByNotice() {
+  static StandByScreen screen;
+  SetWorkScreen(&screen);
   SetStandByNotice({[](const QString& text) { SharedForm<frmStandBy>().ShowText(text); },
                     [] {
-                      if (auto* form = FormIfLoaded<frmStandBy>()) form->UnloadForm();
+                      if (auto* form = FormIfLoaded<frmStandBy>()) form->EndText();
                     },
                     [] { WaitSeconds(0.3); }});
 }

@@ -4,6 +4,7 @@
 
 #include "core/failure.h"
 #include "core/forms.h"
+#include "core/long_work.h"
 #include "core/store/database.h"
 #include "core/store/undo.h"
 #include "core/trap.h"
@@ -52,7 +53,7 @@ QString OperationName::Words() const {
 }
 
 OperationScope::OperationScope(const OperationName& name, Record record)
-    : name_(name), record_(record), outer_(innermost), depth_(PersonAnswers::Depth()) {
+    : name_(name), record_(record), outer_(innermost), depth_(EventsRun::Depth()) {
   innermost = this;
   if (IsOutermost()) HoldConnection(true);
 }
@@ -61,9 +62,15 @@ OperationScope::~OperationScope() {
   if (stands_) Leave();
 }
 
-bool OperationScope::Stands() { return innermost != nullptr && innermost->depth_ == PersonAnswers::Depth(); }
+bool OperationScope::Stands() { return innermost != nullptr && innermost->depth_ == EventsRun::Depth(); }
 
 bool OperationScope::AnyStands() { return innermost != nullptr; }
+
+bool OperationScope::CanBeTakenBack() {
+  for (const OperationScope* scope = innermost; scope != nullptr; scope = scope->outer_)
+    if (scope->depth_ != EventsRun::Depth()) return false;
+  return true;
+}
 
 /// An error of the file goes on to the operation outside, unless the loop of a box or a dialog lies between.
 bool OperationScope::EndsHere() const { return IsOutermost() || outer_->depth_ != depth_; }
@@ -96,12 +103,16 @@ bool OperationScope::Commit() {
   return true;
 }
 
-/// An operation around this one finds the file failed as soon as it goes on.
-void OperationScope::TakeBack(const QString& error) {
-  const bool wrote = ConnectionFailedWriting();
+void OperationScope::Undo() {
   if (IsOutermost()) RollBackConnection();
   Leave();
   bracket_.Close();
+}
+
+/// An operation around this one finds the file failed as soon as it goes on.
+void OperationScope::TakeBack(const QString& error) {
+  const bool wrote = ConnectionFailedWriting();
+  Undo();
   TellFailure(wrote ? Lines({error, u"Nothing was changed."_s}) : error, name_.routine);
 }
 
@@ -111,6 +122,13 @@ void OperationScope::EndFailed(const QString& more, OnFailure onFailure) {
   } catch (const StorageFailure& failure) {
     if (EndsHere()) {
       TakeBack(failure.Text());
+      return;
+    }
+    Leave();
+    throw;
+  } catch (const WorkCancelled&) {
+    if (EndsHere()) {
+      Undo();
       return;
     }
     Leave();

@@ -25,6 +25,9 @@ struct OperationName {
 ///   what was written before stays.
 /// - A failure of the file itself (full disk, unreadable page, a commit that does not go through) ends the outermost
 ///   operation: all of it is taken back, and one box with that one's title says so.
+/// - Long work inside it that the person cancels (core/long_work.h) ends the outermost one too: all of it is taken
+/// back,
+///   and no box says so.
 /// - A box inside an operation commits nothing: what was written waits until the operation ends.
 ///
 /// The record of operations (core/store/undo.h) keeps what the outermost one wrote, so that it can be taken back.
@@ -63,6 +66,8 @@ class OperationScope {
   static bool Stands();
   /// True while any runs; one may wait for the person, and others run meanwhile as parts of it.
   static bool AnyStands();
+  /// False when one stands that can't be ended from here: it waits for the person.
+  static bool CanBeTakenBack();
 
   /// The end of a body that ran through. False when it could not be written.
   bool End();
@@ -74,6 +79,7 @@ class OperationScope {
   bool EndsHere() const;
   bool Commit();
   void Leave();
+  void Undo();
   void TakeBack(const QString& error);
 
   OperationName name_;

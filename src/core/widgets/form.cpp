@@ -97,6 +97,16 @@ void Form::ShowModal() {
   if (modalDepth == 0) EmptyGraves();
 }
 
+void Form::ShowAlone() {
+  QWidget* caller = Caller();
+  Place();
+  StayAbove(caller);
+  setWindowModality(Qt::ApplicationModal);
+  show();
+  raise();
+  activateWindow();
+}
+
 void Form::StayAbove(const QWidget* other) {
   if (!other || other == this || !other->windowHandle()) return;
   winId();  // makes the window

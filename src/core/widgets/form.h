@@ -25,6 +25,7 @@ class Form : public QDialog, public LoadedForm {
 
   void Show();       ///< beside the other screens, or brings it forward; above a modal one that is on show
   void ShowModal();  ///< blocks until the form is hidden
+  void ShowAlone();  ///< returns at once, but no other screen takes input until the form is hidden
 
   /// How a modal use ended: "cancel", "new", "end" and the like; cleared by each showing.
   QString Tag() const { return tag_; }
