@@ -9,8 +9,8 @@
 #include "core/prompts.h"
 #include "core/stand_by.h"
 #include "core/store/connection.h"
-#include "core/store/database.h"
 #include "core/store/recordset.h"
+#include "core/store/snapshot.h"
 #include "core/trap.h"
 #include "dbcare/check_fields.h"
 
@@ -60,18 +60,17 @@ void CreateNewDatabase() {
 
 bool IsValidDatabase(const QString& path) {
   LetGoOfDatabaseFile();
-  const QString live = std::exchange(ConnectionString, ConnectionStringFor(path));
-  bool valid = true;
+  LongWork work(kPleaseWait, 0, LongWork::Cancelling::Impossible);
   try {
-    Database file(path);
-    for (const char* table :
-         {"tblPeople", "tblRig", "tblComponents", "tblModels", "tblTasks", "tblJobs", "tblSchedules", "tblMisc"})
-      valid = valid && !file.FieldsOf(QString::fromLatin1(table)).empty();
+    ReadAside(work, path, [](Database& file) {
+      for (const QString& table : {u"tblPeople"_s, u"tblRig"_s, u"tblComponents"_s, u"tblModels"_s, u"tblTasks"_s,
+                                   u"tblJobs"_s, u"tblSchedules"_s, u"tblMisc"_s})
+        const Recordset opened(file, table);
+    });
   } catch (const Failure&) {
-    valid = false;
+    return false;
   }
-  ConnectionString = live;
-  return valid;
+  return true;
 }
 
 bool AcceptDatabase(const QString& path) {

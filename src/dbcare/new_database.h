@@ -14,7 +14,7 @@ void CreateNewDatabase();
 /// Closes the connection and the file behind it.
 void LetGoOfDatabaseFile();
 
-/// True when the file is a database that holds the program's main tables.
+/// True when the file is a database that holds the program's main tables, and each of them opens.
 bool IsValidDatabase(const QString& path);
 /// The same, with a box when it is none.
 bool AcceptDatabase(const QString& path);

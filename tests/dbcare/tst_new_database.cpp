@@ -11,6 +11,7 @@
 #include "support/exported_loft.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
+#include "support/throwaway_loft.h"
 
 using namespace Qt::StringLiterals;
 
@@ -60,6 +61,33 @@ class NewDatabaseTest : public QObject {
     QCOMPARE(DatabasePath(), good);
     QVERIFY(!IsValidDatabase(Folder().Write(u"words.mdb"_s, "no database at all")));
     QVERIFY(!IsValidDatabase(Folder() / u"missing.mdb"_s));
+  }
+
+  void ATableThatCantBeReadMakesADatabaseInvalid_data() {
+    QTest::addColumn<QString>("table");
+    for (const char* table :
+         {"tblPeople", "tblRig", "tblComponents", "tblModels", "tblTasks", "tblJobs", "tblSchedules", "tblMisc"})
+      QTest::newRow(table) << QString::fromLatin1(table);
+  }
+  void ATableThatCantBeReadMakesADatabaseInvalid() {
+    QFETCH(QString, table);
+    ScriptedPrompts prompts;
+    MakeDatabaseFile(DatabaseFile(), u"Ours"_s);
+    ConnectionString = ConnectionStringFor(DatabaseFile());
+    const QString path = Folder() / u"spoiled.mdb"_s;
+    MakeDatabaseFile(path, u"Theirs"_s);
+    const int page =
+        RowsOfFile(path, u"select rootpage from sqlite_master where name = '%1'"_s.arg(table)).value(0).toInt();
+    QVERIFY(page > 1);
+    QFile file(path);
+    constexpr int kPage = 4096;
+    QVERIFY(file.open(QFile::ReadWrite) && file.seek(qint64(page - 1) * kPage));
+    QCOMPARE(file.write(QByteArray(kPage, '\xff')), kPage);
+    file.close();
+    const QByteArray spoiled = Folder().Read(u"spoiled.mdb"_s);
+    QVERIFY(!IsValidDatabase(path));
+    QCOMPARE(Folder().Read(u"spoiled.mdb"_s), spoiled);
+    QCOMPARE(GetValueFromTable(u"tblPeople"_s, u"ID"_s, 1, u"LastName"_s).ToText(), u"Ours"_s);
   }
 
   void BackupsAreNumberedAboveTheHighest() {

@@ -43,9 +43,8 @@ int CompareTexts(void*, int lengthA, const void* a, int lengthB, const void* b) 
   return order != 0 ? order : QString::compare(foldedA, foldedB);
 }
 
-QString ErrorText(sqlite3* handle, const QString& path) {
-  QString message = handle ? QString::fromUtf8(sqlite3_errmsg(handle)) : u"out of memory"_s;
-  switch (handle ? sqlite3_errcode(handle) & 0xff : SQLITE_NOMEM) {
+QString ErrorText(int error, const QString& message, const QString& path) {
+  switch (error & 0xff) {
     case SQLITE_FULL:
       return u"There is not enough space on the disk."_s;
     case SQLITE_BUSY:
@@ -67,6 +66,11 @@ QString ErrorText(sqlite3* handle, const QString& path) {
   if (message.startsWith("no such table: "_L1)) return u"Could not find the table '%1'."_s.arg(message.mid(15));
   if (message.startsWith("no such column: "_L1)) return u"Could not find the field '%1'."_s.arg(message.mid(16));
   return message;
+}
+
+QString ErrorText(sqlite3* handle, const QString& path) {
+  if (!handle) return ErrorText(SQLITE_NOMEM, u"out of memory"_s, path);
+  return ErrorText(sqlite3_errcode(handle), QString::fromUtf8(sqlite3_errmsg(handle)), path);
 }
 
 /// Whether the file, not the statement, is at fault.
@@ -188,9 +192,10 @@ void BindValue(sqlite3_stmt* statement, int parameter, const Value& value, int t
 
 Prepared::~Prepared() { sqlite3_finalize(handle); }
 
-Database::Database(const QString& path) : path_(path) {
+Database::Database(const QString& path, Use use) : path_(path) {
   if (!QFileInfo::exists(path)) throw Failure(u"Could not find file '%1'."_s.arg(QDir::toNativeSeparators(path)));
-  // One thread drives the program, so the connection needs no lock of its own.
+  // One thread uses the connection, so it needs no lock of its own. A file that is only read is opened to write all the
+  // same: what a crash left half-written in it is taken back first.
   const int opened =
       sqlite3_open_v2(path.toUtf8().constData(), &handle_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   try {
@@ -201,9 +206,10 @@ Database::Database(const QString& path) : path_(path) {
     sqlite3_create_collation(handle_, "NOCASE", SQLITE_UTF8, nullptr, CompareTexts);
     // One process owns the file; a truncated journal with full syncs loses nothing when the power goes. The cache, in
     // KiB, holds what long work on a big loft reads again and again.
-    ExecuteRaw(
-        "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = TRUNCATE; PRAGMA synchronous = FULL;"
-        "PRAGMA cache_size = -16384; SELECT count(*) FROM sqlite_master");
+    ExecuteRaw(use == Use::Read ? "PRAGMA query_only = ON"
+                                : "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = TRUNCATE;"
+                                  "PRAGMA synchronous = FULL; PRAGMA cache_size = -16384");
+    ExecuteRaw("SELECT count(*) FROM sqlite_master");
     begin_ = Plain("BEGIN");
     commit_ = Plain("COMMIT");
     sqlite3_preupdate_hook(handle_, TellRow, &log_);
@@ -434,6 +440,33 @@ void Database::ChangeSchema(const QByteArray& sql) {
   ForgetPrepared();
   BeginIfNeeded();
   ExecuteRaw(sql);
+}
+
+void Database::CopyTo(const QString& path, const std::function<void(int, int)>& tell) {
+  constexpr int kPagesAtOnce = 256;
+  sqlite3* opened = nullptr;
+  const int found = sqlite3_open_v2(path.toUtf8().constData(), &opened,
+                                    SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+  const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> copy(opened, sqlite3_close);
+  // Nobody waits for the copy after a crash, so it needs neither a journal nor syncs.
+  if (found != SQLITE_OK ||
+      sqlite3_exec(opened, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF", nullptr, nullptr, nullptr))
+    throw Failure(ErrorText(opened, path));
+  const std::unique_ptr<sqlite3_backup, decltype(&sqlite3_backup_finish)> backup(
+      sqlite3_backup_init(opened, "main", handle_, "main"), sqlite3_backup_finish);
+  if (!backup) throw Failure(ErrorText(opened, path));
+  int result = SQLITE_OK;
+  while ((result = sqlite3_backup_step(backup.get(), kPagesAtOnce)) == SQLITE_OK) {
+    const int total = sqlite3_backup_pagecount(backup.get());
+    tell(total - sqlite3_backup_remaining(backup.get()), total);
+  }
+  if (result != SQLITE_DONE) throw Failure(ErrorText(result, QString::fromUtf8(sqlite3_errstr(result)), path));
+}
+
+void Database::DropAndCompact(const QString& table) {
+  ChangeSchema("DROP TABLE IF EXISTS [" + table.toUtf8() + ']');
+  Settle();
+  ExecuteRaw("VACUUM");
 }
 
 void Database::ForgetPrepared() {

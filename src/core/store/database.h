@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -51,8 +52,12 @@ struct Prepared {
 /// Everything throws Failure, with a text that a person can read; StorageFailure where the file itself failed.
 class Database {
  public:
+  /// The loft's own file, which nobody else may open meanwhile, or another one, which stays as it is: a statement that
+  /// writes fails.
+  enum class Use { Own, Read };
   /// Opens an existing file; a missing one, one that is no database and one in use by another process throw Failure.
-  explicit Database(const QString& path);
+  /// Each thread opens its own.
+  explicit Database(const QString& path, Use use = Use::Own);
   ~Database();
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
@@ -66,6 +71,13 @@ class Database {
   void Execute(const QString& statement);
   /// Creates or alters, in SQLite's own dialect; what was prepared before is forgotten.
   void ChangeSchema(const QByteArray& sql);
+
+  /// Copies what has been committed into a new file, page by page; the open transaction must not have written. `tell`
+  /// hears how many pages are done, of how many; what it throws ends the copying.
+  void CopyTo(const QString& path, const std::function<void(int done, int total)>& tell);
+  /// Drops a table, if it is there, and writes the file anew, so that no byte is left of what was ever deleted. Rows
+  /// may get other row ids, so this is for copies alone: the record of operations names its rows by theirs.
+  void DropAndCompact(const QString& table);
 
   /// What is wanted of a query: its rows, or only how many there are.
   enum class Want { Rows, Count };

@@ -12,7 +12,9 @@ const QString kNoCurrentRecord =
     u"Either BOF or EOF is True, or the current record has been deleted. "
     "Requested operation requires a current record."_s;
 
-Recordset::Recordset(const QString& source) : database_(&OpenDatabase()), source_(source) {
+Recordset::Recordset(const QString& source) : Recordset(OpenDatabase(), source) {}
+
+Recordset::Recordset(Database& file, const QString& source) : database_(&file), source_(source) {
   prepared_ = database_->Take(source);
   if (!prepared_->isQuery) {
     Database::GiveBack(prepared_);

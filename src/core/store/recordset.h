@@ -12,13 +12,14 @@
 /// What reading or writing says where no row is.
 extern const QString kNoCurrentRecord;
 
-/// The rows of a select or of a bare table name, over the shared connection: static (what others write meanwhile does
-/// not show), updatable in place when it stands on one table. It must not outlive the routine that opened it.
-/// Everything throws Failure: a closed connection, an unknown field, reading where no row is, a text too long for its
-/// field, a full disk.
+/// The rows of a select or of a bare table name, over the shared connection or in another file: static (what others
+/// write meanwhile does not show), updatable in place when it stands on one table. It must not outlive the routine that
+/// opened it. Everything throws Failure: a closed connection, an unknown field, reading where no row is, a text too
+/// long for its field, a full disk.
 class Recordset {
  public:
   explicit Recordset(const QString& source);
+  Recordset(Database& file, const QString& source);
   ~Recordset();
   Recordset(const Recordset&) = delete;
   Recordset& operator=(const Recordset&) = delete;
@@ -111,6 +112,7 @@ class Rows {
   };
 
   explicit Rows(const QString& source) : recordset_(source) {}
+  Rows(Database& file, const QString& source) : recordset_(file, source) {}
   Iterator begin() {
     RecordsetHasRows(recordset_);
     return Iterator(&recordset_);
