@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "core/failure.h"
+#include "core/long_work.h"
 #include "core/prompts.h"
 #include "core/stand_by.h"
 #include "core/store/access.h"
@@ -19,6 +20,8 @@ void CheckAllFields(bool showMessages) {
   OperationWith(
       u"Sub CheckAllFields"_s,
       [&] {
+        LongWork work(u"Checking tables and fields"_s, static_cast<qint64>(Schema().size()),
+                      LongWork::Cancelling::Impossible);
         for (const SchemaTable& table : Schema()) {
           tableName = table.table;
           field = table.key;
@@ -29,6 +32,7 @@ void CheckAllFields(bool showMessages) {
             field = wanted;
             FieldExists(field.size, showMessages, tableName, field, field.type);
           }
+          work.Step();
         }
         CreateIndexes();
       },

@@ -5,6 +5,7 @@
 #include "core/data_folder.h"
 #include "core/files.h"
 #include "core/format.h"
+#include "core/long_work.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
 #include "core/store/rows.h"
@@ -26,13 +27,17 @@ QString LocalFile() { return QDir::current().filePath(kFile); }
 /// Lines read one by one; behind the end they are empty.
 class Reader {
  public:
-  explicit Reader(const QStringList& lines) : lines_(lines) {}
+  Reader(const QStringList& lines, LongWork& work) : lines_(lines), work_(work) {}
   bool AtEnd() const { return at_ >= lines_.size(); }
-  QString Next() { return lines_.value(at_++); }
+  QString Next() {
+    work_.Step();
+    return lines_.value(at_++);
+  }
   int NextNumber() { return Value(Val(Next())).ToInt(); }
 
  private:
   const QStringList& lines_;
+  LongWork& work_;
   qsizetype at_ = 0;
 };
 
@@ -106,7 +111,8 @@ void ImportModels(bool silent) {
       if (!AskYes(u"Valid file.  Ready to import?"_s, kProgramTitle)) return;
     }
     const bool written = Operation(u"Sub ImportModels"_s, [&] {
-      Reader reader(lines);
+      LongWork work(u"Importing manufacturers and models"_s, lines.size());
+      Reader reader(lines, work);
       ReadManufacturers(reader);
       ReadModels(reader);
     });

@@ -11,7 +11,7 @@ bool IsModelsFile(const QStringList& lines);
 void ExportModels();
 
 /// Reads models and manufacturers into a database that has no models. `silent` takes models.txt of the support folder
-/// without a question; otherwise the person chooses the file.
+/// without a question; otherwise the person chooses the file. Cancelled, it takes nothing in.
 void ImportModels(bool silent);
 /// The file that the person chooses, empty when cancelled.
 QString GetModelfileforImport();

@@ -1,6 +1,7 @@
 #include "schedule/reconstruct.h"
 
 #include "core/default_rows.h"
+#include "core/long_work.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
@@ -43,12 +44,14 @@ void AddRowsOf(const Recordset& component, const QList<Completion>& completions,
 
 void ReconstructSchedules() {
   Operation(u"Sub ReconstructSchedules"_s, [] {
+    LongWork work(u"Reconstructing schedules"_s, GetNumberRecordsInTable(tblComponents::kTable));
     const QList<Entry> entries = ScheduledEntries();
     DeleteAllRecords(tblSchedules::kTable, false);
     const QHash<int, QList<Completion>> completions = AllCompletions();
     for (const Recordset& component : Rows(Select(tblComponents::kTable).OrderBy(tblComponents::TypeID))) {
       const auto found = completions.constFind(component[tblComponents::ID].ToInt());
       if (found != completions.constEnd()) AddRowsOf(component, *found, entries);
+      work.Step();
     }
   });
 }
@@ -56,7 +59,9 @@ void ReconstructSchedules() {
 void AuditScheduleTaskLib() {
   int updates = 0;
   const bool written = Operation(u"Sub AuditScheduleTaskLib"_s, [&] {
+    LongWork work(u"Auditing schedule entries"_s, GetNumberRecordsInTable(tblSchedules::kTable));
     for (const Recordset& row : Rows(tblSchedules::kTable)) {
+      work.Step();
       const Value entry = GetValueFromTable(tblTasks::ID, row[tblSchedules::TaskID].ToInt(), tblTasks::TaskLibID);
       if (entry.IsEmpty() || entry.ToInt() == row[tblSchedules::TaskLibID].ToInt()) continue;
       EditRow(tblSchedules::ID == row[tblSchedules::ID].ToInt(), {{tblSchedules::TaskLibID, entry.ToInt()}});

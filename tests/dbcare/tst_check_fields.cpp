@@ -5,6 +5,7 @@
 #include "support/scripted_prompts.h"
 #include "support/store_fixture.h"
 #include "support/test_program.h"
+#include "support/work_watch.h"
 
 using namespace Qt::StringLiterals;
 
@@ -43,6 +44,28 @@ class CheckFieldsTest : public QObject {
     }
     QCOMPARE(Schema().size(), size_t{25});
     QVERIFY(OpenDatabase().CountIndexes() > 0);
+  }
+
+  void ItTellsHowFarItIsAndCantBeCancelled() {
+    {
+      Bracket bracket;
+      OpenDatabase().ChangeSchema("ALTER TABLE tblTasks DROP COLUMN LocationID");
+    }
+    ScriptedPrompts prompts;
+    WorkWatch watch;
+    watch.cancels = true;
+    prompts
+        .ExpectBox(u"Database updated"_s,
+                   u"A field is being added to your database.\n\nTable: tblTasks\nNew field: LocationID"_s)
+        .Meanwhile(&WorkWatch::LetTimePass);
+    CheckAllFields(true);
+    QCOMPARE(watch.shown.size(), 1);
+    QCOMPARE(watch.shown[0].total, static_cast<qint64>(Schema().size()));
+    QVERIFY(watch.shown[0].done > 0 && !watch.shown[0].canCancel && !watch.isShown);
+    QCOMPARE(GetValueFromTable(u"tblTasks"_s, u"ID"_s, 1, u"LocationID"_s), Value());
+    Bracket bracket;
+    QVERIFY(Recordset(u"tblTasks"_s).ColumnOf(u"LocationID") > 0);
+    bracket.Close();
   }
 
   void AMissingFieldIsAddedAndAllRowsStay() {

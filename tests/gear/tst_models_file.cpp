@@ -6,6 +6,7 @@
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"
+#include "support/work_watch.h"
 
 using namespace Qt::StringLiterals;
 
@@ -60,6 +61,20 @@ class TestModelsFile : public QObject {
     shop.ImportSilently(content);
     QCOMPARE(shop.Makers(), QStringList(u"4|PD"_s));
     QCOMPARE(shop.Models(), QStringList(u"Storm|4|2|0|0"_s));
+  }
+
+  void ACancelledImportTakesNothingIn() {
+    const EmptyCatalogue shop;
+    WorkWatch watch;
+    watch.cancels = true;
+    QByteArray content = "<mfg>\nPD\n4\n<end mfg>\n";
+    for (int i = 0; i < 50000; ++i) content += "Storm " + QByteArray::number(i) + "\n4\n2\n0\n";
+    shop.ImportSilently(content);
+    QCOMPARE(watch.shown.size(), 1);
+    QCOMPARE(watch.shown[0].total, 200004);
+    QVERIFY(watch.shown[0].done > 4 && watch.shown[0].done < 200004);
+    QCOMPARE(shop.Makers(), QStringList());
+    QCOMPARE(shop.Models(), QStringList());
   }
 
   void NamesAreReadInTheirEncoding_data() {

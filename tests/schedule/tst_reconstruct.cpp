@@ -3,6 +3,7 @@
 #include "schedule/reconstruct.h"
 #include "schedule/sample_rig.h"
 #include "support/test_program.h"
+#include "support/work_watch.h"
 
 using namespace Qt::StringLiterals;
 
@@ -81,6 +82,44 @@ class TestReconstruct : public QObject {
     shop.prompts.ExpectBox(u"Sub AddSchedule"_s, u"Type mismatch"_s);
     ReconstructSchedules();
     QCOMPARE(shop.Schedules().size(), 1);
+  }
+
+  void CancelledItLeavesTheScheduleAsItWas() {
+    SampleRig shop;
+    shop.AddRepack(Day(3, 1, 2026));
+    shop.AddDone(shop.aadCheck, Day(8, 31, 2025), {shop.aad}, shop.rig);
+    shop.AddSchedule(shop.rig, 1, Day(1, 1, 2026), 77, 0);
+    const QStringList before = shop.loft.Snapshot();
+    WorkWatch watch;
+    watch.cancels = true;
+    shop.prompts.ExpectBox(u"Sub AddSchedule"_s, u"Type mismatch"_s).Meanwhile(&WorkWatch::LetTimePass);
+    ReconstructSchedules();
+    QCOMPARE(shop.loft.Snapshot(), before);
+    QCOMPARE(watch.shown.size(), 1);
+    QCOMPARE(QStringList(QString::number(watch.shown[0].total)),
+             shop.loft.Rows(u"select count(*) from tblComponents"_s));
+    QVERIFY(watch.shown[0].done > 0 && !watch.isShown);
+    watch.cancels = false;
+    shop.prompts.ExpectBox(u"Sub AddSchedule"_s, u"Type mismatch"_s);
+    ReconstructSchedules();
+    QCOMPARE(shop.Schedules().size(), 1);
+    QVERIFY(shop.loft.Snapshot() != before);
+  }
+
+  void ACancelledAuditPutsNothingRightAndTellsNothing() {
+    SampleRig shop;
+    constexpr int kRows = 20000;
+    const int line = shop.AddDone(shop.aadCheck, Day(2, 1, 2026), {shop.aad}, shop.rig);
+    shop.loft.Run(u"insert into tblSchedules (rigID, TaskLibID, TaskID) values (%1, 7, %2)"_s.arg(shop.rig).arg(line));
+    for (int rows = 1; rows < kRows; rows *= 2)
+      shop.loft.Run(
+          u"insert into tblSchedules (rigID, TaskLibID, TaskID) select rigID, TaskLibID, TaskID from "
+          "tblSchedules"_s);
+    WorkWatch watch;
+    watch.cancels = true;
+    AuditScheduleTaskLib();
+    QCOMPARE(watch.shown.size(), 1);
+    QCOMPARE(shop.loft.Rows(u"select count(*) from tblSchedules where TaskLibID <> 7"_s), QStringList(u"0"_s));
   }
 
   void AnEntryWithoutAnIntervalIsLeftOut() {
