@@ -5,6 +5,7 @@
 #include "core/stand_by.h"
 #include "core/trap.h"
 #include "dbcare/copy_folder.h"
+#include "dbcare/copy_for_others.h"
 #include "dbcare/new_database.h"
 
 using namespace Qt::StringLiterals;
@@ -38,8 +39,9 @@ bool ExportBackups(const QString& folder) {
   if (!PersonIsReady(count, folder)) return false;
   Trap(u"Sub ExportBackups"_s, [&] {
     SetBusyPointer(true);
+    LongWork work(u"copying"_s, count);
     int copied = 0;
-    CopyFolder(BackupFolder(), folder, copied);
+    CopyFolder(work, BackupFolder(), folder, copied, CopyFileForOthers);
   });
   UnloadStandBy();
   SetBusyPointer(false);

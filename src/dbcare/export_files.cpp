@@ -11,6 +11,7 @@
 #include "core/text.h"
 #include "core/trap.h"
 #include "dbcare/copy_folder.h"
+#include "dbcare/copy_for_others.h"
 #include "dbcare/new_database.h"
 #include "dbcare/version_file.h"
 
@@ -66,30 +67,39 @@ bool PersonIsReadyToExport(const QString& folder) {
 bool ExportDatabase(const QString& folder) {
   ShowStandBy(u"copying database file"_s);
   LetGoOfDatabaseFile();
-  return MyFileCopy(DatabaseFile(), JoinPath(folder, u"loftkeep.mdb"_s));
+  return CopyLoftForOthers(JoinPath(folder, u"loftkeep.mdb"_s));
 }
 
 struct ExportedFolder {
-  const char16_t* name;
-  const char16_t* words;
+  QString name;
+  QString words;
 };
+
+QList<ExportedFolder> ExportedFolders(bool withArchive) {
+  QList<ExportedFolder> folders = {{u"photos/hires"_s, u" hi resolution photos"_s},
+                                   {u"photos/thumbnail"_s, u" thumbnail photos"_s},
+                                   {u"photos/archive"_s, u" archived photos"_s},
+                                   {u"backup"_s, u" backup database files"_s},
+                                   {u"support"_s, u" support files"_s}};
+  if (!withArchive) folders.remove(2);
+  return folders;
+}
 
 /// True when every file was copied; `listing` tells what was.
 bool ExportLoft(const QString& folder, bool withArchive, QStringList& listing) {
+  const QList<ExportedFolder> folders = ExportedFolders(withArchive);
+  int files = 1;  // the database
+  for (const ExportedFolder& exported : folders) files += FilesToCopy(DataPath + exported.name);
+  LongWork work(u"copying"_s, files);
   listing = {u"The following files were copied:"_s, QString()};
   bool complete = ExportDatabase(folder);
   if (complete) listing << u"Your main database file."_s;
+  work.Done(1);
   CreateFolder(JoinPath(folder, u"photos"_s));
-  for (const auto& [name, words] : {ExportedFolder{u"photos/hires", u" hi resolution photos"},
-                                    {u"photos/thumbnail", u" thumbnail photos"},
-                                    {u"photos/archive", u" archived photos"},
-                                    {u"backup", u" backup database files"},
-                                    {u"support", u" support files"}}) {
-    const QString source = QString::fromUtf16(name);
-    if (source == "photos/archive"_L1 && !withArchive) continue;
+  for (const ExportedFolder& exported : folders) {
     int count = 0;
-    complete = ExportFiles(folder, source, count) && complete;
-    listing << QString::number(count) + QString::fromUtf16(words);
+    complete = ExportFiles(work, folder, exported.name, count) && complete;
+    listing << QString::number(count) + exported.words;
   }
   return complete;
 }
@@ -151,8 +161,9 @@ bool AskArchivePhotos(double& size) {
                 u"Includ deleted photos?"_s);
 }
 
-bool ExportFiles(const QString& ToFolder, const QString& FolderName, int& count) {
-  return CopyFolder(PlatformPath(DataPath + FolderName), PlatformPath(JoinPath(ToFolder, FolderName)), count);
+bool ExportFiles(LongWork& work, const QString& ToFolder, const QString& FolderName, int& count) {
+  return CopyFolder(work, PlatformPath(DataPath + FolderName), PlatformPath(JoinPath(ToFolder, FolderName)), count,
+                    CopyFileForOthers);
 }
 
 bool AcceptExportFolder(const QString& folder) {

@@ -62,15 +62,15 @@ bool ImportDatabase(const QString& folder) {
   return copied;
 }
 
-void ImportFolder(const QString& folder, const QString& name) {
+void ImportFolder(LongWork& work, const QString& folder, const QString& name) {
   ShowStandBy(u"copying "_s + name + u"......"_s);
   int count = 0;
-  CopyFolder(PlatformPath(JoinPath(folder, name)), PlatformPath(DataPath + name), count);
+  CopyFolder(work, PlatformPath(JoinPath(folder, name)), PlatformPath(DataPath + name), count);
   PauseOnStandBy();
 }
 
 /// Each one becomes a new backup: the numbers of two computers mean different files.
-void ImportBackups(const QString& folder) {
+void ImportBackups(LongWork& work, const QString& folder) {
   const QString source = JoinPath(folder, u"backup"_s);
   QStringList names;
   GetFolderFiles(source, names);
@@ -78,6 +78,7 @@ void ImportBackups(const QString& folder) {
     const QString target = NextDBfile();
     ShowStandBy(u"creating backup file "_s + target);
     MyFileCopy(JoinPath(source, name), BackupFolder() + target);
+    work.Step();
   }
   PauseOnStandBy();
 }
@@ -92,6 +93,20 @@ void CheckImportedFiles() {
   ShowStep(u"done"_s);
 }
 
+/// True when the database was imported. What has been overwritten can't be had back, so there is no way out midway.
+bool ImportLoft(const QString& folder) {
+  const QStringList copied = {u"support"_s, u"photos/hires"_s, u"photos/thumbnail"_s};
+  int files = 1;  // the database
+  for (const QString& name : copied + QStringList{u"backup"_s}) files += FilesToCopy(JoinPath(folder, name));
+  LongWork work(u"copying"_s, files, LongWork::Cancelling::Impossible);
+  const bool imported = ImportDatabase(folder);
+  work.Step();
+  for (const QString& name : copied) ImportFolder(work, folder, name);
+  ImportBackups(work, folder);
+  if (ExistFile(DatabaseFile())) CheckImportedFiles();
+  return imported;
+}
+
 }  // namespace
 
 bool Importingfiles(const QString& folder) {
@@ -102,10 +117,7 @@ bool Importingfiles(const QString& folder) {
     if (!FolderExists(DataPath)) return;  // the box has told why
     CreateSubFolders();
     BackUpPresentDatabase();
-    imported = ImportDatabase(folder);
-    for (const QString& name : {u"support"_s, u"photos/hires"_s, u"photos/thumbnail"_s}) ImportFolder(folder, name);
-    ImportBackups(folder);
-    if (ExistFile(DatabaseFile())) CheckImportedFiles();
+    imported = ImportLoft(folder);
   });
   UnloadStandBy();
   return imported;

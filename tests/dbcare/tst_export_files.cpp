@@ -13,6 +13,7 @@
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
+#include "support/work_watch.h"
 
 using namespace Qt::StringLiterals;
 
@@ -72,8 +73,11 @@ class ExportFilesTest : public QObject {
     expected.remove(u"loftkeep.lock"_s);
     expected.remove(u"other"_s);
     expected.remove(u"loftkeep.mdb-journal"_s);
-    QCOMPARE(FilesBelow(target_).keys(), expected.keys());
-    QCOMPARE(FilesBelow(target_), expected);
+    auto exported = FilesBelow(target_);
+    QCOMPARE(exported.keys(), expected.keys());
+    QCOMPARE(CustomersIn(target_ + u"/loftkeep.mdb"_s), CustomersIn(DatabaseFile()));
+    for (auto* files : {&exported, &expected}) files->remove(u"loftkeep.mdb"_s);
+    QCOMPARE(exported, expected);
     QCOMPARE(steps.first(), u"copying database file"_s);
     QVERIFY(steps.contains(u"copying old.jpg"_s) && steps.contains(u"copying db00001.mdb"_s));
     QVERIFY(!prompts.ShowsBusyPointer());
@@ -153,11 +157,32 @@ class ExportFilesTest : public QObject {
   void ADatabaseThatDoesNotFitIsNotCalledCopied() {
     ScriptedPrompts prompts;
     ExpectQuestions(prompts, kExport + 1, GetTotalExportSize(), false);
-    prompts.ExpectBox(u"Sub MyFileCopy"_s, u"File too large\nSource file = "_s + target_ + u"/loftkeep.mdb"_s);
+    prompts.ExpectBox(u"Function CopyLoftForOthers"_s, u"disk I/O error"_s);
     ExpectListing(prompts, u"2 hi resolution photos\n1 thumbnail photos\n1 backup database files\n2 support files"_s);
     const FullDisk disk(1000);
     MoveProgram([this] { return target_; });
     QVERIFY(!ExistFile(target_ + u"/loftkeep.mdb"_s));
+  }
+
+  void WhoCancelsIsToldWhatWasCopiedAndNotOfSuccess() {
+    ScriptedPrompts prompts;
+    WorkWatch watch;
+    SetStandByNotice({[](const QString& text) {
+                        if (text == "copying c2.jpg"_L1) WorkWatch::LetTimePass();
+                      },
+                      [] {}, [] {}});
+    watch.meanwhile = [&] { watch.cancels = true; };
+    ExpectQuestions(prompts, kExport + 1, GetTotalExportSize(), false);
+    ExpectListing(prompts,
+                  u"Your main database file.\n1 hi resolution photos\n0 thumbnail photos\n"
+                  "0 backup database files\n0 support files"_s);
+    MoveProgram([this] { return target_; });
+    QCOMPARE(watch.shown[0].total, 7);
+    QCOMPARE(watch.shown[0].done, 2);
+    QVERIFY(!watch.isShown);
+    QVERIFY(!prompts.ShowsBusyPointer());
+    QCOMPARE(FilesBelow(target_ + u"/photos/hires"_s).keys(), QStringList(u"c1.jpg"_s));
+    QVERIFY(!FolderExists(DataPath + u"loftkeep.mdb.scratch"_s));
   }
 
   void AnotherComputerTakesTheExport() {

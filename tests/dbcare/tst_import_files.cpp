@@ -12,6 +12,7 @@
 #include "support/refusing_disk.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
+#include "support/work_watch.h"
 
 using namespace Qt::StringLiterals;
 
@@ -89,6 +90,25 @@ class ImportFilesTest : public QObject {
                           u"Blank.mdb imported"_s, u"Models table imported"_s, u"Helptext.txt imported"_s, u"done"_s,
                           u"(gone)"_s}));
     QCOMPARE(pauses, 9);
+  }
+
+  void ThereIsNoWayOutMidway() {
+    ScriptedPrompts prompts;
+    MakeOwnLoft();
+    home_->Folder().Write(u"work/blank.mdb"_s, "an empty database");
+    WorkWatch watch;
+    watch.cancels = true;
+    SetStandByNotice({[](const QString& text) {
+                        if (text == "Database file imported"_L1) WorkWatch::LetTimePass();
+                      },
+                      [] {}, [] {}});
+    ExpectWarning(prompts, Answer::Yes);
+    ExpectBackup(prompts, u"db00002.mdb"_s);
+    QVERIFY(Importingfiles(export_));
+    QVERIFY(!watch.shown.isEmpty() && !watch.isShown);
+    QVERIFY(!watch.shown[0].canCancel);
+    QCOMPARE(watch.shown[0].total, 7);  // a database, two support files, two photos, two backups
+    QCOMPARE(Read(u"backup/db00004.mdb"_s), QByteArray("their second"));
   }
 
   void ANewComputerGetsItsDataFolder() {
