@@ -47,6 +47,8 @@ void LongWork::Step(qint64 more) {
   if (Cancelled()) throw WorkCancelled();
 }
 
+bool LongWork::Stands() { return standing != nullptr; }
+
 void LongWork::GoesOn() {
   if (standing && standing->thread_ == QThread::currentThreadId()) standing->KeepAlive();
 }

@@ -37,7 +37,7 @@ class LongWork {
   LongWork(const LongWork&) = delete;
   LongWork& operator=(const LongWork&) = delete;
 
-  /// So much is done. These four are for the thread that made the work, and for its worker.
+  /// So much is done. This and what follows is for the thread that made the work, and for its worker.
   void Done(qint64 done);
   qint64 Done() const { return done_; }
   void SetTotal(qint64 total) { total_ = total; }
@@ -45,6 +45,8 @@ class LongWork {
   /// So much more is done. Throws WorkCancelled when the person wants no more.
   void Step(qint64 more = 1);
 
+  /// True while any work stands: nothing else may be started.
+  static bool Stands();
   /// For a routine that takes its time inside whatever work stands: keeps the wait form alive.
   static void GoesOn();
 

@@ -8,17 +8,19 @@
 #include "core/prompts.h"
 
 /// For a reading that is worth nothing in part: while one stands, the routines within show no box of their own, and
-/// their failure goes on to whoever holds it. Nothing may be shown meanwhile.
+/// their failure goes on to whoever holds it. What runs while events are handled is not within.
 class AllOrNothing {
  public:
-  AllOrNothing() { ++standing_; }
-  ~AllOrNothing() { --standing_; }
+  AllOrNothing() : outer_(std::exchange(depth_, EventsRun::Depth())) {}
+  ~AllOrNothing() { depth_ = outer_; }
   AllOrNothing(const AllOrNothing&) = delete;
   AllOrNothing& operator=(const AllOrNothing&) = delete;
-  static bool Stands() { return standing_ > 0; }
+  static bool Stands() { return depth_ == EventsRun::Depth(); }
 
  private:
-  static inline int standing_ = 0;
+  static constexpr int kNone = -1;
+  static inline int depth_ = kNone;  // of the innermost
+  int outer_;
 };
 
 /// The text of an error as its box shows it.

@@ -37,13 +37,15 @@ bool ExportBackups(const QString& folder) {
     return false;
   }
   if (!PersonIsReady(count, folder)) return false;
+  bool cancelled = false;
   Trap(u"Sub ExportBackups"_s, [&] {
     SetBusyPointer(true);
     LongWork work(u"copying"_s, count);
     int copied = 0;
     CopyFolder(work, BackupFolder(), folder, copied, CopyFileForOthers);
+    cancelled = work.Cancelled();
   });
   UnloadStandBy();
   SetBusyPointer(false);
-  return true;
+  return !cancelled;
 }

@@ -77,11 +77,10 @@ struct ExportedFolder {
 
 QList<ExportedFolder> ExportedFolders(bool withArchive) {
   QList<ExportedFolder> folders = {{u"photos/hires"_s, u" hi resolution photos"_s},
-                                   {u"photos/thumbnail"_s, u" thumbnail photos"_s},
-                                   {u"photos/archive"_s, u" archived photos"_s},
-                                   {u"backup"_s, u" backup database files"_s},
-                                   {u"support"_s, u" support files"_s}};
-  if (!withArchive) folders.remove(2);
+                                   {u"photos/thumbnail"_s, u" thumbnail photos"_s}};
+  if (withArchive) folders << ExportedFolder{u"photos/archive"_s, u" archived photos"_s};
+  folders << ExportedFolder{u"backup"_s, u" backup database files"_s}
+          << ExportedFolder{u"support"_s, u" support files"_s};
   return folders;
 }
 

@@ -209,6 +209,19 @@ class LongWorkTest : public QObject {
     QCOMPARE(shop.loft.Rows(u"select RigAlias from tblRig"_s), QStringList(u"Blue"_s));
   }
 
+  void AReadingThatIsAllOrNothingDoesNotHoldWhatRunsMeanwhile() {
+    ScriptedPrompts prompts;
+    prompts.ExpectBox(u"Sub Tick"_s, u"Type mismatch"_s);
+    WorkWatch watch;
+    watch.meanwhile = [] { QVERIFY(!Trap(u"Sub Tick"_s, [] { throw Failure(u"Type mismatch"_s); })); };
+    const AllOrNothing whole;
+    LongWork work(u"Reading"_s);
+    WorkWatch::LetTimePass();
+    work.Step();
+    QCOMPARE(watch.shown.size(), 1);
+    QVERIFY_THROWS_EXCEPTION(Failure, Trap(u"Sub Read"_s, [] { throw Failure(u"Type mismatch"_s); }));
+  }
+
   void ACancelledCopyLeavesTheOldFile() {
     const ScriptedPrompts prompts;
     const TempFolder folder;

@@ -2,6 +2,7 @@
 
 #include "core/data_folder.h"
 #include "core/files.h"
+#include "core/stand_by.h"
 #include "core/store/access.h"
 #include "core/store/operation.h"
 #include "core/store/undo.h"
@@ -15,6 +16,7 @@
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"
+#include "support/work_watch.h"
 
 using namespace Qt::StringLiterals;
 
@@ -108,6 +110,23 @@ class CopyForOthersTest : public QObject {
     QCOMPARE(QFileInfo(copy).lastModified(), written);
     QVERIFY(HoldsRecord(source));
     QCOMPARE(QDir(DataPath).entryList({u"*scratch*"_s}, QDir::Files), QStringList());
+  }
+
+  void ACancelledExportOfBackupsIsNotDone() {
+    ScriptedPrompts prompts;
+    for (const char* name : {"a.txt", "b.txt", "c.txt"})
+      home_->Folder().Write(u"home/loftkeep/backup/"_s + QString::fromLatin1(name), "backup");
+    WorkWatch watch;
+    watch.cancels = true;
+    SetStandByNotice({[](const QString& text) {
+                        if (text == "copying b.txt"_L1) WorkWatch::LetTimePass();
+                      },
+                      [] {}, [] {}});
+    prompts.AnswerRestWith([](const ShownPrompt&) { return Answer::Yes; });
+    QVERIFY(!ExportBackups(target_));
+    SetStandByNotice({});
+    QCOMPARE(FilesBelow(target_).keys(), QStringList(u"a.txt"_s));
+    QVERIFY(!watch.isShown && !prompts.ShowsBusyPointer());
   }
 
   void ABackupWithoutARecordIsCopiedAsItIs() {

@@ -4,6 +4,7 @@
 #include <QToolTip>
 
 #include "core/format.h"
+#include "core/long_work.h"
 #include "core/prompts.h"
 #include "core/store/operation.h"
 #include "core/store/undo.h"
@@ -25,7 +26,8 @@ bool IsConfirmed(const Form& form, const RecordedOperation& operation, const QSt
 
 bool Run(Form& form, const QString& verb, const QString& done, std::optional<RecordedOperation> (*next)(),
          bool (*run)()) {
-  if (OperationScope::AnyStands()) return false;  // below a box or a dialog of one that has not ended
+  // One that has not ended may stand below a box or a dialog, and the wait form has the keys of any form.
+  if (OperationScope::AnyStands() || LongWork::Stands()) return false;
   const auto operation = next();
   if (!operation) {
     Tell(form, u"There is nothing to %1."_s.arg(verb.toLower()));

@@ -13,6 +13,7 @@
 #include "core/store/undo.h"
 #include "core/widgets/form.h"
 #include "core/widgets/qt_prompts.h"
+#include "core/widgets/undo_keys.h"
 #include "support/screens/controls.h"
 #include "support/screens/keyboard.h"
 #include "support/screens/screen_script.h"
@@ -159,6 +160,25 @@ class WaitFormTest : public QObject {
     QCOMPARE(shop_->started, 0);
     QVERIFY(shop_->isVisible());
     QVERIFY(!work.Cancelled());
+  }
+
+  void NothingIsTakenBackMeanwhile() {
+    const ScriptedPrompts prompts;
+    const ThrowAwayLoft loft;
+    Forms::SetInFront(QString());
+    const auto add = [] { UpdateTableBySQL(u"insert into tblRig (RigAlias) values ('Blue')"_s); };
+    QVERIFY(Operation(u"Sub AddRig"_s, add));
+    const auto undo = [this] { QTest::keyClick(WaitForm()->windowHandle(), Qt::Key_Z, Qt::ControlModifier); };
+    {
+      LongWork work(u"Reading"_s, 12);
+      OnceShown(undo);
+      Labour(work);
+      QVERIFY(happened_);
+    }
+    QVERIFY(NextUndo().has_value());
+    QCOMPARE(loft.Rows(u"select RigAlias from tblRig"_s), QStringList(u"Blue"_s));
+    QVERIFY(UndoOnScreen(*shop_));
+    QCOMPARE(loft.Rows(u"select RigAlias from tblRig"_s), QStringList());
   }
 
   void WhatIsPressedBeforeTheFormComesStartsNothing() {
