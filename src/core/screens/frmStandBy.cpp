@@ -16,6 +16,7 @@ frmStandBy::frmStandBy() : ui_(std::make_unique<Ui::frmStandBy>()) {
   setAttribute(Qt::WA_ShowWithoutActivating);
   ui_->setupUi(this);
   SetRemembersPlace(false);
+  SetIsWorkedOn(false);
   connect(ui_->cmdCancel, &QPushButton::clicked, this, [this] { Cancel(); });
 }
 

@@ -30,8 +30,6 @@ class frmStandBy : public Form {
  protected:
   /// Esc and the button cancel the work, where that can be done.
   void Cancel() override;
-  /// It comes to the front by itself; the person still works on the screen behind it.
-  void changeEvent(QEvent* event) override { QDialog::changeEvent(event); }
 
  private:
   void BecomeWaitForm(const QString& caption);

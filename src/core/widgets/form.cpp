@@ -189,7 +189,7 @@ void Form::showEvent(QShowEvent* event) {
 
 void Form::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Forms::SetInFront(FormName());
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && isWorkedOn_) Forms::SetInFront(FormName());
 }
 
 void Form::hideEvent(QHideEvent* event) {

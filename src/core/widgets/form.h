@@ -45,6 +45,8 @@ class Form : public QDialog, public LoadedForm {
   void Leave();
   /// Places and sizes that are remembered between runs; a dialog that is placed anew each time turns it off.
   void SetRemembersPlace(bool remembers) { remembersPlace_ = remembers; }
+  /// Screens are worked on, and the record of operations names them; a form that shows by itself turns it off.
+  void SetIsWorkedOn(bool worked) { isWorkedOn_ = worked; }
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -61,6 +63,7 @@ class Form : public QDialog, public LoadedForm {
   QString tag_;
   QPointer<QWidget> caller_;
   bool remembersPlace_ = true;
+  bool isWorkedOn_ = true;
   bool placed_ = false;
   bool modal_ = false;
   bool unloaded_ = false;
