@@ -63,8 +63,8 @@ bool IsValidDatabase(const QString& path) {
   LongWork work(kPleaseWait, 0, LongWork::Cancelling::Impossible);
   try {
     ReadAside(work, path, [](Database& file) {
-      for (const QString& table : {u"tblPeople"_s, u"tblRig"_s, u"tblComponents"_s, u"tblModels"_s, u"tblTasks"_s,
-                                   u"tblJobs"_s, u"tblSchedules"_s, u"tblMisc"_s})
+      for (const Table& table : {tblPeople::kTable, tblRig::kTable, tblComponents::kTable, tblModels::kTable,
+                                 tblTasks::kTable, tblJobs::kTable, tblSchedules::kTable, tblMisc::kTable})
         const Recordset opened(file, table);
     });
   } catch (const Failure&) {
