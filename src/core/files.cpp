@@ -32,6 +32,9 @@ void OpenToRead(QFile& file) {
   CheckThat(file.open(QFile::ReadOnly), file);
 }
 
+/// Without a buffer, so that the write that fails is the one that tells why.
+void OpenToWrite(QSaveFile& file) { CheckThat(file.open(QFile::WriteOnly | QFile::Unbuffered), file); }
+
 // A disk that fills up takes a part first; only the next write tells why.
 void WriteAll(QFileDevice& file, const QByteArray& content) {
   for (qint64 done = 0; done < content.size();) {
@@ -39,7 +42,6 @@ void WriteAll(QFileDevice& file, const QByteArray& content) {
     CheckThat(written > 0, file);
     done += written;
   }
-  CheckThat(file.flush(), file);
 }
 
 void Commit(QSaveFile& file) {
@@ -73,7 +75,7 @@ void Copy(const QString& source, const QString& destination) {
   QFile from(source);
   OpenToRead(from);
   QSaveFile to(destination);
-  CheckThat(to.open(QFile::WriteOnly), to);
+  OpenToWrite(to);
   LongWork work(u"copying "_s + QFileInfo(source).fileName(), from.size(), LongWork::Cancelling::Impossible);
   while (!from.atEnd()) {
     const QByteArray block = from.read(kCopyBlock);
@@ -165,7 +167,7 @@ QByteArray ReadFile(const QString& path) {
 
 void ReplaceFileSafely(const QString& path, const QByteArray& content) {
   QSaveFile file(PlatformPath(path));
-  CheckThat(file.open(QFile::WriteOnly), file);
+  OpenToWrite(file);
   WriteAll(file, content);
   Commit(file);
 }

@@ -214,9 +214,15 @@ class TestFiles : public QObject {
     QVERIFY_THROWS_EXCEPTION(Failure, ReadFile(temp / u"missing"_s));
     QVERIFY_THROWS_EXCEPTION(Failure, ReadFile(temp.Path()));
     QVERIFY_THROWS_EXCEPTION(Failure, ReplaceFileSafely(temp.Path(), "new"));
-    {
+    for (const int size : {3000, 100000}) {  // one that fits into a buffer, and one that does not
       const FullDisk disk(1000);
-      QVERIFY_THROWS_EXCEPTION(Failure, ReplaceFileSafely(path, QByteArray(100000, 'x')));
+      QString error;
+      try {
+        ReplaceFileSafely(path, QByteArray(size, 'x'));
+      } catch (const Failure& failure) {
+        error = failure.Text();
+      }
+      QCOMPARE(error, u"File too large"_s);
     }
     QCOMPARE(temp.Read(u"file"_s), QByteArray("new"));
     SetMode(temp.Path(), 0555);
