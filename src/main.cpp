@@ -1,30 +1,14 @@
 #include <QAbstractEventDispatcher>
-#include <QApplication>
 
 #include "core/prompts.h"
 #include "core/screens.h"
 #include "core/shell/start_up.h"
 #include "core/store/connection.h"
-#include "core/trap.h"
+#include "core/widgets/application.h"
 #include "core/widgets/qt_prompts.h"
 #include "core/widgets/theme.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The last line: what no routine's trap has caught is told, and the screens go on.
-class Application : public QApplication {
- public:
-  using QApplication::QApplication;
-  bool notify(QObject* receiver, QEvent* event) override {
-    bool handled = false;
-    Trap(kProgramTitle, [&] { handled = QApplication::notify(receiver, event); });
-    return handled;
-  }
-};
-
-}  // namespace
 
 int main(int argc, char** argv) {
   Application app(argc, argv);

@@ -17,8 +17,15 @@ class Failure : public std::exception {
 };
 
 /// The file itself failed: a full disk, an unreadable page, a commit that did not go through. What the running
-/// operation wrote has been taken back, and traps let it pass to the outermost operation.
+/// operation wrote has been taken back, and traps let it pass to the outermost operation, or to the end of what the
+/// person did.
 class StorageFailure : public Failure {
  public:
   using Failure::Failure;
+  /// The outermost routine that has let it pass, empty for none.
+  const QString& Routine() const { return routine_; }
+  void PassedBy(const QString& routine) const { routine_ = routine; }
+
+ private:
+  mutable QString routine_;
 };

@@ -1,5 +1,9 @@
 #include "core/forms.h"
 
+#include <exception>
+
+#include "core/failure.h"
+
 namespace {
 
 QList<LoadedForm*>& Collection() {
@@ -47,10 +51,17 @@ QString InFront() { return Front(); }
 void SetInFront(const QString& name) { Front() = name; }
 
 void Tell(const Changes& changes) {
+  std::exception_ptr failure;  // of one that can't read; the others are told all the same
   for (LoadedForm* form : Loaded()) {
     // One that was told before may have unloaded this one.
-    if (Collection().contains(form) && changes.TouchesAny(form->ShowsTables())) form->TablesChanged(changes);
+    if (!Collection().contains(form) || !changes.TouchesAny(form->ShowsTables())) continue;
+    try {
+      form->TablesChanged(changes);
+    } catch (const StorageFailure&) {
+      failure = std::current_exception();
+    }
   }
+  if (failure) std::rethrow_exception(failure);
 }
 
 }  // namespace Forms

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "core/failure.h"
 #include "core/forms.h"
 #include "support/counting_form.h"
 #include "support/test_program.h"
@@ -21,6 +22,16 @@ class Screen : public LoadedForm {
  private:
   QString name_;
   bool shown_;
+};
+
+/// A screen that can't read anew.
+class FailingForm : public CountingForm {
+ public:
+  using CountingForm::CountingForm;
+  void TablesChanged(const Changes& changes) override {
+    CountingForm::TablesChanged(changes);
+    throw StorageFailure(u"disk I/O error"_s);
+  }
 };
 
 }  // namespace
@@ -49,6 +60,16 @@ class TestForms : public QObject {
     QCOMPARE(Forms::IsShown(u"frmJob"_s), false);
     QCOMPARE(Forms::IsShown(u"frmrig"_s), true);
     QCOMPARE(Forms::IsShown(u"frmSchedule"_s), false);
+  }
+
+  void AScreenThatCantReadKeepsNoOtherFromBeingTold() {
+    const FailingForm rigs(u"frmGetRig"_s, {u"tblRig"_s});
+    const CountingForm list(u"frmRigList"_s, {u"tblRig"_s});
+    Changes changes;
+    changes.Note(u"tblRig"_s);
+    QVERIFY_THROWS_EXCEPTION(StorageFailure, Forms::Tell(changes));
+    QCOMPARE(rigs.told, 1);
+    QCOMPARE(list.told, 1);
   }
 
   void TellsOfTheTablesThatAScreenShows() {

@@ -6,6 +6,7 @@
 #include "core/store/operation.h"
 #include "core/trap.h"
 #include "support/counting_form.h"
+#include "support/faulty_disk.h"
 #include "support/scripted_prompts.h"
 #include "support/test_program.h"
 #include "support/throwaway_loft.h"
@@ -202,6 +203,80 @@ class TestOperation : public QObject {
     UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1);
     FreeDisk();
     QCOMPARE(screen.told, 0);
+  }
+
+  /// The journal is cut to nothing, which ends the transaction, and bringing that to the disk fails.
+  void ACommitThatFailsWhenAllIsWrittenIsNotToldToBeUndone_data() {
+    QTest::addColumn<FaultyDisk::Fault>("fault");
+    QTest::newRow("once") << FaultyDisk::Fault::Once;
+    QTest::newRow("so that nobody can look what came of it") << FaultyDisk::Fault::FromThenOn;
+  }
+  void ACommitThatFailsWhenAllIsWrittenIsNotToldToBeUndone() {
+    QFETCH(FaultyDisk::Fault, fault);
+    Shop shop;
+    AddRig(u"Old"_s);
+    ReleaseDatabaseFile();
+    FaultyDisk disk(shop.loft.DatabaseFile());
+    disk.FailAt();
+    AddRig(u"Blue"_s);
+    const auto requests = static_cast<int>(disk.Requests().size());
+    QCOMPARE(disk.Requests().last(), FaultyDisk::Request::Sync);
+    ReleaseDatabaseFile();
+
+    disk.FailAt(requests - 1, fault);
+    shop.prompts.ExpectBox(u"Sub AddRig"_s, u"disk I/O error"_s);
+    const CountingForm screen(u"frmGetRig"_s, {u"tblRig"_s});
+    AddRig(u"Red"_s);
+    QVERIFY(disk.HasFailed());
+    disk.Mend();
+    QCOMPARE(screen.told, fault == FaultyDisk::Fault::Once ? 1 : 0);
+    QCOMPARE(shop.Rigs(), QStringList({u"Old"_s, u"Blue"_s, u"Red"_s}));
+  }
+
+  void UpkeepThatIsRefusedIsTheProgramsOwnMatter() {
+    Shop shop;
+    AddRig(u"Old"_s);
+    FillDisk();
+    shop.prompts.ExpectBox(u"Sub Tidy"_s, u"There is not enough space on the disk."_s);
+    QVERIFY(!Upkeep(u"Sub Tidy"_s, [] { UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1); }));
+    FreeDisk();
+  }
+
+  void WhatCantBeReadEndsTheWholeEventWithOneBox() {
+    Shop shop;
+    AddRig(u"Old"_s);
+    FaultyDisk disk(shop.loft.DatabaseFile());
+    ReleaseDatabaseFile();
+    { const Bracket opens; }
+    bool wentOn = false;
+    shop.prompts.ExpectBox(u"Function LoadRigs"_s, u"disk I/O error"_s);
+    disk.FailAt(0, FaultyDisk::Fault::FromThenOn);
+    FollowEvent(SetOff::ByPerson, [&] {
+      Operation(u"Function LoadRigs"_s, [] { GetNumberRecordsInTable(u"tblRig"_s); });
+      wentOn = true;
+    });
+    QVERIFY(!wentOn);
+    FollowEvent(SetOff::ByProgram, [] { GetNumberRecordsInTable(u"tblRig"_s); });  // the person knows already
+
+    shop.prompts.ExpectBox(u"Function GetNumberRecordsInTable(TableName As String)"_s, u"disk I/O error"_s);
+    FollowEvent(SetOff::ByPerson, [] { GetNumberRecordsInTable(u"tblRig"_s); });
+    disk.Mend();
+    QCOMPARE(shop.Rigs(), QStringList(u"Old"_s));
+  }
+
+  void WhatCantBeWrittenIsToldAndTheEventGoesOn() {
+    Shop shop;
+    AddRig(u"Old"_s);
+    FillDisk();
+    bool wentOn = false;
+    shop.prompts.ExpectBox(u"Sub UpdateTable()"_s, kFull);
+    FollowEvent(SetOff::ByPerson, [&] {
+      UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1);
+      UpdateTable(u"tblRig"_s, u"Comment"_s, kLong, u"ID"_s, 1);
+      wentOn = true;
+    });
+    QVERIFY(wentOn);
+    FreeDisk();
   }
 
   void NamesAreMadeOfTheRoutinesOwn() {

@@ -215,6 +215,22 @@ class TestUndo : public QObject {
     QCOMPARE(shop.loft.Snapshot(), before);
   }
 
+  void OneThatTookItselfBackIsNotEntered() {
+    const Shop shop;
+    const int blue = shop.AddRig(u"Blue"_s);
+    const QStringList before = shop.loft.Snapshot();
+    Operation(u"Sub StartAndCancel"_s, [&] {
+      const int red = shop.AddRig(u"Red"_s);
+      UpdateTable(u"tblRig"_s, u"RigAlias"_s, u"Green"_s, u"ID"_s, blue);
+      UpdateTable(u"tblRig"_s, u"RigAlias"_s, u"Blue"_s, u"ID"_s, blue);
+      DeleteRecordsFromTable(u"tblRig"_s, u"ID"_s, red);
+    });
+    QCOMPARE(shop.loft.Snapshot(), before);
+    QCOMPARE(NextUndo()->name, u"Add rig"_s);
+    QVERIFY(UndoOperation());
+    QCOMPARE(shop.loft.Snapshot(), shop.start);
+  }
+
   void TheOldestGoFirst() {
     const Shop shop;
     const int blue = shop.AddRig(u"Blue"_s);

@@ -11,6 +11,7 @@
 
 #include "core/failure.h"
 #include "core/store/recordset.h"
+#include "core/store/undo_rows.h"
 
 namespace {
 
@@ -397,6 +398,10 @@ bool Database::Step(sqlite3_stmt* statement) {
   RefuseAfterFailure();
   BeginIfNeeded();
   if (!log_.KnowsRemembered()) LearnRemembered();
+  return Next(statement);
+}
+
+bool Database::Next(sqlite3_stmt* statement) {
   const ChangeLog::Mark mark = log_.Here();
   const int result = sqlite3_step(statement);
   if (result == SQLITE_ROW) return true;
@@ -428,7 +433,7 @@ const std::vector<Field>& Database::FieldsOf(const QString& table) {
   sqlite3_stmt* info = Plain("SELECT name, type FROM pragma_table_info(?1)");
   const QByteArray name = table.toUtf8();
   sqlite3_bind_text(info, 1, name.constData(), static_cast<int>(name.size()), SQLITE_TRANSIENT);
-  while (sqlite3_step(info) == SQLITE_ROW)
+  while (Next(info))
     fields.push_back(
         FieldFromDeclared(ReadColumn(info, 0, jet::kText).ToText(), ReadColumn(info, 1, jet::kText).ToText()));
   sqlite3_reset(info);
@@ -477,7 +482,7 @@ void Database::ForgetPrepared() {
 
 int Database::CountIndexes() {
   sqlite3_stmt* count = Plain("SELECT count(*) FROM sqlite_master WHERE type = 'index'");
-  const int indexes = sqlite3_step(count) == SQLITE_ROW ? sqlite3_column_int(count, 0) : 0;
+  const int indexes = Next(count) ? sqlite3_column_int(count, 0) : 0;
   sqlite3_reset(count);
   return indexes;
 }
@@ -502,12 +507,33 @@ void Database::Settle() {
     log_.Clear();
     return;
   }
+  const QByteArray written = log_.RowCount() > 0 ? PackRows(log_) : QByteArray();
   try {
     Fail();
+  } catch (const StorageFailure&) {
+    sqlite3_reset(commit_);
+    if (!written.isEmpty() && MayStand(written)) failedWriting_ = false;
+    throw;
   } catch (...) {
     sqlite3_reset(commit_);
     throw;
   }
+}
+
+/// The last step of a commit may fail when all is on the disk already.
+bool Database::MayStand(const QByteArray& written) {
+  const QString failure = std::exchange(failure_, QString());
+  const bool failedWriting = failedWriting_;
+  bool stands = true;
+  try {
+    stands = RowsStand(*this, written);
+    if (stands) committed_.Add(TablesOf(written));
+  } catch (const Failure&) {
+    // It can't be told as long as the file can't be read.
+  }
+  failure_ = failure;
+  failedWriting_ = failedWriting;
+  return stands;
 }
 
 void Database::Register(Recordset* recordset) { recordsets_.push_back(recordset); }

@@ -102,7 +102,8 @@ class Database {
   void TakeBack();
   void SetHolds(bool holds) { holds_ = holds; }
   bool InTransaction() const;
-  /// True when the failure of the file met a statement that writes, or one that came after such.
+  /// True when the failure of the file met a statement that writes, or one that came after such, and nothing of it is
+  /// in the file.
   bool FailedWriting() const { return failedWriting_; }
   /// What the open transaction has written.
   ChangeLog& Log() { return log_; }
@@ -124,7 +125,9 @@ class Database {
   void BindLiterals(Prepared& prepared, const std::vector<jet::Literal>& literals);
   [[noreturn]] void Fail(bool writing = false);
   void RollBack();
+  bool Next(sqlite3_stmt* statement);
   void RefuseAfterFailure() const;
+  bool MayStand(const QByteArray& written);
   void LearnRemembered();
 
   QString path_;

@@ -96,7 +96,7 @@ bool OperationScope::Commit() {
       CommitConnection();
     }
   } catch (const StorageFailure& failure) {
-    TakeBack(failure.Text());
+    TakeBack(failure);
     return false;
   }
   Leave();
@@ -109,11 +109,15 @@ void OperationScope::Undo() {
   bracket_.Close();
 }
 
-/// An operation around this one finds the file failed as soon as it goes on.
-void OperationScope::TakeBack(const QString& error) {
+/// An operation around this one finds the file failed as soon as it goes on. What could not be written is told, and the
+/// caller goes on; what could not be read ends all that the person's act led to. Upkeep is nothing that a person asked
+/// for, so what did not come of it is not worth a word.
+void OperationScope::TakeBack(const StorageFailure& failure) {
   const bool wrote = ConnectionFailedWriting();
   Undo();
-  TellFailure(wrote ? Lines({error, u"Nothing was changed."_s}) : error, name_.routine);
+  if (!wrote && Passes(failure, name_.routine)) throw failure;
+  const bool refused = wrote && record_ != Record::Upkeep;
+  TellFailure(failure, refused ? u'\n' + kNothingWasChanged : QString(), name_.routine);
 }
 
 void OperationScope::EndFailed(const QString& more, OnFailure onFailure) {
@@ -121,7 +125,7 @@ void OperationScope::EndFailed(const QString& more, OnFailure onFailure) {
     throw;
   } catch (const StorageFailure& failure) {
     if (EndsHere()) {
-      TakeBack(failure.Text());
+      TakeBack(failure);
       return;
     }
     Leave();
@@ -134,13 +138,12 @@ void OperationScope::EndFailed(const QString& more, OnFailure onFailure) {
     Leave();
     throw;
   } catch (const std::exception& error) {
-    const QString text = FailureText(error);
     if (!Commit()) return;
     if (onFailure == OnFailure::LeaveConnectionOpen)
       bracket_.LeaveOpen();
     else
       bracket_.Close();
     TellChanges();
-    TellFailure(more.isEmpty() ? text : text + u'\n' + more, name_.routine);
+    TellFailure(error, more.isEmpty() ? QString() : u'\n' + more, name_.routine);
   }
 }

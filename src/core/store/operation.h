@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "core/failure.h"
 #include "core/prompts.h"
 #include "core/store/connection.h"
 
@@ -24,10 +25,10 @@ struct OperationName {
 /// - A routine that fails (a statement that breaks, a file that can't be read) shows its box, and its caller goes on;
 ///   what was written before stays.
 /// - A failure of the file itself (full disk, unreadable page, a commit that does not go through) ends the outermost
-///   operation: all of it is taken back, and one box with that one's title says so.
+///   operation: all of it is taken back, and one box with that one's title says so. What could not be read ends also
+///   what the person's act led to besides (FollowEvent).
 /// - Long work inside it that the person cancels (core/long_work.h) ends the outermost one too: all of it is taken
-/// back,
-///   and no box says so.
+///   back, and no box says so.
 /// - A box inside an operation commits nothing: what was written waits until the operation ends.
 ///
 /// The record of operations (core/store/undo.h) keeps what the outermost one wrote, so that it can be taken back.
@@ -36,7 +37,7 @@ template <typename Body>
 bool Operation(const OperationName& name, Body&& body);
 
 /// What the program puts right by itself while it shows something: an operation, but one that a person takes back
-/// together with the operation before it.
+/// together with the operation before it. Where it can't be written, that is told, and what is shown stays as it is.
 template <typename Body>
 bool Upkeep(const OperationName& name, Body&& body);
 
@@ -80,7 +81,7 @@ class OperationScope {
   bool Commit();
   void Leave();
   void Undo();
-  void TakeBack(const QString& error);
+  void TakeBack(const StorageFailure& failure);
 
   OperationName name_;
   Record record_;

@@ -16,6 +16,8 @@ namespace {
 
 constexpr qint64 kMostBytes = 20 * 1024 * 1024;
 constexpr int kMostOperations = 2000;
+/// What writes no more than this may have taken itself back, as the start of a job does that is cancelled.
+constexpr qsizetype kLooksForDifference = 16 * 1024;
 
 bool recording = true;
 
@@ -191,6 +193,7 @@ void RecordOperation(const OperationEntry& entry) {
   ChangeLog& log = database.Log();
   if (!recording || log.RowCount() == 0) return;
   const QByteArray changes = PackRows(log);
+  if (changes.size() < kLooksForDifference && !RowsMakeADifference(changes)) return;
   const int rows = log.RowCount();
   MakeTable(database);
   const Tail tail = ReadTail(database);

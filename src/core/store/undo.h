@@ -8,7 +8,8 @@
 
 /// The record of operations, in the loft's own file: what each one wrote, made in the same transaction, so that it can
 /// be taken back - across screens and restarts - and done again. It keeps the last operations up to 20 MB, the oldest
-/// go first. A file without a record opens like any other; it gets one with its first operation.
+/// go first. One that took itself back, like the start of a job that is cancelled, is not entered. A file without a
+/// record opens like any other; it gets one with its first operation.
 
 struct RecordedOperation {
   int id = 0;

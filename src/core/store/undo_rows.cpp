@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <sqlite3.h>
 #include <vector>
 
@@ -164,6 +165,26 @@ class Writer {
  public:
   Writer(Database& database, const Record& record) : database_(database), record_(record) {}
 
+  bool Exists(const Row& row) {
+    sqlite3_stmt* find = database_.Plain("SELECT 1 FROM [" + Table(row) + "] WHERE rowid = ?1");
+    sqlite3_bind_int64(find, 1, row.rowid);
+    const bool exists = database_.Step(find);
+    sqlite3_reset(find);
+    return exists;
+  }
+
+  /// Whether the row holds what it got.
+  bool Holds(const Row& row) {
+    try {
+      CheckCells(row, true);
+    } catch (const StorageFailure&) {
+      throw;
+    } catch (const Failure&) {
+      return false;
+    }
+    return true;
+  }
+
   /// From the one value of each cell to the other.
   void Turn(const Row& row, bool back) {
     const bool adds = (row.kind == ChangeLog::Kind::Insert) != back;
@@ -228,11 +249,7 @@ class Writer {
   }
 
   void Add(const Row& row, bool back) {
-    sqlite3_stmt* find = database_.Plain("SELECT 1 FROM [" + Table(row) + "] WHERE rowid = ?1");
-    sqlite3_bind_int64(find, 1, row.rowid);
-    const bool taken = database_.Step(find);
-    sqlite3_reset(find);
-    if (taken) Refuse(row, u"its place has been taken since"_s);
+    if (Exists(row)) Refuse(row, u"its place has been taken since"_s);
     // A column that is the row's number gets it by itself.
     QByteArray names = "rowid";
     QByteArray places = "?";
@@ -289,4 +306,62 @@ void WriteRowsAgain(Database& database, const QByteArray& packed) {
   const Record record = Unpack(packed);
   Writer writer(database, record);
   for (const Row& row : record.rows) writer.Turn(row, false);
+}
+
+namespace {
+
+/// What became of one row in all that was written to it.
+struct Fate {
+  bool existed;
+  bool exists;
+  Row changes;  // from what it was to what it is
+
+  bool MakesADifference() const { return existed != exists || (exists && !changes.cells.empty()); }
+};
+
+void Follow(Fate& fate, const Row& row) {
+  fate.exists = row.kind != ChangeLog::Kind::Delete;
+  for (const Cell& cell : row.cells) {
+    std::vector<Cell>& cells = fate.changes.cells;
+    auto known = std::find_if(cells.begin(), cells.end(), [&](const Cell& own) { return own.column == cell.column; });
+    if (known == cells.end()) known = cells.insert(known, cell);
+    if (fate.exists) known->after = cell.after;
+  }
+}
+
+std::vector<Fate> FatesOf(const Record& record) {
+  std::vector<Fate> fates;
+  std::map<std::pair<int, qint64>, size_t> places;
+  for (const Row& row : record.rows) {
+    const auto [place, isNew] = places.try_emplace({row.table, row.rowid}, fates.size());
+    if (isNew)
+      fates.push_back({row.kind != ChangeLog::Kind::Insert, true, {ChangeLog::Kind::Update, row.table, row.rowid, {}}});
+    Follow(fates[place->second], row);
+  }
+  for (Fate& fate : fates)
+    std::erase_if(fate.changes.cells, [](const Cell& cell) { return cell.before == cell.after; });
+  return fates;
+}
+
+}  // namespace
+
+bool RowsMakeADifference(const QByteArray& packed) {
+  const std::vector<Fate> fates = FatesOf(Unpack(packed));
+  return std::any_of(fates.cbegin(), fates.cend(), [](const Fate& fate) { return fate.MakesADifference(); });
+}
+
+bool RowsStand(Database& database, const QByteArray& packed) {
+  const Record record = Unpack(packed);
+  Writer writer(database, record);
+  for (const Fate& fate : FatesOf(record)) {
+    if (!fate.MakesADifference()) continue;
+    return fate.existed == fate.exists ? writer.Holds(fate.changes) : writer.Exists(fate.changes) == fate.exists;
+  }
+  return false;
+}
+
+Changes TablesOf(const QByteArray& packed) {
+  Changes changes;
+  for (const QByteArray& table : Unpack(packed).tables) changes.Note(QString::fromUtf8(table));
+  return changes;
 }

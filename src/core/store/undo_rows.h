@@ -1,6 +1,8 @@
 #pragma once
 #include <QByteArray>
 
+#include "core/store/changes.h"
+
 class ChangeLog;
 class Database;
 
@@ -14,3 +16,10 @@ QByteArray PackRows(const ChangeLog& log);
 void TakeRowsBack(Database& database, const QByteArray& packed);
 /// Gives the rows the values that they had after, by the same rule.
 void WriteRowsAgain(Database& database, const QByteArray& packed);
+
+/// False when each row is in the end what it was before.
+bool RowsMakeADifference(const QByteArray& packed);
+/// Whether the rows are in the file, of which either all are or none; false when they make no difference.
+bool RowsStand(Database& database, const QByteArray& packed);
+/// The tables of the rows.
+Changes TablesOf(const QByteArray& packed);
