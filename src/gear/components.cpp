@@ -68,7 +68,9 @@ void MovePhotos(int id, int rig) { UpdateTable(tblPhotos::rigID, rig, tblPhotos:
 
 void DeleteComponentRow(int id) { DeleteRecordsFromTable(tblComponents::ID, id); }
 
-void SetLastComponentID(int id) { UpdateRows(tblMisc::LastComponentID, id); }
+void SetLastComponentID(int id) {
+  Upkeep(u"Sub SetLastComponentID"_s, [&] { UpdateRows(tblMisc::LastComponentID, id); });
+}
 
 int NumberOfComponents(int owner) { return GetNumberRecordsComplex(tblComponents::OwnerID == owner).ToInt(); }
 

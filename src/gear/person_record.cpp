@@ -122,4 +122,6 @@ int ProgramOwner() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::Use
 
 int LastCustomerID() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::LastCustomerID).ToInt(); }
 
-void SetLastCustomerID(int id) { UpdateRows(tblMisc::LastCustomerID, id); }
+void SetLastCustomerID(int id) {
+  Upkeep(u"Sub SetLastCustomerID"_s, [&] { UpdateRows(tblMisc::LastCustomerID, id); });
+}

@@ -58,4 +58,6 @@ void DeleteRigRow(int id) { DeleteRows(tblRig::ID == id); }
 
 int LastSystemID() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::LastSystemID).ToInt(); }
 
-void SetLastSystemID(int id) { UpdateRows(tblMisc::LastSystemID, id); }
+void SetLastSystemID(int id) {
+  Upkeep(u"Sub SetLastSystemID"_s, [&] { UpdateRows(tblMisc::LastSystemID, id); });
+}

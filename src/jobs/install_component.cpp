@@ -84,7 +84,9 @@ bool AskMoveToCurrentRig(int componentID) {
                 u"Move %1?"_s.arg(type));
 }
 
-bool InstallOnJob(const JobContext& job, const ChosenComponent& chosen, Date date) {
+namespace {
+
+bool Install(const JobContext& job, const ChosenComponent& chosen, Date date) {
   const bool current = RigComponentsCurrent(job.jobID, job.rigID);
   const int oldRig = ComponentRig(chosen.id);
   const bool moves = current && oldRig != job.rigID && RigExists(oldRig);
@@ -96,18 +98,24 @@ bool InstallOnJob(const JobContext& job, const ChosenComponent& chosen, Date dat
     if (moves && !AskMoveToCurrentRig(chosen.id)) return false;
     if (!CheckOwner(job.rigID, chosen.id)) return false;
   }
-  const bool written = Operation(u"Sub InstallComponentGuts"_s, [&] {
-    if (isNew) SetComponentOwner(chosen.id, RigOwner(job.rigID));
-    if (moves) AddRemovalTask(chosen.id, oldRig, date, job.locationID);
-    if (current) {
-      FreePlace(job.rigID, ComponentTypeOf(chosen.id));
-      SetComponentRig(chosen.id, job.rigID);
-    }
-    AddJobComponent(job.jobID, chosen.id);
-    AddGearLine(job, InstallTaskLibID, InstallLineName(chosen.id, job.rigID), chosen.id, date);
-    CheckComponentType(chosen.id);
-  });
-  return written;
+  if (isNew) SetComponentOwner(chosen.id, RigOwner(job.rigID));
+  if (moves) AddRemovalTask(chosen.id, oldRig, date, job.locationID);
+  if (current) {
+    FreePlace(job.rigID, ComponentTypeOf(chosen.id));
+    SetComponentRig(chosen.id, job.rigID);
+  }
+  AddJobComponent(job.jobID, chosen.id);
+  AddGearLine(job, InstallTaskLibID, InstallLineName(chosen.id, job.rigID), chosen.id, date);
+  CheckComponentType(chosen.id);
+  return true;
+}
+
+}  // namespace
+
+bool InstallOnJob(const JobContext& job, const ChosenComponent& chosen, Date date) {
+  bool installed = false;
+  const bool written = Operation(u"Sub InstallComponentGuts"_s, [&] { installed = Install(job, chosen, date); });
+  return written && installed;
 }
 
 void TellNoInstallation() {

@@ -40,7 +40,7 @@ void SetJobComments(int jobID, const QString& comments) {
 }
 
 void SetLastJobID(int jobID) {
-  if (LastJobID() != jobID) UpdateRows(tblMisc::LastJobID, jobID);
+  if (LastJobID() != jobID) Upkeep(u"Sub SetLastJobID"_s, [&] { UpdateRows(tblMisc::LastJobID, jobID); });
 }
 int LastJobID() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::LastJobID).ToInt(); }
 

@@ -67,9 +67,10 @@ void frmJob::DoMultiTask() {
   const auto isGear = [](int entry) { return entry == InstallTaskLibID || entry == RemoveTaskLibID; };
   for (auto it = entries.cbegin(); it != entries.cend();) {
     const auto end = std::find_if(it, entries.cend(), isGear);
-    Operation({u"Sub DoMultiTask"_s, u"Add multiple tasks"_s}, [&] {
+    const bool written = Operation({u"Sub DoMultiTask"_s, u"Add multiple tasks"_s}, [&] {
       for (; it != end; ++it) GetLibraryTask(*it, date);
     });
+    if (!written) return;
     if (it != entries.cend()) GetLibraryTask(*it++, date);
   }
 }
@@ -82,15 +83,17 @@ void frmJob::EnterCustom(bool isEvent) {
   form.ShowModal();
   const CustomEntry entry = form.Entry();
   int taskLibID = 0;
-  CustomRoad road = entry.name.isEmpty() ? CustomRoad::None : ChooseCustomRoad(entry, job_.jobID, taskLibID);
-  if (road == CustomRoad::NewTaskType) {
-    taskLibID = SaveCustomTaskToLibrary();
-    road = taskLibID > 0 ? CustomRoad::Library : CustomRoad::None;
-  }
+  CustomRoad road = CustomRoad::None;
+  Operation({u"Sub EnterCustom"_s, isEvent ? u"Add custom event"_s : u"Add custom task"_s}, [&] {
+    if (!entry.name.isEmpty()) road = ChooseCustomRoad(entry, job_.jobID, taskLibID);
+    if (road == CustomRoad::NewTaskType) {
+      taskLibID = SaveCustomTaskToLibrary();
+      road = taskLibID > 0 ? CustomRoad::Library : CustomRoad::None;
+    }
+    if (road == CustomRoad::Library && StillShows(job)) GetLibraryTask(taskLibID, TypedDate());
+  });
   form.UnloadForm();
-  if (!StillShows(job)) return;
-  if (road == CustomRoad::Library) GetLibraryTask(taskLibID, TypedDate());
-  if (road == CustomRoad::OneOff) AddOneOff(entry, TypedDate());
+  if (road == CustomRoad::OneOff && StillShows(job)) AddOneOff(entry, TypedDate());
 }
 
 /// Until the next load a job that is complete by it is complete on the working date.

@@ -50,17 +50,20 @@ void JobGearCommands::CheckComponentsForNewRig() {
     return;
   }
   if (RefuseDoubledTypes(job.jobID)) return;
-  const int type = ChooseTypeOfNewRig();
-  if (type == 0 || !GearFitsRigType(job.jobID, type)) return;
-  if (const int rig = BuildRigFromJob(job, type, screen_.date()); rig != 0) TellRigCreated(rig);
+  int rig = 0;
+  const bool written = Operation(u"Sub BuildRigFromJob"_s, [&] {
+    const int type = ChooseTypeOfNewRig();
+    if (type != 0 && GearFitsRigType(job.jobID, type)) rig = BuildRigFromJob(job, type, screen_.date());
+  });
+  if (written && rig != 0) TellRigCreated(rig);
 }
 
 int JobGearCommands::AddNewRig(const JobContext& job) {
   const QString name = AskNameOfNewRig(job.customerID);
-  const int type = name.isEmpty() ? 0 : ChooseTypeOfNewRig();
-  if (type == 0 || !JobExists(job.jobID) || !PersonExists(job.customerID)) return 0;
   int rig = 0;
   const bool written = Operation(u"Sub AddNewRig"_s, [&] {
+    const int type = name.isEmpty() ? 0 : ChooseTypeOfNewRig();
+    if (type == 0 || !JobExists(job.jobID) || !PersonExists(job.customerID)) return;
     rig = CreateRig(job.customerID, type, name);
     if (rig != 0) SetJobSystemID(job.jobID, rig);
   });

@@ -2,6 +2,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopeGuard>
 #include <QShowEvent>
 #include <QTimer>
 
@@ -256,6 +257,10 @@ void frmPeople::Move(int neighbour, bool forward) {
 bool frmPeople::AddNew() {
   Person person;
   SetLocked(true);
+  const auto unlock = qScopeGuard([this] {
+    locked_ = false;
+    ShowState();
+  });
   const bool saved = Edit(person, true);
   locked_ = false;
   const bool isOwner = saved && std::exchange(ownerPending_, false);

@@ -10,6 +10,7 @@
 #include "core/picker.h"
 #include "core/prompts.h"
 #include "core/screens.h"
+#include "core/store/operation.h"
 #include "gear/people.h"
 #include "gear/person_names.h"
 #include "gear/rig_rules.h"
@@ -184,10 +185,11 @@ void frmGetRig::AddRig() {
   }
   const QString name = AskNewRigName(customer);
   if (name.isEmpty()) return;
-  const int type = ChooseTypeOfNewRig();
-  if (type == 0) return;
-  const int rig = CreateRig(customer, type, name);
-  if (rig == 0) return;
+  int rig = 0;
+  const bool written = Operation(u"Sub AddRig"_s, [&] {
+    if (const int type = ChooseTypeOfNewRig(); type != 0) rig = CreateRig(customer, type, name);
+  });
+  if (!written || rig == 0) return;
   ui_->browser->ShowRig(rig);
   ui_->browser->SelectComponentRow(0);
   MsgBox(Lines({u"Rig: "_s + RigName(rig) + u" has been created."_s, QString(),
