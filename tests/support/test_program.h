@@ -20,7 +20,7 @@ MakeTest FindTest(const char* name);
 
 /// The main function of a test program whose tests need this kind of application. What follows the test's name on the
 /// command line is for Qt Test. Tests run beside each other, so each is an application, with settings, of its own name.
-template <class Application>
+template <class App>
 int RunTestProgram(int argc, char** argv) {
   const MakeTest make = FindTest(argc > 1 ? argv[1] : "");
   if (!make) return EXIT_FAILURE;
@@ -28,7 +28,7 @@ int RunTestProgram(int argc, char** argv) {
   argv[1] = argv[0];
   ++argv;
   --argc;
-  Application app(argc, argv);
+  App app(argc, argv);
   app.setAttribute(Qt::AA_Use96Dpi);
   return QTest::qExec(make().get(), argc, argv);
 }

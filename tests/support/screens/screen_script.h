@@ -30,6 +30,10 @@ class ScreenScript : public QObject {
         [action = std::move(action)](Form& form) { action(dynamic_cast<F&>(form)); }, place);
   }
 
+  /// From here on a screen that is not in the script is closed like one that a step leaves open, and a step whose
+  /// screen does not come is passed over; for work that goes astray on purpose.
+  void Forgive() { forgives_ = true; }
+
   /// Fails for every step that never came, and forgets them. The destructor does the same.
   void Finish();
 
@@ -43,8 +47,11 @@ class ScreenScript : public QObject {
     Place place;
   };
   void Handle(Form& form);
+  void Complain(const QString& message, const Place& place) const;
+  std::list<Step>::iterator NextStep(const QString& form);
 
   std::list<Step> steps_;
+  bool forgives_ = false;
 };
 
 /// Keeps the settings of a test run in a folder of its own and gives the screens the program's look, the dark one when
