@@ -37,6 +37,8 @@ class Trial {
   Verdict JudgeCut(const QMap<QString, QByteArray>& survivors, bool acknowledged);
 
   FaultyDisk& Disk() { return *disk_; }
+  /// Where the database lies.
+  QString Folder() const { return ground_->loft.Folder().Path(); }
 
  private:
   /// A state of the database that is whole.
