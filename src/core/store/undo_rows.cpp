@@ -80,7 +80,7 @@ class Reader {
 
   Row TakeRow() {
     Row row{.kind = static_cast<ChangeLog::Kind>(Take<char>()),
-            .table = Take<char>(),
+            .table = Take<quint8>(),
             .rowid = Take<qint64>(),
             .cells = {}};
     const int count = Take<qint16>();
@@ -115,8 +115,8 @@ struct Record {
 Record Unpack(const QByteArray& packed) {
   Record record;
   Reader reader(packed);
-  const int tables = reader.Take<char>();
-  for (int i = 0; i < tables; ++i) record.tables.push_back(reader.TakeBytes(reader.Take<char>()));
+  const int tables = reader.Take<quint8>();
+  for (int i = 0; i < tables; ++i) record.tables.push_back(reader.TakeBytes(reader.Take<quint8>()));
   while (!reader.AtEnd()) record.rows.push_back(reader.TakeRow());
   return record;
 }
