@@ -82,10 +82,7 @@ void frmTaskType::ReloadForm() {
   }
   RefillList(*ui_->lstRigTypes, LoadRigTypes());
   LetGoOfLostModel();
-  if (modelID_ != 0)
-    FillComponents({});
-  else
-    RefillList(*ui_->lstComps, LoadComponentTypes());
+  RefillList(*ui_->lstComps, RequiredToChoose());
   CreateTheArray();
 }
 
@@ -204,16 +201,19 @@ void frmTaskType::ChooseModel(bool specific) {
 }
 
 /// The model alone for a task that is tied to one, all component types otherwise.
-void frmTaskType::FillComponents(const QList<int>& ticked) {
-  if (modelID_ == 0) {
-    ui_->lstComps->Fill(LoadComponentTypes());
-    ui_->lstComps->TickData(ticked);
-    return;
-  }
+IdList frmTaskType::RequiredToChoose() const {
+  if (modelID_ == 0) return LoadComponentTypes();
   IdList model;
   model.Add(ModelName(modelID_), ModelType(modelID_));
-  ui_->lstComps->Fill(model);
-  ui_->lstComps->TickAll(true);
+  return model;
+}
+
+void frmTaskType::FillComponents(const QList<int>& ticked) {
+  ui_->lstComps->Fill(RequiredToChoose());
+  if (modelID_ == 0)
+    ui_->lstComps->TickData(ticked);
+  else
+    ui_->lstComps->TickAll(true);
 }
 
 void frmTaskType::ShowRigSpecific(bool specific) {

@@ -36,6 +36,7 @@ class frmTaskType : public Form {
   void ShowScheduled(bool scheduled);
   void ShowUnit();
   void ChooseModel(bool specific);
+  IdList RequiredToChoose() const;
   void FillComponents(const QList<int>& ticked);
   void LetGoOfLostModel();
   void ShowRigSpecific(bool specific);
