@@ -4,6 +4,7 @@
 #include "core/format.h"
 #include "core/prompts.h"
 #include "core/store/access.h"
+#include "core/store/operation.h"
 #include "gear/catalogue.h"
 #include "gear/models.h"
 
@@ -29,6 +30,5 @@ bool DeleteLibraryPart(int partID) {
                                   : u"There are %1 library tasks which use the select misc part"_s.arg(tasks);
   if (tasks > 0 && !AskYes(Lines({used, u"Do you want to delete this part anyway?"_s}), kProgramTitle)) return false;
   if (!AskYes(u"Delete %1?"_s.arg(ModelName(partID)), u"Are you sure?"_s)) return false;
-  DeleteModelRow(partID);
-  return true;
+  return Operation({u"Sub DeletePart"_s, u"Delete part"_s}, [&] { DeleteModelRow(partID); });
 }
