@@ -37,6 +37,7 @@ QStringList ScheduleGrid::ShowsTables() {
 void ScheduleGrid::Fill(Grid& grid, const QList<RigAuditRow>& audit) {
   const QString selected = grid.Text(grid.CurrentRow(), 0);
   const int entry = grid.RowData(grid.CurrentRow());
+  const int column = grid.CurrentColumn();
   std::vector<GridRow> rows;
   for (const RigAuditRow& row : audit) {
     GridRow shown{.cells = {row.name, row.dateDone, row.dateDue, row.timeLeft, QString::number(row.taskLibID)},
@@ -51,7 +52,7 @@ void ScheduleGrid::Fill(Grid& grid, const QList<RigAuditRow>& audit) {
   grid.Fill(std::move(rows));
   for (int row = 0; row < grid.RowCount(); ++row)
     if (!selected.isEmpty() && grid.RowData(row) == entry && (entry > 0 || grid.Text(row, 0) == selected))
-      grid.SelectCell(row, 0);
+      grid.SelectCell(row, column);
 }
 
 int ScheduleGrid::EntryToUpdate(Grid& grid) {
