@@ -78,7 +78,7 @@ frmJob::~frmJob() = default;
 QStringList frmJob::ShowsTables() const {
   return {tblJobs::kTable,   tblTasks::kTable,          tblJobComponents::kTable, tblComponents::kTable,
           tblModels::kTable, tblComponentTypes::kTable, tblRig::kTable,           tblRigTypeComponents::kTable,
-          tblPeople::kTable, tblLocation::kTable};
+          tblPeople::kTable, tblLocation::kTable,       tblMisc::kTable};
 }
 
 void frmJob::ConnectControls() {

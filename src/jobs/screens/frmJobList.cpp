@@ -54,16 +54,24 @@ frmJobList::frmJobList() : ui_(std::make_unique<Ui::frmJobList>()) {
                   u"The rig's components may be different today."_s}),
            u"Rig Components"_s);
   });
-  ui_->chkHidePhotos->setChecked(PhotosAreHidden());
   ShowPhotos();
 }
 
 frmJobList::~frmJobList() = default;
 
 QStringList frmJobList::ShowsTables() const {
-  return {tblJobs::kTable,          tblTasks::kTable,      tblTaskLib::kTable,          tblPeople::kTable,
-          tblJobComponents::kTable, tblComponents::kTable, tblModels::kTable,           tblComponentTypes::kTable,
-          tblRig::kTable,           tblRigTypes::kTable,   tblRigTypeComponents::kTable};
+  return {tblJobs::kTable,
+          tblTasks::kTable,
+          tblTaskLib::kTable,
+          tblPeople::kTable,
+          tblJobComponents::kTable,
+          tblComponents::kTable,
+          tblModels::kTable,
+          tblComponentTypes::kTable,
+          tblRig::kTable,
+          tblRigTypes::kTable,
+          tblRigTypeComponents::kTable,
+          tblMisc::kTable};
 }
 
 void frmJobList::BuildMenus() {
@@ -93,10 +101,20 @@ void frmJobList::SetStart(const JobListStart& start) {
 
 void frmJobList::ReloadForm() {
   if (!TaskLibExists(taskLibID_)) taskLibID_ = 0;
+  const int job = Job();
+  const int customer = Customer();
   RefillList(*ui_->lstCustomers, ::LoadCustomers(false));
   ShowTaskType();
   RefillList(*ui_->lstJobs, LoadListJobs(Filter()));
   ShowJob();
+  ShowPhotos();
+  if (Job() == job) KeepCustomer(customer);
+}
+
+/// The customer who was selected beside a job stays, also where the job is another one's.
+void frmJobList::KeepCustomer(int customer) {
+  const QSignalBlocker quiet(ui_->lstCustomers);
+  if (ui_->lstCustomers->FindData(customer) >= 0) ui_->lstCustomers->SelectData(customer);
 }
 
 int frmJobList::Customer() const { return ui_->lstCustomers->ItemData(ui_->lstCustomers->ListIndex()); }
@@ -150,7 +168,9 @@ void frmJobList::ShowJob() {
 }
 
 void frmJobList::ShowPhotos() {
-  for (QLabel* photo : {ui_->ImageRig, ui_->imageCanopy}) photo->setVisible(!PhotosAreHidden());
+  const bool hidden = PhotosAreHidden();
+  ui_->chkHidePhotos->setChecked(hidden);
+  for (QLabel* photo : {ui_->ImageRig, ui_->imageCanopy}) photo->setVisible(!hidden);
 }
 
 void frmJobList::Search() {

@@ -30,6 +30,7 @@ class frmJobList : public Form {
   int Rig() const;
   JobListFilter Filter() const;
   void LoadCustomers(int select);
+  void KeepCustomer(int customer);
   void LoadJobs(int select);
   void ShowTaskType();
   void ShowJob();

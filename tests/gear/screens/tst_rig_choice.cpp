@@ -189,6 +189,19 @@ class TestRigChoice : public QObject {
     ShowCurrentComponents(99);
     QCOMPARE(LastSystemID(), 0);
   }
+
+  void ARigThatHasGoneIsNotShown() {
+    RigShop shop;
+    DeleteRigRow(shop.red);
+    shop.screens.WhenShown(u"frmPickRig"_s, [](Form& form) {
+      QCOMPARE(TextOf(form, u"lblRigType"_s), QString());
+      QVERIFY(!IsShown(form, u"lblNotAssigned"_s));
+      PressKey(form, Qt::Key_Escape);
+    });
+    int rig = shop.red;
+    int customer = 0;
+    QVERIFY(!PickRig(rig, customer));
+  }
 };
 
 LOFT_TEST_MAIN(TestRigChoice)

@@ -5,6 +5,8 @@
 #include "core/store/undo.h"
 #include "core/widgets/grid.h"
 #include "gear/models.h"
+#include "gear/rig_rules.h"
+#include "gear/screens.h"
 #include "jobs/delete_job.h"
 #include "jobs/library_delete.h"
 #include "jobs/library_entry.h"
@@ -38,6 +40,33 @@ class TestWorkStays : public QObject {
  private Q_SLOTS:
   void initTestCase() { IsolateSettings(); }
   void cleanup() { UnloadScreens(); }
+
+  void TheJobListKeepsTheCustomerWhoIsSelectedBesideAJob() {
+    LibraryShop shop;
+    SetLastJobID(shop.job);
+    OpenJobList();
+    Form& form = Shown(u"frmJobList"_s);
+    Control<List>(form, u"lstCustomers"_s).SelectData(shop.rigger);
+    SaveLineName(shop.AddTask(RepackTaskLibID), u"Renamed"_s);
+    QCOMPARE(SelectedIn(form, "lstCustomers"), shop.rigger);
+    QCOMPARE(SelectedIn(form, "lstJobs"), shop.job);
+  }
+
+  void HidingPhotosIsSeenOnEveryScreen() {
+    LibraryShop shop;
+    GotoJob(shop.job);
+    OpenJobList();
+    OpenRigs({.rig = shop.rig});
+    for (bool hidden : {true, false}) {
+      SetPhotosHidden(hidden);
+      for (const QString& name : {u"frmJob"_s, u"frmJobList"_s, u"frmGetRig"_s}) {
+        QCOMPARE(Control<QAbstractButton>(Shown(name), u"chkHidePhotos"_s).isChecked(), hidden);
+        QCOMPARE(
+            Control<QWidget>(Shown(name), name == "frmGetRig"_L1 ? u"lblCanopyPhoto"_s : u"imageCanopy"_s).isVisible(),
+            !hidden);
+      }
+    }
+  }
 
   void TheJobListKeepsItsJobAndShowsTheNeighbourOfOneThatHasGone() {
     LibraryShop shop;

@@ -44,9 +44,8 @@ frmComponent::frmComponent() : ui_(std::make_unique<Ui::frmComponent>()) {
     box->installEventFilter(this);
   ui_->txtComment->viewport()->installEventFilter(this);
   ui_->cmdPhoto->setEnabled(false);
-  ui_->chkHidePhotos->setChecked(PhotosAreHidden());
   ShowPhoto();
-  connect(ui_->chkHidePhotos, &QCheckBox::toggled, this, [this](bool hidden) {
+  connect(ui_->chkHidePhotos, &QCheckBox::clicked, this, [this](bool hidden) {
     SetPhotosHidden(hidden);
     ShowPhoto();
   });
@@ -62,7 +61,7 @@ frmComponent::frmComponent() : ui_(std::make_unique<Ui::frmComponent>()) {
 frmComponent::~frmComponent() = default;
 
 QStringList frmComponent::ShowsTables() const {
-  return ScheduleGrid::ShowsTables() + QStringList{tblComponentTypes::kTable, tblPeople::kTable};
+  return ScheduleGrid::ShowsTables() + QStringList{tblComponentTypes::kTable, tblPeople::kTable, tblMisc::kTable};
 }
 
 void frmComponent::MakeMenu() {
@@ -94,6 +93,7 @@ void frmComponent::ReloadForm() {
   ShowFields();
   ShowOwner();
   ReloadSchedule();
+  ShowPhoto();
 }
 
 void frmComponent::ShowFields() {
@@ -131,7 +131,11 @@ void frmComponent::ReloadSchedule() {
   ui_->schedule->setVisible(shown);
 }
 
-void frmComponent::ShowPhoto() { ui_->imageComponent->setVisible(!ui_->chkHidePhotos->isChecked()); }
+void frmComponent::ShowPhoto() {
+  const bool hidden = PhotosAreHidden();
+  ui_->chkHidePhotos->setChecked(hidden);
+  ui_->imageComponent->setVisible(!hidden);
+}
 
 bool frmComponent::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::MouseButtonDblClick) return Form::eventFilter(watched, event);

@@ -1,5 +1,6 @@
 #include "gear/screens/rigs/frmCurrentComponents.h"
 
+#include "core/store/tables.h"
 #include "gear/rig_rules.h"
 #include "gear/rig_types.h"
 #include "gear/rigs.h"
@@ -15,7 +16,7 @@ frmCurrentComponents::frmCurrentComponents() : ui_(std::make_unique<Ui::frmCurre
 
 frmCurrentComponents::~frmCurrentComponents() = default;
 
-QStringList frmCurrentComponents::ShowsTables() const { return RigGrid::ShowsTables(); }
+QStringList frmCurrentComponents::ShowsTables() const { return RigGrid::ShowsTables() + QStringList{tblMisc::kTable}; }
 
 void frmCurrentComponents::SetRig(int rig) {
   rig_ = rig;
@@ -26,6 +27,6 @@ void frmCurrentComponents::ReloadForm() {
   const int shown = RigExists(rig_) ? rig_ : 0;
   ui_->lblRigName->setText(RigName(shown));
   ui_->lblRigType->setText(RigTypeName(RigType(shown)));
-  RigGrid::Fill(*ui_->grid, shown);
+  RigGrid::Refill(*ui_->grid, shown);
   for (QLabel* photo : {ui_->lblRigPhoto, ui_->lblCanopyPhoto}) photo->setVisible(!PhotosAreHidden());
 }

@@ -36,7 +36,7 @@ void frmDeleteSystem::ReloadForm() {
 void frmDeleteSystem::ShowRig() {
   ui_->lblTitle->setText(RigName(rig_));
   ui_->lblRigType->setText(u"Rig Type: "_s + RigTypeName(RigType(rig_)));
-  RigGrid::Fill(*ui_->grid, rig_);
+  RigGrid::Refill(*ui_->grid, rig_);
 }
 
 void frmDeleteSystem::SetRig(int rig, bool showOnly) {

@@ -42,10 +42,7 @@ RigBrowser::RigBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<
   RigGrid::SetUp(*ui_->grid);
   ui_->optAll->setChecked(true);
   ui_->lblComments->hide();
-  {
-    const Loading loading(loading_);
-    ui_->chkHidePhotos->setChecked(PhotosAreHidden());
-  }
+  ShowPhotosSetting();
   connect(ui_->lstCustomers, &List::ListChange, this, [this](int row) {
     if (!loading_ && row >= 0) ChooseCustomer(ui_->lstCustomers->ItemData(row));
   });
@@ -76,7 +73,9 @@ RigBrowser::RigBrowser(QWidget* parent) : QWidget(parent), ui_(std::make_unique<
 
 RigBrowser::~RigBrowser() = default;
 
-QStringList RigBrowser::ShowsTables() { return RigGrid::ShowsTables() + QStringList{tblPeople::kTable}; }
+QStringList RigBrowser::ShowsTables() {
+  return RigGrid::ShowsTables() + QStringList{tblPeople::kTable, tblMisc::kTable};
+}
 
 bool RigBrowser::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) Q_EMIT PhotoClick();
@@ -96,6 +95,7 @@ void RigBrowser::SetFixed(bool fixed) {
 void RigBrowser::Begin(int customer, int rig, int rigType) {
   {
     const Loading loading(loading_);
+    if (!RigExists(rig)) rig = 0;
     rigType_ = rigType;
     customer_ = customer != 0 ? customer : RigOwner(rig);
     if (!PersonExists(customer_)) customer_ = 0;
@@ -156,6 +156,7 @@ bool RigBrowser::MayStayOnRig() const {
 void RigBrowser::Reload() {
   if (!PersonExists(customer_)) customer_ = 0;
   if (rigType_ != 0 && !RigTypeExists(rigType_)) rigType_ = 0;
+  ShowPhotosSetting();
   LoadCustomerList();
   LoadRigList();
   MarkCustomer(customer_);
@@ -229,6 +230,11 @@ void RigBrowser::ShowNotices() {
   ui_->lblNotAssigned->setVisible(IsUnassigned());
   ui_->lblNoSystems->setVisible(customer_ != 0 && rig_ == 0 && FirstRigOf(customer_) == 0);
   ui_->lblComments->setVisible(rig_ != 0 && !RigComment(rig_).trimmed().isEmpty());
+}
+
+void RigBrowser::ShowPhotosSetting() {
+  const Loading loading(loading_);
+  ui_->chkHidePhotos->setChecked(PhotosAreHidden());
 }
 
 void RigBrowser::ShowPhotos() {

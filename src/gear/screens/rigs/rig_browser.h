@@ -72,6 +72,7 @@ class RigBrowser : public QWidget {
   bool IsUnassigned() const;
   void MarkCustomer(int id);
   void ShowNotices();
+  void ShowPhotosSetting();
   void ShowPhotos();
 
   std::unique_ptr<Ui::RigBrowser> ui_;

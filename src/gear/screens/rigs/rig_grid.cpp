@@ -13,6 +13,16 @@ constexpr int kTypeColumn = 0;
 constexpr int kComponentColumn = 5;
 constexpr int kMostRows = 6;
 
+std::vector<GridRow> RowsOf(int rig) {
+  std::vector<GridRow> rows;
+  if (rig == 0) return rows;
+  for (const RigComponentRow& row : LoadRigComponents(rig))
+    rows.push_back({.cells = {QString::number(row.type), row.typeName, row.name, row.serial, row.dom,
+                              QString::number(row.component)},
+                    .data = row.type});
+  return rows;
+}
+
 }  // namespace
 
 void RigGrid::SetUp(Grid& grid) {
@@ -36,14 +46,12 @@ QStringList RigGrid::ShowsTables() {
 }
 
 void RigGrid::Fill(Grid& grid, int rig) {
-  std::vector<GridRow> rows;
-  if (rig != 0) {
-    for (const RigComponentRow& row : LoadRigComponents(rig))
-      rows.push_back({.cells = {QString::number(row.type), row.typeName, row.name, row.serial, row.dom,
-                                QString::number(row.component)},
-                      .data = row.type});
-  }
-  grid.Fill(std::move(rows));
+  grid.Fill(RowsOf(rig));
+  grid.FitHeight(kMostRows);
+}
+
+void RigGrid::Refill(Grid& grid, int rig) {
+  grid.Refill(RowsOf(rig));
   grid.FitHeight(kMostRows);
 }
 
