@@ -188,17 +188,15 @@ QString Work::LostBy(const Form& form, const Kept& before) const {
                                                       : u"%1 lost its record: %2 of %3"_s.arg(form.FormName())
                                                             .arg(subject.id)
                                                             .arg(QLatin1StringView(subject.table));
-  bool allThere = true;
-  const std::vector<Held> nowSelected = SelectedRows(form);
-  for (const Held& held : before.selected) {
-    if (!HasRow(form, held))
-      allThere = false;
-    else if (!Contains(nowSelected, held) && Keeps(form.FormName(), held.control))
-      return told("a selection", held);
-  }
-  const std::vector<Held> nowTyped = TypedTexts(form);
+  // Where a row has gone, what was selected or typed beside it may follow.
+  for (const Held& held : before.selected)
+    if (!HasRow(form, held)) return {};
+  const std::vector<Held> selected = SelectedRows(form);
+  for (const Held& held : before.selected)
+    if (!Contains(selected, held) && Keeps(form.FormName(), held.control)) return told("a selection", held);
+  const std::vector<Held> typed = TypedTexts(form);
   for (const Held& held : before.typed)
-    if (allThere && !Contains(nowTyped, held) && HasRow(form, held)) return told("a text that is being typed", held);
+    if (!Contains(typed, held) && HasRow(form, held)) return told("a text that is being typed", held);
   return {};
 }
 
