@@ -72,4 +72,9 @@ bool MayBeUsed(const QString& form, const QString& command) {
   return form != "frmPrintPreview"_L1 && !Lists(kNotUsed, form, command);
 }
 
-bool IsMeant(const ShownPrompt&) { return false; }
+bool IsMeant(const ShownPrompt& box) {
+  static const QSet<QString> titles = {u"Function ParseDate"_s,    // tells that what was typed is no date
+                                       u"Sub ReplaceSchedule"_s};  // the month that work falls due in lacks its day;
+                                                                   // the work stays, its due date is unknown
+  return titles.contains(box.title) && box.text.startsWith("Type mismatch"_L1);
+}

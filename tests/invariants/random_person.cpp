@@ -30,7 +30,7 @@ namespace {
 /// a value breaks, and its box says so.
 const QStringList kWords = {u"Smith"_s,     u"Ann Adams"_s, u"Blue"_s,       u"Sky"_s,      u"12"_s,
                             u"0"_s,         u"33.50"_s,     u"180"_s,        u"3/1/2026"_s, u"2/28/2026"_s,
-                            u"1/15/2025"_s, u"S1"_s,        u"Line check"_s, u"CA"_s,       u"7.25"_s,
+                            u"8/31/2025"_s, u"S1"_s,        u"Line check"_s, u"CA"_s,       u"7.25"_s,
                             u"x"_s,         u"Rob"_s,       u"Big patch"_s};
 
 /// Acts in one step, on all the screens that it opens; after them every modal screen is left at once.

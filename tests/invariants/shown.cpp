@@ -11,8 +11,6 @@
 #include "core/widgets/form.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"
-#include "gear/screens/people/frmPeople.h"
-#include "gear/screens/rigs/frmGetRig.h"
 #include "invariants/exceptions.h"
 #include "jobs/screens/frmJob.h"
 
@@ -163,11 +161,9 @@ std::vector<Held> TypedTexts(const Form& form) {
   return held;
 }
 
-Subject SubjectOf(const Form& form) {
-  if (const auto* job = dynamic_cast<const frmJob*>(&form)) return {"tblJobs", job->JobID()};
-  if (const auto* rigs = dynamic_cast<const frmGetRig*>(&form)) return {"tblRig", rigs->Rig()};
-  if (const auto* people = dynamic_cast<const frmPeople*>(&form)) return {"tblPeople", people->CurrentPerson()};
-  return {};
+int JobOf(const Form& form) {
+  const auto* job = dynamic_cast<const frmJob*>(&form);
+  return job == nullptr ? 0 : job->JobID();
 }
 
 bool HasRow(const Form& form, const Held& held) {

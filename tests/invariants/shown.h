@@ -29,11 +29,7 @@ struct Held {
 };
 std::vector<Held> SelectedRows(const Form& form);
 std::vector<Held> TypedTexts(const Form& form);
-/// The record that a screen is about, where that is not selected in one of its lists; id 0 for none.
-struct Subject {
-  const char* table = "tblJobs";
-  int id = 0;
-};
-Subject SubjectOf(const Form& form);
+/// The job that a screen is about, 0 for another screen.
+int JobOf(const Form& form);
 /// Does a list or grid of the screen still have such a row? True for a control without rows.
 bool HasRow(const Form& form, const Held& held);

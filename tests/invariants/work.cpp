@@ -147,7 +147,7 @@ QString Work::Do(const Step& step, bool compareAll) {
   std::vector<std::pair<QPointer<Form>, Kept>> beside;
   for (const ScreenKind& kind : kinds)
     if (Form* other = Shown(kind.name); other != nullptr && other != form)
-      beside.push_back({other, {SubjectOf(*other), SelectedRows(*other), TypedTexts(*other)}});
+      beside.push_back({other, {JobOf(*other), SelectedRows(*other), TypedTexts(*other)}});
   form->raise();
   form->activateWindow();
   Settle();
@@ -181,13 +181,9 @@ QString Work::LostBy(const Form& form, const Kept& before) const {
     return u"%1 lost %2: %3 of row %4 in %5"_s.arg(form.FormName(), QLatin1StringView(what), held.typed, held.row,
                                                    held.control);
   };
-  // A record that has gone takes its selections and texts along.
-  const Subject& subject = before.subject;
-  if (subject.id > 0 && SubjectOf(form).id != subject.id)
-    return !IdsOf(subject.table).contains(subject.id) ? QString()
-                                                      : u"%1 lost its record: %2 of %3"_s.arg(form.FormName())
-                                                            .arg(subject.id)
-                                                            .arg(QLatin1StringView(subject.table));
+  // A job that has gone takes its selections and texts along.
+  if (before.job != 0 && JobOf(form) != before.job)
+    return IdsOf("tblJobs").contains(before.job) ? u"%1 left job %2"_s.arg(form.FormName()).arg(before.job) : QString();
   // Where a row has gone, what was selected or typed beside it may follow.
   for (const Held& held : before.selected)
     if (!HasRow(form, held)) return {};

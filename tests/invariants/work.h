@@ -45,7 +45,7 @@ class Work {
   class Written;
   /// What a screen holds while something is done on another one.
   struct Kept {
-    Subject subject;
+    int job = 0;
     std::vector<Held> selected;
     std::vector<Held> typed;
   };
