@@ -237,7 +237,6 @@ std::unique_ptr<Form> FreshModels(const Form& open) {
 std::unique_ptr<Form> FreshRigTypes(const Form& open) {
   auto fresh = std::make_unique<frmRigTypes>();
   Part<List>(*fresh, "lstType").SelectData(Selected(open, "lstType"));
-  if (Selected(open, "lstType") == 0) MarkLike(open, *fresh, {"optBack", "optSeat", "optChest", "optOther"});
   Part<List>(*fresh, "LstComp").SelectData(Selected(open, "LstComp"));
   return fresh;
 }

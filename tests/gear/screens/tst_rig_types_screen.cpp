@@ -69,6 +69,8 @@ class TestRigTypesScreen : public QObject {
     QCOMPARE(Components(form).Count(), 6);
     QCOMPARE(Ticked(form), QList<int>());
     QCOMPARE(ReservePlace(form), QString());
+    Control<QRadioButton>(form, u"optSeat"_s).click();  // of no rig type
+    QCOMPARE(ReservePlace(form), QString());
     Types(form).SelectData(2);
     QCOMPARE(Ticked(form), (QList<int>{1, 2, 3, 4, 6}));
     QCOMPARE(ReservePlace(form), u"optBack"_s);

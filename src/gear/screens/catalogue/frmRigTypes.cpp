@@ -22,7 +22,7 @@ frmRigTypes::frmRigTypes() : ui_(std::make_unique<Ui::frmRigTypes>()) {
   connect(ui_->LstComp, &List::ItemTick, this, &frmRigTypes::WriteComponents);
   const QList<QRadioButton*> options = Options();
   for (int place = 0; place < options.size(); ++place)
-    connect(options[place], &QRadioButton::clicked, this, [this, place] { SetReserveLocation(RigType(), place + 1); });
+    connect(options[place], &QRadioButton::clicked, this, [this, place] { ChooseReserve(place + 1); });
   connect(ui_->cmdEdit, &QPushButton::clicked, this, &frmRigTypes::EditComponentList);
   connect(ui_->cmdAdd, &QPushButton::clicked, this, &frmRigTypes::AddNew);
   connect(ui_->cmdRename, &QPushButton::clicked, this, &frmRigTypes::Rename);
@@ -78,6 +78,13 @@ void frmRigTypes::ShowRigType() {
   }
   if (type != 0) Options().value(place - 1, ui_->optOther)->setChecked(true);
   EnterComponents(false);
+}
+
+void frmRigTypes::ChooseReserve(int place) {
+  if (RigType() == 0)
+    ShowRigType();  // there is nothing that the option could be of
+  else
+    SetReserveLocation(RigType(), place);
 }
 
 void frmRigTypes::WriteComponents() {

@@ -27,6 +27,7 @@ class frmRigTypes : public Form {
   QList<QRadioButton*> Options() const;
   void LoadList(int select);
   void ShowRigType();
+  void ChooseReserve(int place);
   void WriteComponents();
   void EditComponentList();
   void AddNew();
