@@ -2,10 +2,11 @@
 #include "faults/ground.h"
 #include "gear/component_editor.h"
 #include "gear/component_rules.h"
-#include "gear/person_deletion.h"
 #include "gear/rig_rules.h"
 #include "gear/screens.h"
-#include "schedule/install.h"
+#include "jobs/gear_deletion.h"
+#include "jobs/person_deletion.h"
+#include "schedule/gear_moves.h"
 #include "support/screens/controls.h"
 
 using namespace Qt::StringLiterals;
