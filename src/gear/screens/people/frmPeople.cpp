@@ -257,7 +257,7 @@ void frmPeople::Move(int neighbour, bool forward) {
 bool frmPeople::AddNew() {
   Person person;
   SetLocked(true);
-  const auto unlock = qScopeGuard([this] {
+  auto unlock = qScopeGuard([this] {
     locked_ = false;
     ShowState();
   });
@@ -267,6 +267,7 @@ bool frmPeople::AddNew() {
   const int added = saved ? SaveNewOwner(person, isOwner) : 0;
   if (isOwner) savedOwner_ = added;
   Display(added != 0 ? added : current_);
+  unlock.dismiss();
   return added != 0;
 }
 
