@@ -110,9 +110,9 @@ QByteArray LostRows() {
   return parts.join(" UNION ALL ");
 }
 
-bool Holds(const char* table, const char* column) {
+bool IsListed(const Column& column) {
   return std::any_of(std::begin(kReferences), std::end(kReferences), [&](const Reference& reference) {
-    return qstrcmp(reference.table, table) == 0 && qstrcmp(reference.column, column) == 0;
+    return column.table == QLatin1StringView(reference.table) && column.name == QLatin1StringView(reference.column);
   });
 }
 
@@ -136,11 +136,10 @@ QStringList LostReferences() {
 QStringList UnlistedReferences() {
   QStringList unlisted;
   for (const SchemaTable& table : Schema()) {
-    for (const SchemaField& field : table.fields) {
-      const QString name = QString::fromLatin1(field.name);
-      const bool isOwn = name == QLatin1StringView(table.key.name) && table.autoIncrement;
-      if (name.endsWith(u"ID"_s) && name != "ID"_L1 && !isOwn && !Holds(table.name, field.name))
-        unlisted << QLatin1StringView(table.name) + u'.' + name;
+    for (const Column& column : table.columns) {
+      const bool isOwn = column.name == table.key.name && table.autoIncrement;
+      if (column.name.endsWith(u"ID") && column.name != u"ID" && !isOwn && !IsListed(column))
+        unlisted << column.InTable();
     }
   }
   return unlisted;

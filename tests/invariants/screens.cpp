@@ -10,6 +10,7 @@
 #include "core/shell/frmRecentChanges.h"
 #include "core/widgets/grid.h"
 #include "core/widgets/list.h"
+#include "gear/components.h"
 #include "gear/people.h"
 #include "gear/rigs.h"
 #include "gear/screens.h"
@@ -192,7 +193,9 @@ std::unique_ptr<Form> FreshHistory(const Form& open) {
   const auto& types = Part<List>(open, "LstComp");
   auto fresh = std::make_unique<frmHistoryForm>();
   if (open.windowTitle() == "Component History"_L1 && !Part<QWidget>(open, "ticks").isVisibleTo(&open)) {
-    fresh->ReloadMe(HistoryViewOfComponent(types.ItemData(0)));
+    const int component = types.ItemData(0);
+    if (!ComponentExists(component)) return nullptr;  // its history goes on to be shown, and can't be opened anew
+    fresh->ReloadMe(HistoryViewOfComponent(component));
   } else {
     const int rig = IdOfText("tblRig", TextOf(open, "lblRig"), &HistoryRigText);
     if (rig == 0) return nullptr;

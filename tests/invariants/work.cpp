@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 class Work::Written : public LoadedForm {
  public:
   Written() {
-    for (const SchemaTable& table : Schema()) tables_ << QLatin1StringView(table.name);
+    for (const SchemaTable& table : Schema()) tables_ << table.table;
     tables_ << QLatin1StringView(kUndoTable);
     Forms::Add(this);
   }
