@@ -95,7 +95,7 @@ constexpr MayDangle kMayDangle[] = {
     {"tblJobs.LocationID tblTasks.LocationID", "Delete location", "jobs keep the place where they were done"},
     {"tblJobs.RiggerID tblTasks.RiggerID", "Delete person", "work stays that of its rigger, who then reads (none)"},
     {"tblMisc.DefaultRiggerID tblMisc.UserID", "Delete person", "repaired when it is read"},
-    {"tblRigTypeComponents.RigTypeID", "Delete rig type", "ignored: a new rig type gets a fresh id"},
+    {"tblRigTypeComponents.RigTypeID", "", "ignored: a new rig type gets a fresh id"},
 };
 
 /// Ids begin at 1: 0 is none, and what is below stands for something else.
