@@ -119,13 +119,16 @@ void frmHistoryForm::ReloadMe(const HistoryView& view) {
   ReloadForm();
 }
 
+/// The one component that is viewed, or the component types of the rig.
+IdList frmHistoryForm::ToTick() const {
+  if (view_.mode != HistoryMode::Component) return LoadRigTypeComponents(RigType(view_.rigID));
+  IdList viewed;
+  viewed.Add(ComponentTypeName(view_.componentTypeID), view_.componentID);
+  return viewed;
+}
+
 void frmHistoryForm::LoadComponentTypes() {
-  if (view_.mode == HistoryMode::Component) {
-    ui_->LstComp->Clear();
-    ui_->LstComp->AddItem(ComponentTypeName(view_.componentTypeID), view_.componentID);
-  } else {
-    ui_->LstComp->Fill(LoadRigTypeComponents(RigType(view_.rigID)));
-  }
+  ui_->LstComp->Fill(ToTick());
   if (view_.mode == HistoryMode::RigByType && ui_->LstComp->Count() > 1)
     ui_->LstComp->TickData({view_.componentTypeID});
   else
@@ -135,12 +138,11 @@ void frmHistoryForm::LoadComponentTypes() {
 /// What belongs to the rig or the component that is viewed may have changed, and so may the types of the rig. Of one
 /// that has gone the history goes on to be shown.
 void frmHistoryForm::ReloadView() {
-  if (view_.mode == HistoryMode::Component) {
-    if (ComponentExists(view_.componentID)) view_ = HistoryViewOfComponent(view_.componentID);
-  } else if (RigExists(view_.rigID)) {
-    view_ = HistoryViewOfRig(view_.rigID, view_.componentTypeID);
-    ui_->LstComp->Refill(LoadRigTypeComponents(RigType(view_.rigID)));
-  }
+  const bool ofComponent = view_.mode == HistoryMode::Component;
+  if (ofComponent ? !ComponentExists(view_.componentID) : !RigExists(view_.rigID)) return;
+  view_ =
+      ofComponent ? HistoryViewOfComponent(view_.componentID) : HistoryViewOfRig(view_.rigID, view_.componentTypeID);
+  ui_->LstComp->Refill(ToTick());
 }
 
 void frmHistoryForm::TickAll(bool ticked) {

@@ -2,6 +2,7 @@
 #include <memory>
 #include <optional>
 
+#include "core/lists.h"
 #include "core/widgets/form.h"
 #include "history/history_entries.h"
 
@@ -30,6 +31,7 @@ class frmHistoryForm : public Form {
  private:
   void BuildMenus();
   void SetUpGrid();
+  IdList ToTick() const;
   void LoadComponentTypes();
   void ReloadView();
   QList<HistoryLine> LoadHx() const;

@@ -238,6 +238,13 @@ class TestHistoryScreen : public QObject {
     QVERIFY(shop.Column(kTask).join(u'|').contains(u"Washed"_s));
   }
 
+  void ARenamedTypeIsShownInTheHistoryOfOneComponent() {
+    OpenHistory shop;
+    OpenComponentHistory(shop.container);
+    shop.loft.Run(u"update tblComponentTypes set Name = 'Harness' where ID = %1"_s.arg(int{kContainer}));
+    QCOMPARE(Control<List>(shop.Screen(), u"LstComp"_s).ItemText(0), u"Harness"_s);
+  }
+
   void ToARigThatHasGoneNothingIsAdded() {
     OpenHistory shop;
     shop.OpenRig();
