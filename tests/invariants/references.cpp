@@ -5,7 +5,6 @@
 
 #include "core/store/jet.h"
 #include "core/store/schema.h"
-#include "core/store/undo.h"
 #include "invariants/file_rows.h"
 
 using namespace Qt::StringLiterals;
@@ -76,27 +75,41 @@ constexpr Reference kReferences[] = {
 };
 
 struct MayDangle {
-  const char* columns;    // between blanks
-  const char* operation;  // after which they may; empty for always
+  const char* columns;  // between blanks
   const char* why;
 };
 
 constexpr MayDangle kMayDangle[] = {
-    {"tblMisc.LastSystemID tblMisc.LastJobID tblMisc.LastCustomerID tblMisc.LastComponentID", "",
+    {"tblMisc.LastSystemID tblMisc.LastJobID tblMisc.LastCustomerID tblMisc.LastComponentID",
      "only remember what was shown last"},
-    {"tblTasks.PartID tblTaskLibParts.PartID", "Delete model",
-     "a line keeps the name and price of its part; a task of the library drops a part that has gone when it is used"},
-    {"tblTasks.PartID tblTaskLibParts.PartID", "Delete part", "the same"},
-    {"tblJobs.ComponentID tblJobComponents.ComponentID tblTaskComponents.CompID tblSchedules.ComponentID",
-     "Delete model", "the components go with their model, with no further cleaning of rigs or schedules"},
-    {"tblRepackByModel.ModelID tblTaskLib.ModelID", "Delete model", "the same"},
-    {"tblComponents.RigID tblJobs.SystemID tblTasks.SystemID tblSchedules.rigID", "Delete rig",
-     "its components stay, and go on pointing at it; so do its jobs and all that is due but the repack"},
-    {"tblJobs.LocationID tblTasks.LocationID", "Delete location", "jobs keep the place where they were done"},
-    {"tblJobs.RiggerID tblTasks.RiggerID", "Delete person", "work stays that of its rigger, who then reads (none)"},
-    {"tblMisc.DefaultRiggerID tblMisc.UserID", "Delete person", "repaired when it is read"},
-    {"tblRigTypeComponents.RigTypeID", "", "ignored: a new rig type gets a fresh id"},
+    {"tblTasks.PartID", "a line keeps the name and price of its part"},
+    {"tblTaskLibParts.PartID", "a task of the library drops a part that has gone when it is used"},
+    {"tblRepackByModel.ModelID tblTaskLib.ModelID", "a model goes with no further cleaning"},
+    {"tblComponents.RigID tblJobs.SystemID tblTasks.SystemID tblSchedules.rigID",
+     "a rig's components stay, and go on pointing at it; so do its jobs and all that is due but the repack"},
+    {"tblJobs.LocationID tblTasks.LocationID", "jobs keep the place where they were done"},
+    {"tblJobs.RiggerID tblTasks.RiggerID", "work stays that of its rigger, who then reads (none)"},
+    {"tblMisc.DefaultRiggerID tblMisc.UserID", "repaired when it is read"},
+    {"tblRigTypeComponents.RigTypeID", "ignored: a new rig type gets a fresh id"},
 };
+
+/// Components go with their model, with no further cleaning of rigs or schedules; deleted alone they leave nothing.
+constexpr MayDangle kOnceAModelHasGone[] = {
+    {"tblJobs.ComponentID tblJobComponents.ComponentID tblTaskComponents.CompID tblSchedules.ComponentID",
+     "a model's components go with no further cleaning"}};
+
+bool AModelHasGone() {
+  return ReadRows("SELECT 1 FROM sqlite_sequence WHERE name = 'tblModels' AND seq > (SELECT count(*) FROM tblModels)")
+      .contains(u"1"_s);
+}
+
+template <size_t N>
+void LeaveOut(const MayDangle (&excuses)[N], QStringList& lost) {
+  for (const MayDangle& excuse : excuses) {
+    const QStringList columns = QString::fromLatin1(excuse.columns).split(u' ');
+    lost.removeIf([&](const QString& row) { return columns.contains(row.section(u' ', 0, 0)); });
+  }
+}
 
 /// Ids begin at 1: 0 is none, and what is below stands for something else.
 QByteArray LostRows() {
@@ -122,15 +135,9 @@ QStringList LostReferences() {
   static const QByteArray statement = LostRows();
   QStringList lost = ReadRows(statement);
   if (lost.isEmpty()) return {};
-  QSet<QString> done{QString()};
-  for (const RecordedOperation& operation : RecentOperations())
-    if (!operation.undone) done << operation.name;
-  for (const MayDangle& excuse : kMayDangle) {
-    if (!done.contains(QLatin1StringView(excuse.operation))) continue;
-    const QStringList columns = QString::fromLatin1(excuse.columns).split(u' ');
-    lost.removeIf([&](const QString& row) { return columns.contains(row.section(u' ', 0, 0)); });
-  }
-  return lost.isEmpty() ? lost : lost << u"after: "_s + QStringList(done.begin(), done.end()).join(u", "_s);
+  LeaveOut(kMayDangle, lost);
+  if (!lost.isEmpty() && AModelHasGone()) LeaveOut(kOnceAModelHasGone, lost);
+  return lost;
 }
 
 QStringList UnlistedReferences() {
