@@ -9,8 +9,12 @@
 
 #include "bench/application.h"
 #include "bench/loft_generator.h"
+#include "core/shell/frmMain2.h"
 #include "core/store/access.h"
 #include "core/store/connection.h"
+#include "core/store/undo.h"
+#include "gear/screens.h"
+#include "history/screens.h"
 #include "jobs/completion.h"
 #include "jobs/job_records.h"
 #include "jobs/lines.h"
@@ -18,6 +22,7 @@
 #include "jobs/screens.h"
 #include "jobs/screens/frmJob.h"
 #include "schedule/reconstruct.h"
+#include "schedule/screens.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,13 +30,49 @@ namespace {
 
 constexpr int kJob = 20000;
 
+/// Whether what is measured is recorded, so that it can be taken back.
+class Recording {
+ public:
+  explicit Recording(const benchmark::State& state) { SetRecordsOperations(state.range(0) != 0); }
+  ~Recording() { SetRecordsOperations(true); }
+};
+
 void StatusClickWithItsSchedule(benchmark::State& state) {
   UseBenchmarkLoft();
+  const Recording recording(state);
   const int line = LinesOfJob(kJob).value(0);
   for (auto _ : state) ToggleComplete(line, JobDateStarted(kJob), true);
   if (!LineIsDone(line)) ToggleComplete(line, JobDateStarted(kJob), true);
 }
-BENCHMARK(StatusClickWithItsSchedule)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(StatusClickWithItsSchedule)
+    ->ArgName("recorded")
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+/// To the last screen painted anew.
+void StatusClickWithAllScreensOpen(benchmark::State& state) {
+  BenchApplication();
+  UseBenchmarkLoft();
+  SharedForm<frmMain2>().show();
+  OpenPeople();
+  OpenRigs({});
+  OpenJobList();
+  OpenSchedule();
+  OpenRigHistory(JobSystemID(kJob));
+  GotoJob(kJob);
+  QApplication::processEvents();
+  const int line = LinesOfJob(kJob).value(0);
+  for (auto _ : state) {
+    ToggleComplete(line, JobDateStarted(kJob), true);
+    QApplication::processEvents();
+  }
+  if (!LineIsDone(line)) ToggleComplete(line, JobDateStarted(kJob), true);
+  state.counters["screens"] = static_cast<double>(Forms::Loaded().size());
+  for (LoadedForm* form : Forms::Loaded()) form->UnloadForm();
+}
+BENCHMARK(StatusClickWithAllScreensOpen)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 /// The loft's file in the hands of plain SQLite.
 class PlainLoft {
@@ -71,7 +112,7 @@ BENCHMARK(PlainTransactionOfItsWrites)->Unit(benchmark::kMillisecond)->UseRealTi
 void LoadJobOf20Lines(benchmark::State& state) {
   BenchApplication();
   UseBenchmarkLoft();
-  const int part = GetValueFromTableBySQL(u"Select * from tblModels where TypeID = 7"_s, u"ID"_s).ToInt();
+  const int part = GetValueFromTableBySQL(tblModels::TypeID == 7, tblModels::ID).ToInt();
   QList<int> added;
   while (LinesOfJob(kJob).size() < 20) added << AddPartToJob(JobContextOf(kJob), part, JobDateStarted(kJob));
   CompleteAllTasks(kJob, true, JobDateStarted(kJob), true);
@@ -86,10 +127,11 @@ BENCHMARK(LoadJobOf20Lines)->Unit(benchmark::kMillisecond);
 
 void RebuildSchedule(benchmark::State& state) {
   UseBenchmarkLoft();
+  const Recording recording(state);
   for (auto _ : state) ReconstructSchedules();
-  state.counters["rows"] = GetNumberRecordsInTable(u"tblSchedules"_s);
+  state.counters["rows"] = GetNumberRecordsInTable(tblSchedules::kTable);
 }
-BENCHMARK(RebuildSchedule)->Unit(benchmark::kMillisecond);
+BENCHMARK(RebuildSchedule)->ArgName("recorded")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 /// The latest complete repack of each container that is in a rig, and the cycle after it.
 constexpr char kSameRows[] =

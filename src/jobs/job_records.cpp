@@ -46,7 +46,7 @@ int LastJobID() { return GetValueFromTableBySQL(tblMisc::kTable, tblMisc::LastJo
 
 QString GetInvoiceNumber(int jobID) {
   if (!JobExists(jobID)) return {};
-  const QString number = JobField(jobID, tblJobs::InvoiceNumber).ToText();
+  QString number = JobField(jobID, tblJobs::InvoiceNumber).ToText();
   if (!number.trimmed().isEmpty()) return number;
   Upkeep(u"Function GetInvoiceNumber"_s, [&] { SetJobInvoiceNumber(jobID, QString::number(jobID)); });
   return QString::number(jobID);

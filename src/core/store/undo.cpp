@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kMostBytes = 20 * 1024 * 1024;
+constexpr qint64 kMostBytes = qint64{20} * 1024 * 1024;
 constexpr int kMostOperations = 2000;
 /// What writes no more than this may have taken itself back, as the start of a job does that is cancelled.
-constexpr qsizetype kLooksForDifference = 16 * 1024;
+constexpr qsizetype kLooksForDifference = qsizetype{16} * 1024;
 
 bool recording = true;
 

@@ -63,13 +63,13 @@ void frmComponentModels::BuildMenus() {
   add(models, u"Link model to manufacturer"_s, "mnuLink", &frmComponentModels::Link);
   models->addSeparator();
   add(models, u"Export models"_s, "mnuExportModels", [] { ExportModels(); });
-  add(models, u"Import models"_s, "mnuImportModels", [this] { ImportModels(false); });
+  add(models, u"Import models"_s, "mnuImportModels", [] { ImportModels(false); });
   QMenu* makers = MenuBar()->addMenu(u"Manufacturers"_s);
   add(makers, u"Add new manufacturer"_s, "mnuAddManufacturer", &frmComponentModels::AddMaker);
   add(makers, u"Rename manufacturer"_s, "mnuRenameManufacturer", &frmComponentModels::RenameMaker);
   add(makers, u"Delete manufacturer"_s, "mnuDeleteManufacturer", &frmComponentModels::DeleteMaker);
   add(MenuBar()->addMenu(u"Component Types"_s), u"Edit component types"_s, "mnuComponentTypes",
-      [this] { ShowComponentTypes(); });
+      [] { ShowComponentTypes(); });
   MenuBar()->addAction(u"Exit"_s, this, &frmComponentModels::Cancel);
 }
 
