@@ -29,6 +29,7 @@ constexpr Control kNotCompared[] = {
 
 constexpr Control kNotKept[] = {
     {"frmGetRig", "lstCustomers", "follows the owner of the rig that is shown"},
+    {"frmJob", "txtDate", "what is no date becomes the working date again"},
 };
 
 constexpr Control kNotUsed[] = {

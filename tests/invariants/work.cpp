@@ -192,7 +192,8 @@ QString Work::LostBy(const Form& form, const Kept& before) const {
     if (!Contains(selected, held) && Keeps(form.FormName(), held.control)) return told("a selection", held);
   const std::vector<Held> typed = TypedTexts(form);
   for (const Held& held : before.typed)
-    if (!Contains(typed, held) && HasRow(form, held)) return told("a text that is being typed", held);
+    if (!Contains(typed, held) && HasRow(form, held) && Keeps(form.FormName(), held.control))
+      return told("a text that is being typed", held);
   return {};
 }
 
