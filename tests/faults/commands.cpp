@@ -1,5 +1,7 @@
 #include "faults/commands.h"
 
+#include <QTest>
+
 const std::vector<Command>& Commands() {
   static const std::vector<Command> commands = [] {
     std::vector<Command> all;
@@ -9,4 +11,9 @@ const std::vector<Command>& Commands() {
     return all;
   }();
   return commands;
+}
+
+void AddRowsOfCommands() {
+  QTest::addColumn<int>("index");
+  for (size_t i = 0; i < Commands().size(); ++i) QTest::newRow(Commands()[i].name) << static_cast<int>(i);
 }

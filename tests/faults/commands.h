@@ -19,6 +19,8 @@ struct Command {
 
 /// Sixty commands, from every subsystem that writes.
 const std::vector<Command>& Commands();
+/// A row for each, of its name and the column "index".
+void AddRowsOfCommands();
 
 // Their parts, by where a person finds them.
 std::vector<Command> CommandsOnJobs();

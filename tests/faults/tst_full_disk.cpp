@@ -63,10 +63,7 @@ class FullDiskTest : public QObject {
     trial_.reset();
   }
 
-  void ACommandIsRefusedWholeOrDoneWhole_data() {
-    QTest::addColumn<int>("index");
-    for (size_t i = 0; i < Commands().size(); ++i) QTest::newRow(Commands()[i].name) << static_cast<int>(i);
-  }
+  void ACommandIsRefusedWholeOrDoneWhole_data() { AddRowsOfCommands(); }
   void ACommandIsRefusedWholeOrDoneWhole() {
     QFETCH(int, index);
     QVERIFY(trial_->Begin(Commands()[static_cast<size_t>(index)]));

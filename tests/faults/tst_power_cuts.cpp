@@ -53,10 +53,7 @@ class PowerCutsTest : public QObject {
     trial_.reset();
   }
 
-  void ACommandIsDoneWholeOrNotBegun_data() {
-    QTest::addColumn<int>("index");
-    for (size_t i = 0; i < Commands().size(); ++i) QTest::newRow(Commands()[i].name) << static_cast<int>(i);
-  }
+  void ACommandIsDoneWholeOrNotBegun_data() { AddRowsOfCommands(); }
   void ACommandIsDoneWholeOrNotBegun() {
     QFETCH(int, index);
     const int before = synced_.Bad();

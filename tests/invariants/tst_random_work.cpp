@@ -3,25 +3,10 @@
 
 #include "invariants/references.h"
 #include "invariants/work.h"
+#include "support/random_setting.h"
 #include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int Setting(const char* name, int usual) {
-  bool isSet = false;
-  const int value = qEnvironmentVariableIntValue(name, &isSet);
-  return isSet ? value : usual;
-}
-
-QString Told(const std::vector<Step>& steps) {
-  QStringList texts;
-  for (const Step& step : steps) texts << step.ToText();
-  return texts.join(u", "_s);
-}
-
-}  // namespace
 
 /// Random work over all rules and screens. LOFTKEEP_SEQUENCES and LOFTKEEP_SEED say how much and where to
 /// begin; LOFTKEEP_INVARIANT_SECONDS lets it run so long.
@@ -44,7 +29,8 @@ class TestRandomWork : public QObject {
       if (work.Run(steps).isEmpty()) continue;
       const std::vector<Step> shortest = Shrunk(work, steps);
       const QString wrong = work.Run(shortest);
-      QFAIL(qPrintable(u"seed %1: %2\n%3\n{%4}"_s.arg(seed).arg(wrong, work.Told().join(u'\n'), Told(shortest))));
+      QFAIL(qPrintable(
+          u"seed %1: %2\n%3\n{%4}"_s.arg(seed).arg(wrong, work.Told().join(u'\n'), Told(shortest, u", "_s))));
     }
     const Work::Figures& figures = work.Counted();
     qInfo("seeds %d to %d: %d steps, %d screens compared, %d could not be, %lld ms", first, seed - 1, figures.steps,

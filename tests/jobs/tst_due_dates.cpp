@@ -1,18 +1,12 @@
 #include <QtTest>
 
 #include "jobs/random_work.h"
+#include "support/random_setting.h"
 #include "support/test_program.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// How many sequences run, and from which seed; a failure names its own.
-int Setting(const char* name, int usual) {
-  bool isSet = false;
-  const int value = qEnvironmentVariableIntValue(name, &isSet);
-  return isSet ? value : usual;
-}
 
 std::vector<Action> Sequence(quint32 seed) {
   QRandomGenerator random(seed);
@@ -36,12 +30,6 @@ std::vector<Action> Shrunk(RandomWork& work, std::vector<Action> actions) {
   return actions;
 }
 
-QString Told(const std::vector<Action>& actions) {
-  QStringList texts;
-  for (const Action& action : actions) texts << action.ToText();
-  return texts.join(u",\n"_s);
-}
-
 }  // namespace
 
 /// The schedule and the jobs' status against a second telling of the rules, over random work. LOFTKEEP_SEQUENCES and
@@ -58,7 +46,7 @@ class TestDueDates : public QObject {
       const std::vector<Action> actions = Sequence(static_cast<quint32>(seed));
       if (work.Run(actions).isEmpty()) continue;
       const std::vector<Action> shortest = Shrunk(work, actions);
-      QFAIL(qPrintable(u"seed %1: %2\n%3"_s.arg(seed).arg(work.Run(shortest), Told(shortest))));
+      QFAIL(qPrintable(u"seed %1: %2\n%3"_s.arg(seed).arg(work.Run(shortest), Told(shortest, u",\n"_s))));
     }
   }
 };
